@@ -1,0 +1,38 @@
+# How this project's targets are declared: warnings, sanitizers, and the layers as libraries.
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wno-sign-conversion -Wshadow)
+add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+if(KESTA_WERROR)
+  add_compile_options(-Werror)
+endif()
+if(KESTA_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+if(KESTA_COVERAGE)
+  add_compile_options(--coverage)
+  add_link_options(--coverage)
+endif()
+
+# One layer: a static library of sources, compiled against the layers that it may include.
+# The platform and the toolkit are not linked here: a program takes them from kesta-support, or, when it has no
+# windows, from kesta-platform-only.
+function(kesta_layer name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(${name} PUBLIC ${ARG_USES})
+endfunction()
+
+# One test program and its ctest entry. UI tests run on the offscreen platform.
+function(kesta_test name)
+  cmake_parse_arguments(ARG "UI" "" "SOURCES;USES" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE ${ARG_USES} $<IF:$<BOOL:${ARG_UI}>,GTest::gtest,GTest::gtest_main>)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 120)
+  if(ARG_UI)
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+  endif()
+endfunction()
