@@ -10,8 +10,6 @@
 
 namespace kesta::host {
 
-inline constexpr int kMaximumCopies = 9999;
-
 // What the user asked for. Texts are as given; an empty one was not given.
 struct CommandLine {
     bool help = false;
@@ -23,7 +21,7 @@ struct CommandLine {
     QString server;            // -h, "host[:port][/version=1.1]" or the path of a socket; empty: the default one
     QString title;             // -t
     std::optional<int> copies; // -n, 1 to 9999
-    QString pageRanges;        // -P, as in "1-4,7,16-": ascending
+    QString pageRanges;        // -P, as in "1-4,7,16-": in order, apart from each other
     JobOptions options;        // -o
     QString ppdPath;
     QString deviceURI;
@@ -46,8 +44,5 @@ CommandLineResult ParseCommandLine(std::span<const char* const> arguments);
 
 // What --help prints.
 QString UsageText();
-
-// Nothing when the text is a list of pages like "1-4,7,16-": pages from 1, ascending, none named twice.
-std::optional<QString> PageRangesFault(QStringView text);
 
 } // namespace kesta::host

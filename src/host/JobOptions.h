@@ -26,6 +26,8 @@ std::optional<QString> FindJobOption(const JobOptions& options, QAnyStringView n
 // Replaces an option of that name or adds one at the end.
 void SetJobOption(JobOptions& options, QAnyStringView name, const QString& value);
 
+void RemoveJobOption(JobOptions& options, QAnyStringView name);
+
 // Adds what "name=value name2='a value' flag noflag" holds, as lp's -o does; a later value replaces an earlier one.
 // The form is also that of the options string that the print server hands to a filter.
 void ParseJobOptions(const QByteArray& text, JobOptions& options);
