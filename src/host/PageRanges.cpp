@@ -11,32 +11,32 @@ namespace kesta::host {
 namespace {
 
 // The page of that text; open stands for a missing one.
-PageRangesFault ReadPage(const QString& text, SInt32 open, SInt32& page)
+PageRangesProblem ReadPage(const QString& text, SInt32 open, SInt32& page)
 {
     page = open;
     if (text.isEmpty())
-        return PageRangesFault::None;
+        return PageRangesProblem::None;
     for (const QChar digit : text) {
         if (digit < u'0' || digit > u'9')
-            return PageRangesFault::NotANumber;
+            return PageRangesProblem::NotANumber;
     }
     bool fits = false;
     page = text.toInt(&fits);
-    return fits && page >= 1 && page <= kLastPage ? PageRangesFault::None : PageRangesFault::NoSuchPage;
+    return fits && page >= 1 && page <= kLastPage ? PageRangesProblem::None : PageRangesProblem::NoSuchPage;
 }
 
-PageRangesFault ReadRange(const QString& text, PageRange& range)
+PageRangesProblem ReadRange(const QString& text, PageRange& range)
 {
     const QStringList ends = text.split(u'-');
     const QString first = ends.front().trimmed();
     const QString last = ends.back().trimmed();
     if (ends.size() > 2 || (first.isEmpty() && last.isEmpty()))
-        return PageRangesFault::NotANumber;
-    if (const PageRangesFault fault = ReadPage(first, 1, range.first); fault != PageRangesFault::None)
-        return fault;
-    if (const PageRangesFault fault = ReadPage(last, kLastPage, range.last); fault != PageRangesFault::None)
-        return fault;
-    return range.last < range.first ? PageRangesFault::Backwards : PageRangesFault::None;
+        return PageRangesProblem::NotANumber;
+    if (const PageRangesProblem problem = ReadPage(first, 1, range.first); problem != PageRangesProblem::None)
+        return problem;
+    if (const PageRangesProblem problem = ReadPage(last, kLastPage, range.last); problem != PageRangesProblem::None)
+        return problem;
+    return range.last < range.first ? PageRangesProblem::Backwards : PageRangesProblem::None;
 }
 
 std::vector<PageRange> Joined(std::vector<PageRange> ranges)
@@ -64,10 +64,10 @@ PageRanges ParsePageRanges(const QString& typed)
     PageRanges read;
     for (const QString& part : text.split(u',')) {
         if (read.ranges.size() >= kMostRanges)
-            return {.ranges = {}, .fault = PageRangesFault::TooMany};
+            return {.ranges = {}, .problem = PageRangesProblem::TooMany};
         PageRange range;
-        if (const PageRangesFault fault = ReadRange(part, range); fault != PageRangesFault::None)
-            return {.ranges = {}, .fault = fault};
+        if (const PageRangesProblem problem = ReadRange(part, range); problem != PageRangesProblem::None)
+            return {.ranges = {}, .problem = problem};
         read.ranges.push_back(range);
     }
     read.ranges = Joined(std::move(read.ranges));

@@ -15,7 +15,7 @@ struct PageRange {
     bool operator==(const PageRange&) const = default;
 };
 
-enum class PageRangesFault {
+enum class PageRangesProblem {
     None,
     NotANumber, // letters, a missing number, two dashes
     NoSuchPage, // page 0 or one above kLastPage
@@ -28,7 +28,7 @@ inline constexpr std::size_t kMostRanges = 200;
 
 struct PageRanges {
     std::vector<PageRange> ranges; // in order, apart from each other; none: all pages
-    PageRangesFault fault = PageRangesFault::None;
+    PageRangesProblem problem = PageRangesProblem::None;
 };
 
 // Reads "1-4, 7" as a person types it: blanks anywhere but within a number, commas or semicolons between ranges, "7-"

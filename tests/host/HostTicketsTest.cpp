@@ -30,7 +30,7 @@ TEST(PageRanges, ReadsWhatPeopleType)
     });
     for (const auto& [typed, written] : cases) {
         const PageRanges read = ParsePageRanges(QString::fromUtf8(typed));
-        EXPECT_EQ(read.fault, PageRangesFault::None) << typed;
+        EXPECT_EQ(read.problem, PageRangesProblem::None) << typed;
         EXPECT_EQ(WritePageRanges(read.ranges, u","_s), QString::fromLatin1(written)) << typed;
     }
     EXPECT_EQ(WritePageRanges(ParsePageRanges(u"1-4,7"_s).ranges, u", "_s), u"1-4, 7"_s);
@@ -38,8 +38,8 @@ TEST(PageRanges, ReadsWhatPeopleType)
 
 TEST(PageRanges, SaysWhatIsWrong)
 {
-    using enum PageRangesFault;
-    const auto cases = std::to_array<std::pair<QString, PageRangesFault>>({
+    using enum PageRangesProblem;
+    const auto cases = std::to_array<std::pair<QString, PageRangesProblem>>({
         {u"a"_s, NotANumber},
         {u"1,"_s, NotANumber},
         {u","_s, NotANumber},
@@ -56,9 +56,9 @@ TEST(PageRanges, SaysWhatIsWrong)
         {u"7-3"_s, Backwards},
         {u"1,"_s.repeated(kMostRanges) + u"1"_s, TooMany},
     });
-    for (const auto& [typed, fault] : cases) {
+    for (const auto& [typed, problem] : cases) {
         const PageRanges read = ParsePageRanges(typed);
-        EXPECT_EQ(read.fault, fault) << typed.left(20).toStdString();
+        EXPECT_EQ(read.problem, problem) << typed.left(20).toStdString();
         EXPECT_TRUE(read.ranges.empty());
     }
 }
