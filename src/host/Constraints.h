@@ -3,6 +3,7 @@
 #include "platform/Value.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
