@@ -36,7 +36,14 @@ ppd_file_t* OpenPPD(const QString& path)
         std::fprintf(stderr, "%s\n", qUtf8Printable(*problem));
         return nullptr;
     }
-    return ppdOpenFile(QFile::encodeName(path).constData());
+    ppd_file_t* ppd = ppdOpenFile(QFile::encodeName(path).constData());
+    if (!ppd) {
+        int line = 0;
+        const char* reason = ppdErrorString(ppdLastError(&line));
+        std::fprintf(stderr, "The printer description %s can't be used: %s, line %d.\n", qUtf8Printable(path), reason,
+                     line);
+    }
+    return ppd;
 }
 
 } // namespace

@@ -1,7 +1,10 @@
 #include "platform/PPDFileCheck.h"
+#include "printer/InstallableOptions.h"
 #include "printer/PPDUtilities.h"
+#include "product/InstalledFeatures.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
+#include "toolkit/Menu.h"
 
 #include <gtest/gtest.h>
 
@@ -100,6 +103,42 @@ TEST(PPDFileCheck, AHostilePPDIsNoCurrentPPD)
     const test::CurrentPrinter hostile(ppd);
     EXPECT_EQ(PPDGetCurrent(), nullptr);
     EXPECT_NE(testing::internal::GetCapturedStderr().find("more than 2000 lines of *OpenUI"), std::string::npos);
+}
+
+TEST(PPDFileCheck, WhatTheLibraryRefusesIsSaidWithItsLine)
+{
+    PPDVariant ppd;
+    ppd.replaceLines("*FileVersion", "*FileVersion: \"1.0\"\n*OpenUI *J\xF6g/Offset: PickOne");
+    testing::internal::CaptureStderr();
+    const test::CurrentPrinter printer(ppd);
+    EXPECT_EQ(PPDGetCurrent(), nullptr);
+    const std::string messages = testing::internal::GetCapturedStderr();
+    EXPECT_NE(messages.find("can't be used: "), std::string::npos) << messages;
+    EXPECT_NE(messages.find(", line 5."), std::string::npos) << messages;
+}
+
+// libcups opens what is cut off anywhere; the rest is as if the PPD had never had it.
+TEST(PPDFileCheck, TruncatedDescriptionsDoNoHarm)
+{
+    const qsizetype whole = PPDVariant().content().size();
+    int opened = 0;
+    testing::internal::CaptureStderr();
+    for (qsizetype size = 20; size < whole; size += whole / 50) {
+        PPDVariant ppd;
+        const test::CurrentPrinter printer(ppd.truncate(size));
+        opened += PPDGetCurrent() != nullptr;
+        for (const KeywordRow& row : MainKeywordMap) {
+            Menu menu;
+            const PPDKeyword keyword = PPDKeyword::Named(row.keyword);
+            const int count = PPDPopulateMenuWithChoices(menu, PPDGetCurrent(), keyword, kNoCommand, Conflicting::Skip);
+            EXPECT_LE(count, static_cast<int>(row.choices.size()));
+        }
+        LoadInstallableOptions(PPDGetCurrent(), InstalledFeatures);
+        EXPECT_FALSE(getInstalledFeature("GenericPunchKey"));
+        UnloadInstallableOptions();
+    }
+    testing::internal::GetCapturedStderr();
+    EXPECT_GT(opened, 25);
 }
 
 } // namespace
