@@ -1,0 +1,18 @@
+#pragma once
+
+#include "printer/PPDUtilities.h"
+
+namespace kesta {
+
+// The printer's model as a person knows it, as it stands in the PPD; nothing when it does not say.
+std::optional<QString> PPDCopyModelName(const ppd_file_t* ppd);
+
+// The limits of custom page sizes, in points; all 0 when the PPD has no custom sizes.
+struct PPDCustomSizeLimits {
+    Float32 minimumWidth = 0, minimumHeight = 0, maximumWidth = 0, maximumHeight = 0;
+
+    bool operator==(const PPDCustomSizeLimits&) const = default;
+};
+PPDCustomSizeLimits PPDGetCustomSizeLimits(const ppd_file_t& ppd);
+
+} // namespace kesta
