@@ -40,9 +40,8 @@ OSStatus RunModalCustomValueDialog(const Bundle& bundle, const TextLimits& limit
     field->setText(text.value_or(QString()));
     field->setFocus();
 
-    const EventHandler commands = InstallEventHandler(*window, [&](const CommandEvent& event) {
-        return HandleCommand(bundle, *window, event.command);
-    });
+    const EventHandler commands = InstallEventHandler(
+        *window, [&](const CommandEvent& event) { return HandleCommand(bundle, *window, event.command); });
     result = RunModalLoop(*window);
     text = result == ModalResult::OK ? std::optional(field->text()) : std::nullopt;
     return noErr;

@@ -12,7 +12,8 @@ struct Menu;
 
 // Each looks the key up in the bundle's default table ("STRING NOT FOUND" when it is missing) and sets the text, with
 // the arguments in the places of its placeholders %1 to %9. Nothing happens without target or key.
-void SetLocalizedStaticText(const Bundle& bundle, QAnyStringView key, QWidget* label, const QStringList& arguments = {});
+void SetLocalizedStaticText(const Bundle& bundle, QAnyStringView key, QWidget* label,
+                            const QStringList& arguments = {});
 void SetLocalizedControlTitle(const Bundle& bundle, QAnyStringView key, QWidget* control,
                               const QStringList& arguments = {});
 void SetLocalizedWindowTitle(const Bundle& bundle, QAnyStringView key, QWidget* window,

@@ -39,7 +39,8 @@ EventHandler InstallShellHandler(PDEShellContext& shell, QWidget& target)
     return InstallEventHandler(
         target, [&shell](const HitEvent& hit) { return pdeShellEventHandler(shell, hit); },
         [&shell](const CommandEvent& command) {
-            // From Open to Close the commands have a handler of their own; taking them here, too, would go two panels on.
+            // From Open to Close the commands have a handler of their own; taking them here, too, would go two panels
+            // on.
             return shell.commandHandler ? EventResult::NotHandled : pdeShellEventHandler(shell, command);
         });
 }
@@ -154,7 +155,8 @@ OSStatus Initialize(PDEShellContext& shell, const SInt32* flags, void* reference
 {
     ppd_file_t* ppd = PPDGetCurrent();
     if (!IsOurPrinter(ppd)) {
-        std::fputs("Initialize()::GetTicketFromSession() failed.\n", stderr); // this text, although no ticket is asked for
+        std::fputs("Initialize()::GetTicketFromSession() failed.\n",
+                   stderr); // this text, although no ticket is asked for
         return kInvalidContext;
     }
     KDPInitialize();
@@ -178,8 +180,9 @@ OSStatus Open(PDEShellContext& shell)
 {
     if (!shell.parentPane)
         return kInvalidContext; // never initialized
-    shell.commandHandler = InstallEventHandler(
-        *shell.parentPane->window(), [&shell](const CommandEvent& command) { return pdeShellEventHandler(shell, command); });
+    shell.commandHandler = InstallEventHandler(*shell.parentPane->window(), [&shell](const CommandEvent& command) {
+        return pdeShellEventHandler(shell, command);
+    });
     const bool first = !shell.opened;
     if (first)
         OpenFirst(shell);

@@ -78,10 +78,8 @@ KestaPlugIn* KestaPDEPluginFactory(const void*, KestaUUID typeID)
     auto* instance = new (std::nothrow) FactoryInstance;
     if (!instance)
         return nullptr;
-    instance->ownTable = {.reserved = nullptr,
-                          .QueryInterface = QueryInterface,
-                          .AddRef = IUnknownAddRef,
-                          .Release = IUnknownRelease};
+    instance->ownTable = {
+        .reserved = nullptr, .QueryInterface = QueryInterface, .AddRef = IUnknownAddRef, .Release = IUnknownRelease};
     instance->table = &instance->ownTable;
     instance->factory = Converted(kKestaPDEFactoryID);
     CFPlugInAddInstanceForFactory(instance->factory);

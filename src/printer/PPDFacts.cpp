@@ -6,21 +6,23 @@
 
 #include <algorithm>
 #include <span>
+#include <string_view>
+
+using namespace Qt::StringLiterals;
 
 namespace kesta {
 namespace {
 
-// Null when the accessory is not fitted.
-const char* FittedAccessory(ppd_option_t& option)
+// Empty when the accessory is not fitted.
+QString FittedAccessory(ppd_option_t& option)
 {
-    const std::optional<QString> recorded = getInstallableOptionValue(option.keyword);
-    if (!recorded)
-        return nullptr;
+    const QString recorded = getInstallableOptionValue(option.keyword).value_or(QString());
+    const QString name = QString::fromUtf8(option.text);
     if (option.ui == PPD_UI_BOOLEAN)
-        return *recorded == QLatin1StringView("True") ? option.text : nullptr;
-    const bool isNothing = *recorded == QLatin1StringView("None") || *recorded == QLatin1StringView("False");
-    const ppd_choice_t* choice = isNothing ? nullptr : ppdFindChoice(&option, recorded->toUtf8().constData());
-    return choice ? choice->text : nullptr;
+        return recorded == "True"_L1 ? name : QString();
+    const ppd_choice_t* choice = ppdFindChoice(&option, recorded.toUtf8().constData());
+    const bool isNothing = !choice || recorded == "None"_L1;
+    return isNothing ? QString() : name + ": "_L1 + QString::fromUtf8(choice->text);
 }
 
 } // namespace
@@ -47,8 +49,8 @@ QStringList PPDCopyFittedAccessories(ppd_file_t* ppd)
     if (group == groups.end())
         return accessories;
     for (ppd_option_t& option : std::span(group->options, group->num_options)) {
-        if (const char* accessory = FittedAccessory(option))
-            accessories << QString::fromUtf8(accessory);
+        if (const QString accessory = FittedAccessory(option); !accessory.isEmpty())
+            accessories << accessory;
     }
     return accessories;
 }

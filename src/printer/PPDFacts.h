@@ -9,8 +9,8 @@ namespace kesta {
 // The printer's model as a person knows it, as it stands in the PPD; nothing when it does not say.
 std::optional<QString> PPDCopyModelName(const ppd_file_t* ppd);
 
-// What is fitted to the printer, in the PPD's own words and order: of a choice between several accessories the choice, of
-// a yes or no the accessory. As recorded by LoadInstallableOptions; empty without a PPD.
+// What is fitted to the printer, in the PPD's own words and order: "Fax", "Punch unit: 2 and 3 holes". As recorded by
+// LoadInstallableOptions; empty without a PPD.
 QStringList PPDCopyFittedAccessories(ppd_file_t* ppd);
 
 // The limits of custom page sizes, in points; all 0 when the PPD has no custom sizes.
