@@ -4,10 +4,10 @@
 
 namespace kesta::host {
 
-// A text of the dialog's own table.
+// A text of the dialog's own bundle.
 inline QString PrintText(const Bundle& texts, QAnyStringView key)
 {
-    return LocalizedString(texts, key, "Print");
+    return LocalizedString(texts, key);
 }
 
 } // namespace kesta::host

@@ -2,7 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
-    <name>Print</name>
+    <name>Localizable</name>
     <message>
         <source>Printer:</source>
         <translation>Printer</translation>
@@ -182,14 +182,6 @@
     <message>
         <source>Pages Too Many Message</source>
         <translation>Print at most %1 ranges at once.</translation>
-    </message>
-    <message>
-        <source>Copies Title</source>
-        <translation>The number of copies can't be read</translation>
-    </message>
-    <message>
-        <source>Copies Message</source>
-        <translation>Type a number from 1 to %1.</translation>
     </message>
     <message>
         <source>Conflict Title</source>
