@@ -51,7 +51,7 @@ SInt32 PreviousPanel(const PDEShellContext& shell)
     return previous < 1 ? static_cast<SInt32>(shell.panels.size()) : previous;
 }
 
-EventResult HandleHit(PDEShellContext& shell, const ControlEvent& hit)
+EventResult HandleHit(PDEShellContext& shell, const HitEvent& hit)
 {
     if (hit.control.signature != kSignature)
         return EventResult::NotHandled;
@@ -121,9 +121,8 @@ OSStatus Initialize(PDEShellContext& shell, QWidget& parentPane, PrintSession& s
 
 OSStatus Open(PDEShellContext& shell)
 {
-    shell.handler =
-        InstallEventHandler(*shell.parentPane, {EventKind::Hit, EventKind::Command},
-                            [&shell](const ControlEvent& event) { return pdeShellEventHandler(shell, event); });
+    shell.handler = InstallEventFunction(
+        *shell.parentPane, [&shell](const ControlEvent& event) { return pdeShellEventHandler(shell, event); });
     if (!shell.opened) {
         std::unique_ptr<QWidget> window = CreateWindowFromNib(*shell.bundle, "PDE_Shell", "Window");
         if (!window)
@@ -170,11 +169,14 @@ void selectPanel(SInt32 index, PDEShellContext& shell)
 
 EventResult pdeShellEventHandler(PDEShellContext& shell, const ControlEvent& event)
 {
-    if (event.kind == EventKind::Hit)
-        return HandleHit(shell, event);
-    if (event.command == kCommandPanelUp) // to the next panel, although the button with the up image goes back
+    if (const auto* hit = std::get_if<HitEvent>(&event))
+        return HandleHit(shell, *hit);
+    const auto* command = std::get_if<CommandEvent>(&event);
+    if (!command)
+        return EventResult::NotHandled;
+    if (command->command == kCommandPanelUp) // to the next panel, although the button with the up image goes back
         SelectAndShowInChoice(NextPanel(shell), shell);
-    else if (event.command == kCommandPanelDown)
+    else if (command->command == kCommandPanelDown)
         SelectAndShowInChoice(PreviousPanel(shell), shell);
     return EventResult::NotHandled;
 }

@@ -4,52 +4,58 @@
 #include "toolkit/ModalLoop.h"
 
 #include <QApplication>
-#include <QValidator>
 
 #include <algorithm>
 
 namespace kesta {
 namespace {
 
-class LimitValidator : public QValidator {
-public:
-    LimitValidator(QObject* parent, TextLimits limits) : QValidator(parent), limits_(std::move(limits)) {}
+bool Fits(const TextTypedEvent& typing, const TextLimits& limits)
+{
+    if (typing.isEditingOnly())
+        return true;
+    if (limits.maximumLength > 0 && typing.lengthAfter() > limits.maximumLength)
+        return false;
+    return limits.allowedCharacters.isEmpty() ||
+           std::ranges::all_of(typing.typed, [&limits](QChar c) { return limits.allowedCharacters.contains(c); });
+}
 
-    State validate(QString& text, int&) const override
+TextLength LengthOf(const QString& text, int minimumLength)
+{
+    if (text.isEmpty())
+        return TextLength::Empty;
+    return text.size() < std::max(minimumLength, 1) ? TextLength::TooShort : TextLength::LongEnough;
+}
+
+// Lives as long as the field.
+class Limiter : public QObject {
+public:
+    Limiter(QWidget& field, const TextLimits& limits)
+        : QObject(&field),
+          handler_(InstallEventHandler(
+              field,
+              [limits](const TextTypedEvent& typing) {
+                  if (Fits(typing, limits))
+                      return EventResult::NotHandled;
+                  QApplication::beep();
+                  return EventResult::Handled;
+              },
+              [&field, minimum = limits.minimumLength](const TextEditedEvent& edited) {
+                  return SendControlEvent(field, TextLengthEvent{.length = LengthOf(edited.text, minimum)});
+              }))
     {
-        const bool tooLong = limits_.maximumLength > 0 && text.size() > limits_.maximumLength;
-        const bool foreign = !limits_.allowedCharacters.isEmpty() && !std::ranges::all_of(text, [this](QChar c) {
-            return limits_.allowedCharacters.contains(c);
-        });
-        if (!tooLong && !foreign)
-            return Acceptable;
-        QApplication::beep();
-        return Invalid;
     }
 
 private:
-    TextLimits limits_;
+    EventHandler handler_;
 };
-
-EventKind TextNotification(qsizetype length, int minimumLength)
-{
-    if (length == 0)
-        return EventKind::TextEmpty;
-    return length < std::max(minimumLength, 1) ? EventKind::TextTooShort : EventKind::TextLongEnough;
-}
 
 } // namespace
 
 void LimitInputLengthAndCharacters(QLineEdit* field, const TextLimits& limits)
 {
-    if (!field)
-        return;
-    auto* validator = new LimitValidator(field, limits);
-    field->setValidator(validator);
-    QObject::connect(field, &QLineEdit::textEdited, validator,
-                     [field, minimum = limits.minimumLength](const QString& text) {
-                         SendControlEvent(*field, {.kind = TextNotification(text.size(), minimum)});
-                     });
+    if (field)
+        new Limiter(*field, limits);
 }
 
 OSStatus RunModalCustomValueDialog(const Bundle& bundle, const TextLimits& limits, std::optional<QString>& text,
@@ -65,7 +71,7 @@ OSStatus RunModalCustomValueDialog(const Bundle& bundle, const TextLimits& limit
     field->setText(text.value_or(QString()));
     field->setFocus();
 
-    const EventHandler commands = InstallEventHandler(*window, {EventKind::Command}, [&](const ControlEvent& event) {
+    const EventHandler commands = InstallEventHandler(*window, [&](const CommandEvent& event) {
         if (event.command == kCommandOK)
             EndModalLoop(*window, ModalResult::OK);
         else if (event.command == kCommandCancel)
