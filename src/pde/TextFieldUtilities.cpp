@@ -1,88 +1,78 @@
-#include "pde/MenuUtilities.h"
+#include "pde/TextFieldUtilities.h"
 
-#include "toolkit/InterfaceFile.h"
-#include "toolkit/ModalLoop.h"
+#include "toolkit/ControlEvent.h"
+#include "toolkit/TextInput.h"
 
 #include <QApplication>
+#include <QPointer>
 
 #include <algorithm>
 
 namespace kesta {
 namespace {
 
-bool Fits(const TextTypedEvent& typing, const TextLimits& limits)
-{
-    if (typing.isEditingOnly())
-        return true;
-    if (limits.maximumLength > 0 && typing.lengthAfter() > limits.maximumLength)
-        return false;
-    return limits.allowedCharacters.isEmpty() ||
-           std::ranges::all_of(typing.typed, [&limits](QChar c) { return limits.allowedCharacters.contains(c); });
-}
-
-TextLength LengthOf(const QString& text, int minimumLength)
-{
-    if (text.isEmpty())
-        return TextLength::Empty;
-    return text.size() < std::max(minimumLength, 1) ? TextLength::TooShort : TextLength::LongEnough;
-}
-
-// Lives as long as the field.
-class Limiter : public QObject {
+// The limits of one control and the handler that keeps them. Belongs to the control.
+class InputLimiter : public QObject {
 public:
-    Limiter(QWidget& field, const TextLimits& limits)
-        : QObject(&field),
-          handler_(InstallEventHandler(
-              field,
-              [limits](const TextTypedEvent& typing) {
-                  if (Fits(typing, limits))
-                      return EventResult::NotHandled;
-                  QApplication::beep();
-                  return EventResult::Handled;
-              },
-              [&field, minimum = limits.minimumLength](const TextEditedEvent& edited) {
-                  return SendControlEvent(field, TextLengthEvent{.length = LengthOf(edited.text, minimum)});
-              }))
+    explicit InputLimiter(QWidget& control) : QObject(&control)
     {
+        SendTextEvents(control);
+        handler_ = InstallEventHandler(
+            control, [this](const TextTypedEvent& event) { return textTyped(event); },
+            [this, &control](const TextEditedEvent& event) {
+                SendControlEvent(control, TextLengthEvent{.length = lengthOf(event.text)});
+                return EventResult::NotHandled;
+            },
+            [&control](const ItemChosenEvent&) {
+                SendControlEvent(control, TextLengthEvent{.length = TextLength::LongEnough});
+                return EventResult::NotHandled;
+            });
     }
+    void setLimits(const TextLimits& limits) { limits_ = limits; }
 
 private:
+    EventResult textTyped(const TextTypedEvent& event) const
+    {
+        if (event.isEditingOnly())
+            return EventResult::NotHandled;
+        const bool tooLong = limits_.maximumLength > 0 && event.lengthAfter() > limits_.maximumLength;
+        const auto allowed = [this](QChar c) { return limits_.allowedCharacters.contains(c); };
+        const bool foreign = !limits_.allowedCharacters.isEmpty() && !std::ranges::all_of(event.typed, allowed);
+        if (!tooLong && !foreign)
+            return EventResult::NotHandled;
+        QApplication::beep();
+        return EventResult::Handled;
+    }
+    TextLength lengthOf(const QString& text) const
+    {
+        if (text.isEmpty())
+            return TextLength::Empty;
+        return text.size() < std::max(limits_.minimumLength, 1) ? TextLength::TooShort : TextLength::LongEnough;
+    }
+
+    TextLimits limits_;
     EventHandler handler_;
 };
 
-} // namespace
-
-void LimitInputLengthAndCharacters(QLineEdit* field, const TextLimits& limits)
+InputLimiter* LimiterOf(const QWidget& control)
 {
-    if (field)
-        new Limiter(*field, limits);
+    for (QObject* child : control.children()) {
+        if (auto* limiter = dynamic_cast<InputLimiter*>(child))
+            return limiter;
+    }
+    return nullptr;
 }
 
-OSStatus RunModalCustomValueDialog(const Bundle& bundle, const TextLimits& limits, std::optional<QString>& text,
-                                   ModalResult& result)
+} // namespace
+
+void LimitInputLengthAndCharacters(QWidget* control, const TextLimits& limits)
 {
-    constexpr ControlID kValueField{"Util"_code, 1};
-
-    const std::unique_ptr<QWidget> window = CreateWindowFromNib(bundle, "Utilities", "CustomValue");
-    QLineEdit* field = FindTextField(window.get(), kValueField);
-    if (!field)
-        return kInterfaceFileUnreadable;
-    LimitInputLengthAndCharacters(field, limits);
-    field->setText(text.value_or(QString()));
-    field->setFocus();
-
-    const EventHandler commands = InstallEventHandler(*window, [&](const CommandEvent& event) {
-        if (event.command == kCommandOK)
-            EndModalLoop(*window, ModalResult::OK);
-        else if (event.command == kCommandCancel)
-            EndModalLoop(*window, ModalResult::Cancel);
-        else
-            return EventResult::NotHandled;
-        return EventResult::Handled;
-    });
-    result = RunModalLoop(*window);
-    text = result == ModalResult::OK ? std::optional(field->text()) : std::nullopt;
-    return noErr;
+    if (!control)
+        return;
+    InputLimiter* limiter = LimiterOf(*control);
+    if (!limiter)
+        limiter = new InputLimiter(*control);
+    limiter->setLimits(limits);
 }
 
 } // namespace kesta

@@ -50,12 +50,13 @@ TEST_F(CustomValueDialogTest, WhatDoesNotFitIsRefusedAsAWhole)
     text = QStringLiteral("1234");
     ModalUser user;
     user.then([](QWidget& window) {
-        std::vector<TextLength> lengths;
+        std::vector<EventKind> kinds;
         const EventHandler handler =
-            InstallEventHandler(window, [&](const TextLengthEvent& event) {
-                lengths.push_back(event.length);
-                return EventResult::Handled;
-            });
+            InstallEventHandler(window, {EventKind::TextEmpty, EventKind::TextTooShort, EventKind::TextLongEnough},
+                                [&](const ControlEvent& event) {
+                                    kinds.push_back(event.kind);
+                                    return EventResult::Handled;
+                                });
         field(window).setSelection(1, 2);
         field(window).insert(QStringLiteral("xyz"));
         EXPECT_EQ(field(window).text(), QStringLiteral("1234"));
@@ -64,7 +65,7 @@ TEST_F(CustomValueDialogTest, WhatDoesNotFitIsRefusedAsAWhole)
         field(window).setSelection(0, 3);
         field(window).del();
         field(window).del();
-        EXPECT_EQ(lengths, (std::vector{TextLength::LongEnough, TextLength::TooShort, TextLength::Empty}));
+        EXPECT_EQ(kinds, (std::vector{EventKind::TextLongEnough, EventKind::TextTooShort, EventKind::TextEmpty}));
         test::Press(window, kCommandCancel);
     });
     run({.minimumLength = 4, .maximumLength = 4});

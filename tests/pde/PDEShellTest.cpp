@@ -116,7 +116,7 @@ TEST_F(PDEShellTest, NextAndPreviousWrap)
         return GetShownPanel().gCurrentPanel;
     };
     const auto command = [&](FourCharCode code) {
-        EXPECT_EQ(SendControlEvent(parentPane, CommandEvent{.command = code}), EventResult::NotHandled);
+        EXPECT_EQ(SendControlEvent(parentPane, {.kind = EventKind::Command, .command = code}), EventResult::NotHandled);
     };
     EXPECT_EQ(shownAfter([&] { click(kPreviousButton); }), 3);
     EXPECT_EQ(shownAfter([&] { click(kNextButton); }), 1);
