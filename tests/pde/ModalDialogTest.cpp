@@ -50,13 +50,12 @@ TEST_F(CustomValueDialogTest, WhatDoesNotFitIsRefusedAsAWhole)
     text = QStringLiteral("1234");
     ModalUser user;
     user.then([](QWidget& window) {
-        std::vector<EventKind> kinds;
+        std::vector<TextLength> lengths;
         const EventHandler handler =
-            InstallEventHandler(window, {EventKind::TextEmpty, EventKind::TextTooShort, EventKind::TextLongEnough},
-                                [&](const ControlEvent& event) {
-                                    kinds.push_back(event.kind);
-                                    return EventResult::Handled;
-                                });
+            InstallEventHandler(window, [&](const TextLengthEvent& event) {
+                lengths.push_back(event.length);
+                return EventResult::Handled;
+            });
         field(window).setSelection(1, 2);
         field(window).insert(QStringLiteral("xyz"));
         EXPECT_EQ(field(window).text(), QStringLiteral("1234"));
@@ -65,7 +64,7 @@ TEST_F(CustomValueDialogTest, WhatDoesNotFitIsRefusedAsAWhole)
         field(window).setSelection(0, 3);
         field(window).del();
         field(window).del();
-        EXPECT_EQ(kinds, (std::vector{EventKind::TextLongEnough, EventKind::TextTooShort, EventKind::TextEmpty}));
+        EXPECT_EQ(lengths, (std::vector{TextLength::LongEnough, TextLength::TooShort, TextLength::Empty}));
         test::Press(window, kCommandCancel);
     });
     run({.minimumLength = 4, .maximumLength = 4});
