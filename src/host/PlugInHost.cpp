@@ -58,7 +58,9 @@ PlugInOrError LoadPlugIn()
     const QStringList places = BundlePlaces(u"KestaFeatures.plugin"_s);
     const QString folder = FindBundleFolder(places);
     if (folder.isEmpty())
-        return {{}, u"The printer's features (KestaFeatures.plugin) were not found in %1."_s.arg(places.join(u", "_s))};
+        return {{},
+                u"The printer's features (KestaFeatures.plugin) were not found in %1. Set KESTA_PLUGIN_PATH "
+                u"to the folder that holds them."_s.arg(places.join(u", "_s))};
     const auto [bundle, error] = LoadBundleAt(folder);
     if (!bundle)
         return {{}, error};

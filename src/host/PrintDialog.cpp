@@ -201,15 +201,10 @@ QByteArray PrintDialog::jobSettings() const
     return WriteJobSettings(tickets_);
 }
 
-std::vector<PaneSummary> PrintDialog::paneSummaries()
-{
-    return pane_ ? pane_->summaries() : std::vector<PaneSummary>();
-}
-
 QString PrintDialog::summaryText()
 {
     QStringList panels;
-    for (const PaneSummary& summary : paneSummaries())
+    for (const PaneSummary& summary : pane_ ? pane_->summaries() : std::vector<PaneSummary>())
         panels << summary.text;
     return SummaryLine(fields_->settings(), panels, *start_.texts);
 }
