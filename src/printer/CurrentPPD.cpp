@@ -27,7 +27,8 @@ std::unique_ptr<ppd_file_t, ClosePPD>& CurrentPPD()
 std::optional<QString> CurrentPPDPath()
 {
     const PrintSession* session = GetCurrentPrintSession();
-    return session ? std::optional(session->printerPPDPath) : std::nullopt;
+    const PMPrinter* printer = session ? PMSessionGetCurrentPrinter(*session) : nullptr;
+    return printer ? std::optional(printer->ppdPath) : std::nullopt;
 }
 
 ppd_file_t* OpenPPD(const QString& path)
