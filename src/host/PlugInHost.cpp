@@ -29,6 +29,12 @@ UUID DialogExtensionType()
     return type;
 }
 
+// The registry of factories knows no plug-in's own types; they are laid out alike.
+KestaPlugInFactory TypedFactory(PlugInFactory factory)
+{
+    return reinterpret_cast<KestaPlugInFactory>(reinterpret_cast<BundleFunction>(factory));
+}
+
 template <class Function> Function ExportedFunction(const Bundle& bundle, const char* name)
 {
     return reinterpret_cast<Function>(FunctionNamed(bundle, name));
@@ -66,7 +72,7 @@ PlugInOrError LoadPlugIn()
         return {{}, error};
     if (const std::optional<QString> problem = RegisterFactories(*bundle))
         return {{}, *problem};
-    PlugIn plugIn{.factory = reinterpret_cast<KestaPlugInFactory>(FindFactory(DialogExtensionType())),
+    PlugIn plugIn{.factory = TypedFactory(FindFactory(DialogExtensionType())),
                   .usePanels = ExportedFunction<KestaPDEUsePanelsFunction>(*bundle, "KestaPDEUsePanels"),
                   .findPanels = ExportedFunction<KestaPDEFindPanelsFunction>(*bundle, "KestaPDEFindPanels")};
     if (!plugIn.factory || !plugIn.usePanels || !plugIn.findPanels)

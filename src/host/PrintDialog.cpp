@@ -8,6 +8,7 @@
 #include "toolkit/InterfaceFile.h"
 #include "toolkit/ModalLoop.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QEvent>
 #include <QFileInfo>
