@@ -1,5 +1,6 @@
 #include "toolkit/ColorSwatch.h"
 
+#include "toolkit/AccessibleControls.h"
 #include "toolkit/ControlEvent.h"
 #include "toolkit/KestaColors.h"
 #include "toolkit/ModalLoop.h"
@@ -19,6 +20,7 @@ constexpr QSize kSwatchSize{64, 28};
 
 ColorSwatch::ColorSwatch(QWidget* parent) : QAbstractButton(parent)
 {
+    InstallAccessibleControls();
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QAbstractButton::clicked, this, &ColorSwatch::runColorDialog);
@@ -54,7 +56,8 @@ QSize ColorSwatch::sizeHint() const
 {
     QStyleOptionButton option;
     option.initFrom(this);
-    return style()->sizeFromContents(QStyle::CT_PushButton, &option, QSize(0, fontMetrics().height()), this)
+    return style()
+        ->sizeFromContents(QStyle::CT_PushButton, &option, QSize(0, fontMetrics().height()), this)
         .boundedTo(QSize(kSwatchSize.width(), 4 * kSwatchSize.height()));
 }
 

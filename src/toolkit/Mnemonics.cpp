@@ -33,7 +33,8 @@ void Collect(QWidget& widget, std::vector<MarkedText>& texts)
             texts.push_back({tabs, kAssignedProperty + QByteArray::number(tab), tabs->tabText(tab),
                              [tabs, tab](const QString& t) { tabs->setTabText(tab, t); }});
     } else if (auto* button = qobject_cast<QAbstractButton*>(&widget); button && !qobject_cast<PopupButton*>(button)) {
-        texts.push_back({button, kAssignedProperty, button->text(), [button](const QString& t) { button->setText(t); }});
+        texts.push_back(
+            {button, kAssignedProperty, button->text(), [button](const QString& t) { button->setText(t); }});
     }
 }
 

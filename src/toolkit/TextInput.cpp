@@ -41,9 +41,8 @@ public:
     {
         before_ = field.text();
         QObject::connect(&field, &QLineEdit::textChanged, this, [this](const QString& text) { before_ = text; });
-        QObject::connect(&field, &QLineEdit::textEdited, this, [this](const QString& text) {
-            SendControlEvent(control_, TextEditedEvent{.text = text});
-        });
+        QObject::connect(&field, &QLineEdit::textEdited, this,
+                         [this](const QString& text) { SendControlEvent(control_, TextEditedEvent{.text = text}); });
     }
 
     State validate(QString& text, int&) const override
