@@ -38,7 +38,8 @@ QString Sentence(const ConstraintRules& rules, const ConstraintRule& rule)
         const ppd_option_t& option = *term.option;
         const ppd_choice_t* choice = ppdFindMarkedChoice(rules.ppd(), option.keyword);
         if (rules.isInstallable(option))
-            accessories << u"%1 is \"%2\""_s.arg(OptionText(option), choice ? Text(choice->text, choice->choice) : u""_s);
+            accessories << u"%1 is \"%2\""_s.arg(OptionText(option),
+                                                 choice ? Text(choice->text, choice->choice) : u""_s);
         else
             settings << StateText(rules.ppd(), option);
     }

@@ -105,7 +105,7 @@ std::optional<QString> OpenPath(const QByteArray& encoded, Document& document, C
     const QString path = QFile::decodeName(encoded);
     document.name = path.section(u'/', -1);
     Descriptor descriptor(::open(encoded.constData(), O_RDONLY | O_CLOEXEC));
-    struct stat status{};
+    struct stat status {};
     if (descriptor.number() < 0 || ::fstat(descriptor.number(), &status) != 0)
         return NoAccess(path, errno);
     if (S_ISDIR(status.st_mode))
@@ -130,8 +130,8 @@ DocumentList OpenDocuments(const QByteArrayList& paths, Cancellation& cancellati
     const qsizetype count = std::max<qsizetype>(paths.size(), 1);
     for (qsizetype i = 0; i < count; ++i) {
         Document document;
-        const auto problem = paths.isEmpty() ? OpenStandardInput(document, cancellation)
-                                             : OpenPath(paths[i], document, cancellation);
+        const auto problem =
+            paths.isEmpty() ? OpenStandardInput(document, cancellation) : OpenPath(paths[i], document, cancellation);
         if (problem)
             return {{}, *problem};
         list.documents.push_back(std::move(document));

@@ -14,7 +14,7 @@ namespace kesta::host {
 // One document of a job: a regular file, open for reading at its start.
 struct Document {
     std::unique_ptr<QFile> file;
-    QString name; // for people: without folders; "(stdin)" for standard input
+    QString name;    // for people: without folders; "(stdin)" for standard input
     qint64 size = 0; // bytes, never 0
 };
 

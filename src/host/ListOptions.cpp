@@ -12,8 +12,8 @@ namespace kesta::host {
 namespace {
 
 // How the kinds of a custom choice's parameters are called; in the order of ppd_cptype_t, from "curve".
-constexpr auto kParameterKinds = std::to_array<const char*>(
-    {"CURVE", "INTEGER", "INVCURVE", "PASSCODE", "PASSWORD", "POINTS", "REAL", "STRING"});
+constexpr auto kParameterKinds =
+    std::to_array<const char*>({"CURVE", "INTEGER", "INVCURVE", "PASSCODE", "PASSWORD", "POINTS", "REAL", "STRING"});
 
 QString ParameterKind(const ppd_cparam_t& parameter)
 {

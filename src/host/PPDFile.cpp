@@ -16,12 +16,14 @@ std::optional<QString> Unfit(const QString& path)
     if (!file.open(QIODevice::ReadOnly))
         return u"unable to access \"%1\" - %2"_s.arg(path, file.errorString());
     if (file.isSequential() || file.size() > kLargestPPD)
-        return u"\"%1\" is no printer description: it is not a file of at most %2 MB"_s.arg(path).arg(kLargestPPD >> 20);
+        return u"\"%1\" is no printer description: it is not a file of at most %2 MB"_s.arg(path).arg(kLargestPPD >>
+                                                                                                      20);
     const QByteArray text = file.readAll();
     if (!text.startsWith("*PPD-Adobe"))
         return u"\"%1\" is no printer description: it does not begin with *PPD-Adobe"_s.arg(path);
-    return text.count("OpenUI") > kMostOptions ? std::optional(u"\"%1\" has more than %2 options"_s.arg(path).arg(kMostOptions))
-                                               : std::nullopt;
+    return text.count("OpenUI") > kMostOptions
+               ? std::optional(u"\"%1\" has more than %2 options"_s.arg(path).arg(kMostOptions))
+               : std::nullopt;
 }
 
 } // namespace
@@ -38,7 +40,8 @@ PPDFile OpenPPDFile(const QString& path)
     }
     int line = 0;
     const ppd_status_t status = ppdLastError(&line);
-    file.problem = u"\"%1\" can't be read, line %2: %3"_s.arg(path).arg(line).arg(QString::fromUtf8(ppdErrorString(status)));
+    file.problem =
+        u"\"%1\" can't be read, line %2: %3"_s.arg(path).arg(line).arg(QString::fromUtf8(ppdErrorString(status)));
     return file;
 }
 

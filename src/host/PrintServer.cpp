@@ -28,8 +28,7 @@ QString ServerSilentMessage(const PrintServer& server)
 }
 
 ServerConnection::ServerConnection(const PrintServer& server, Cancellation& cancellation)
-    : server_(server),
-      cancellation_(cancellation)
+    : server_(server), cancellation_(cancellation)
 {
     cupsSetServer(server.address.isEmpty() ? nullptr : server.address.toUtf8().constData());
     cupsSetPasswordCB2(NoPassword, nullptr);

@@ -14,9 +14,9 @@ namespace {
 
 constexpr qint64 kLargestPPD = 8 * 1024 * 1024; // bytes; the largest in the field are below one megabyte
 
-constexpr auto kQueueAttributes = std::to_array<const char*>(
-    {"printer-name", "printer-info", "printer-location", "printer-make-and-model", "device-uri",
-     "printer-is-accepting-jobs", "printer-state", "printer-state-message"});
+constexpr auto kQueueAttributes =
+    std::to_array<const char*>({"printer-name", "printer-info", "printer-location", "printer-make-and-model",
+                                "device-uri", "printer-is-accepting-jobs", "printer-state", "printer-state-message"});
 
 struct DestDelete {
     void operator()(cups_dest_t* destination) const { cupsFreeDests(1, destination); }
@@ -147,14 +147,13 @@ QString MissingPPDMessage(const QString& queue, http_status_t status)
 {
     if (status == HTTP_STATUS_NOT_FOUND)
         return u"The queue \"%1\" has no PPD file: its options can't be shown."_s.arg(queue);
-    return u"The PPD file of the queue \"%1\" could not be fetched: %2."_s.arg(
-        queue, QString::fromUtf8(httpStatus(status)));
+    return u"The PPD file of the queue \"%1\" could not be fetched: %2."_s.arg(queue,
+                                                                               QString::fromUtf8(httpStatus(status)));
 }
 
 // The deadline is longer than the requests may take: it is reached only when the look-up of the server's name hangs.
-template <class Result>
-BackgroundTask Aside(const PrintServer& server, std::function<void(Result)> done,
-                     std::function<Result(Cancellation&)> fetch)
+template <class Result> BackgroundTask Aside(const PrintServer& server, std::function<void(Result)> done,
+                                             std::function<Result(Cancellation&)> fetch)
 {
     const auto late = [server, done] {
         Result nothing;
@@ -210,8 +209,9 @@ QueuePPD FetchQueuePPD(const PrintServer& server, const QString& queue, Cancella
     if (!ppd.file->open())
         return {.problem = u"The PPD file of the queue \"%1\" has no place: %2."_s.arg(queue, ppd.file->errorString())};
     if (!Receive(connection, *ppd.file))
-        return {.problem = u"The PPD file of the queue \"%1\" did not arrive whole, or is larger than %2 MB."_s.arg(queue)
-                               .arg(kLargestPPD >> 20)};
+        return {.problem =
+                    u"The PPD file of the queue \"%1\" did not arrive whole, or is larger than %2 MB."_s.arg(queue).arg(
+                        kLargestPPD >> 20)};
     ppd.path = ppd.file->fileName();
     return ppd;
 }
@@ -237,9 +237,8 @@ NamedQueue FindQueue(const PrintServer& server, const QString& name, Cancellatio
 
 BackgroundTask FetchQueuesAside(const PrintServer& server, std::function<void(QueueList)> done)
 {
-    return Aside<QueueList>(server, done, [server](Cancellation& cancellation) {
-        return FetchQueues(server, cancellation);
-    });
+    return Aside<QueueList>(server, done,
+                            [server](Cancellation& cancellation) { return FetchQueues(server, cancellation); });
 }
 
 BackgroundTask FetchQueuePPDAside(const PrintServer& server, const QString& queue, std::function<void(QueuePPD)> done)
@@ -251,9 +250,8 @@ BackgroundTask FetchQueuePPDAside(const PrintServer& server, const QString& queu
 
 BackgroundTask FindQueueAside(const PrintServer& server, const QString& name, std::function<void(NamedQueue)> done)
 {
-    return Aside<NamedQueue>(server, done, [server, name](Cancellation& cancellation) {
-        return FindQueue(server, name, cancellation);
-    });
+    return Aside<NamedQueue>(
+        server, done, [server, name](Cancellation& cancellation) { return FindQueue(server, name, cancellation); });
 }
 
 } // namespace kesta::host

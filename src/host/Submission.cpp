@@ -36,7 +36,8 @@ private:
 // One job on its way.
 class Sending {
 public:
-    Sending(const PrintServer& server, const PrintJob& job, Cancellation& cancellation, const ProgressFunction& progress)
+    Sending(const PrintServer& server, const PrintJob& job, Cancellation& cancellation,
+            const ProgressFunction& progress)
         : server_(server),
           job_(job),
           cancellation_(cancellation),
@@ -109,7 +110,8 @@ bool Sending::sendBytes(QFile& file, qint64 size)
             return false;
         }
         connection_.expectAnswer();
-        const http_status_t status = cupsWriteRequestData(connection_.http(), buffer.data(), static_cast<size_t>(count));
+        const http_status_t status =
+            cupsWriteRequestData(connection_.http(), buffer.data(), static_cast<size_t>(count));
         if (status != HTTP_STATUS_CONTINUE || cancellation_.requested())
             return false;
         left -= count;
@@ -122,9 +124,8 @@ bool Sending::sendBytes(QFile& file, qint64 size)
 bool Sending::send(Document& document, bool isLast)
 {
     connection_.expectAnswer();
-    const http_status_t status =
-        cupsStartDocument(connection_.http(), job_.queue.toUtf8().constData(), jobID_,
-                          document.name.toUtf8().constData(), format(), isLast ? 1 : 0);
+    const http_status_t status = cupsStartDocument(connection_.http(), job_.queue.toUtf8().constData(), jobID_,
+                                                   document.name.toUtf8().constData(), format(), isLast ? 1 : 0);
     if (status != HTTP_STATUS_CONTINUE || !sendBytes(*document.file, document.size))
         return false;
     connection_.expectAnswer();
@@ -162,9 +163,9 @@ SubmissionResult Sending::interrupted()
                                ? u"%1 went away"_s.arg(ServerName(server_))
                                : u"%1 says: %2"_s.arg(ServerName(server_), QString::fromUtf8(cupsLastErrorString()));
     const bool cancelled = cancelAtServer();
-    const QString fate = cancelled
-                             ? u"The job %1 was cancelled"_s.arg(jobName())
-                             : u"The job %1 could not be cancelled: look whether it is there (lpstat -o)"_s.arg(jobName());
+    const QString fate =
+        cancelled ? u"The job %1 was cancelled"_s.arg(jobName())
+                  : u"The job %1 could not be cancelled: look whether it is there (lpstat -o)"_s.arg(jobName());
     if (cancellation_.requested())
         return {.message = fate + u'.', .cancelled = true};
     return {.message = u"The document could not be sent to queue \"%1\": %2. %3; then print again."_s.arg(
@@ -184,8 +185,7 @@ SubmissionResult Sending::run(std::vector<Document>& documents)
         if (!send(document, &document == &documents.back()))
             return interrupted();
     }
-    return {.jobID = jobID_,
-            .message = u"request id is %1 (%2 file(s))"_s.arg(jobName()).arg(job_.files.size())};
+    return {.jobID = jobID_, .message = u"request id is %1 (%2 file(s))"_s.arg(jobName()).arg(job_.files.size())};
 }
 
 } // namespace

@@ -35,6 +35,13 @@ bool ChooseScreen(const CommandLine& commandLine)
     return !commandLine.scriptPath.isEmpty() && qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
+// Drops what Qt's offscreen platform says it can't do; nobody looks at its windows.
+void WriteMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (!message.startsWith(u"This plugin does not support "_s))
+        std::fprintf(stderr, "%s\n", qUtf8Printable(qFormatLogMessage(type, context, message)));
+}
+
 DialogScript ReadScript(const QString& path)
 {
     if (path.isEmpty())
@@ -112,6 +119,8 @@ int Run(int argc, char** argv)
     }
     if (!ChooseScreen(commandLine))
         return Fail(u"there is no display to show the dialog on: use --no-dialog or --script FILE"_s);
+    if (qEnvironmentVariable("QT_QPA_PLATFORM") == u"offscreen")
+        qInstallMessageHandler(WriteMessage);
     QApplication application(programOnly, argv);
     InstallKestaStyle(application);
     InstallToolkitServices();

@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QLabel>
-#include <QVBoxLayout>
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -14,14 +13,14 @@ namespace {
 
 // A plug-in whose operations are noted in the order of the calls.
 struct FakePlugIn {
-    QStringList calls;
+    QStringList calls = {};
     KestaStatus prologue = 0;
     KestaStatus initialize = 0;
     KestaStatus open = 0;
     QWidget* pane = nullptr;
     int plugIns = 0; // alive
     int panes = 0;
-    std::vector<std::string> panels;
+    std::vector<std::string> panels = {};
     bool usesOwnPanels = false;
     KestaStatus missing = 0;
 };
