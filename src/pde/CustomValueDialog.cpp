@@ -8,7 +8,7 @@ namespace kesta {
 namespace {
 
 constexpr ControlID kValueField{"Util"_code, 1};
-constexpr char kHelpPage[] = "image_options/db_custom_color_d.htm";
+constexpr QLatin1StringView kHelpPage("image_options/db_custom_color_d.htm");
 
 EventResult HandleCommand(const Bundle& bundle, QWidget& window, FourCharCode command)
 {
