@@ -40,7 +40,7 @@ Fault SetPages(CommandLine& line, const QByteArray& value)
 {
     const QString text = QString::fromUtf8(value);
     const PageRanges pages = ParsePageRanges(text);
-    if (pages.fault != PageRangesFault::None || pages.ranges.empty())
+    if (pages.problem != PageRangesProblem::None || pages.ranges.empty())
         return u"\"-P %1\" is not a page list: give pages from 1 and ranges, as in -P 1-4,7,16-."_s.arg(text);
     line.pageRanges = WritePageRanges(pages.ranges, u","_s);
     return {};

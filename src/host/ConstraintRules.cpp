@@ -1,5 +1,7 @@
 #include "host/ConstraintRules.h"
 
+#include <QList>
+
 #include <algorithm>
 #include <array>
 

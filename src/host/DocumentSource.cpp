@@ -2,9 +2,12 @@
 
 #include <QTemporaryFile>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <span>
+#include <utility>
 
 #include <fcntl.h>
 #include <poll.h>

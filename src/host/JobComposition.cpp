@@ -1,17 +1,27 @@
 #include "host/JobComposition.h"
 
-#include "host/HostTickets.h"
 #include "host/TicketTransport.h"
-
-#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace kesta::host {
 namespace {
 
-// The print protocol counts the orientations in another order.
-constexpr std::array kOrientationRequested{0, 3, 4, 6, 5};
+// The print protocol's number of an orientation.
+int RequestedOrientation(Orientation orientation)
+{
+    switch (orientation) {
+    case Orientation::Landscape:
+        return 4;
+    case Orientation::ReverseLandscape:
+        return 5;
+    case Orientation::ReversePortrait:
+        return 6;
+    case Orientation::Portrait:
+        break;
+    }
+    return 3;
+}
 
 std::optional<QString> AddChecked(JobOptions& options, const JobOption& option)
 {
@@ -39,18 +49,15 @@ void AddFields(JobOptions& options, const JobFields& fields)
     if (!fields.pageRanges.isEmpty())
         SetJobOption(options, u"page-ranges", fields.pageRanges);
     if (fields.pagesPerSheet)
-        SetJobOption(options, u"number-up", QString::number(fields.pagesPerSheet));
-    if (fields.orientation == Orientation{})
+        SetJobOption(options, u"number-up", QString::number(*fields.pagesPerSheet));
+    if (!fields.orientation)
         return;
     // Upright is how a document without the option comes out; asking for it would turn landscape pages.
     RemoveJobOption(options, u"landscape");
     RemoveJobOption(options, u"orientation-requested");
     if (fields.orientation != Orientation::Portrait)
-        SetJobOption(options, u"orientation-requested",
-                     QString::number(kOrientationRequested.at(static_cast<std::size_t>(fields.orientation))));
+        SetJobOption(options, u"orientation-requested", QString::number(RequestedOrientation(*fields.orientation)));
 }
-
-} // namespace
 
 JobOptions PPDJobOptions(const Dictionary& ppdChoices)
 {
@@ -61,6 +68,8 @@ JobOptions PPDJobOptions(const Dictionary& ppdChoices)
     }
     return options;
 }
+
+} // namespace
 
 ComposedOptions ComposeJobOptions(const JobSources& sources)
 {

@@ -2,6 +2,8 @@
 
 #include "host/PPDFile.h"
 
+#include <QStringList>
+
 #include <cups/cups.h>
 
 #include <array>

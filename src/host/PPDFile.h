@@ -17,7 +17,7 @@ struct PPDFile {
     QString problem;                           // empty, or why it can't be read: one line
 };
 
-// Opens a PPD of any origin. Bounded work: the library's reading time grows with the square of the number of options.
+// Opens a PPD of any origin, plain or gzipped, in bounded time.
 PPDFile OpenPPDFile(const QString& path);
 
 inline constexpr char kInstallableOptionsGroup[] = "InstallableOptions";

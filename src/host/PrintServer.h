@@ -12,7 +12,7 @@ namespace kesta::host {
 
 // Which server, and how long it may be silent before it counts as gone.
 struct PrintServer {
-    QString address; // as -h; empty: what CUPS_SERVER or the system's configuration says
+    QString address = {}; // as -h; empty: what CUPS_SERVER or the system's configuration says
     std::chrono::milliseconds patience{10'000};
 };
 

@@ -34,9 +34,9 @@ struct QueueList {
 
 // A queue's PPD, as a private file that goes away with the last copy of this record.
 struct QueuePPD {
-    std::shared_ptr<QTemporaryFile> file;
-    QString path;         // of that file; empty when the queue has no PPD or could not be asked
-    QString problem;      // empty when there is a path
+    std::shared_ptr<QTemporaryFile> file = {};
+    QString path = {};    // of that file; empty when the queue has no PPD or could not be asked
+    QString problem = {}; // empty when there is a path
     bool hasNone = false; // the server answered: this queue has no PPD
 };
 

@@ -12,10 +12,10 @@
 namespace kesta::host {
 
 struct PrintJob {
-    QString queue;        // the name without instance
-    QString title;        // empty: the first file's name, or "(stdin)"
-    QByteArrayList files; // local paths; none: the document is on standard input
-    JobOptions options;
+    QString queue = {};        // the name without instance
+    QString title = {};        // empty: the first file's name, or "(stdin)"
+    QByteArrayList files = {}; // local paths; none: the document is on standard input
+    JobOptions options = {};
 };
 
 struct SubmissionProgress {
@@ -25,7 +25,7 @@ struct SubmissionProgress {
 
 struct SubmissionResult {
     int jobID = 0;          // 0: nothing was printed
-    QString message;        // "request id is QUEUE-N (1 file(s))", or what went wrong and what to do
+    QString message = {};   // "request id is QUEUE-N (1 file(s))", or what went wrong and what to do
     bool cancelled = false; // by the user
     bool sent() const { return jobID != 0; }
 };

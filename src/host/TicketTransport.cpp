@@ -127,7 +127,7 @@ EncodedTicket EncodeTicket(const QByteArray& propertyList)
     const Header header{count, propertyList.size(), Checksum(propertyList)};
     EncodedTicket encoded;
     for (int i = 0; i < count; ++i) {
-        const QByteArray piece = WritePiece(header, i + 1, QByteArrayView(text).mid(i * kTextAnOption, kTextAnOption));
+        const QByteArray piece = WritePiece(header, i + 1, text.mid(i * kTextAnOption, kTextAnOption));
         encoded.options.push_back(
             {QLatin1StringView(kTicketOptionPrefix) + QString::number(i + 1), QString::fromLatin1(piece)});
     }
