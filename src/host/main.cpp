@@ -1,5 +1,6 @@
 // kesta-print: a print dialog, and lp with the pane's options.
 
+#include "host/Console.h"
 #include "host/NoDialog.h"
 #include "host/PrintDialog.h"
 #include "host/ScriptPlayer.h"
@@ -21,7 +22,14 @@ constexpr char kPaneBundle[] = "com.kesta.print.pde.kestafeatures.vt4100_4200_43
 
 int Fail(const QString& reason)
 {
-    std::fprintf(stderr, "kesta-print: %s\n", qUtf8Printable(reason));
+    PrintFailure(reason);
+    return 1;
+}
+
+// In the form that dialog scripts promise.
+int FailScript(const QString& fault)
+{
+    std::fprintf(stderr, "%s\n", qUtf8Printable(fault));
     return 1;
 }
 
@@ -86,7 +94,7 @@ int RunDialog(const CommandLine& commandLine)
     const bool isScripted = !commandLine.scriptPath.isEmpty();
     DialogScript script = ReadScript(commandLine.scriptPath);
     if (!script.error.isEmpty())
-        return Fail(script.error);
+        return FailScript(script.error);
     PlugInOrError plugIn = PreparePlugIn(commandLine.panels);
     if (!plugIn.plugIn && !commandLine.panels.isEmpty()) // the panels were asked for
         return 1;
@@ -101,7 +109,7 @@ int RunDialog(const CommandLine& commandLine)
                               [texts](const QString& key) { return TranslationsOf(key, *texts); });
     const int status = dialog.run();
     if (const std::optional<QString> fault = player.fault())
-        return Fail(*fault);
+        return FailScript(*fault);
     return status;
 }
 
