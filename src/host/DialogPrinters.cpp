@@ -105,10 +105,12 @@ PaneMessage PrintDialog::whyNoPane() const
 {
     const Bundle& texts = *start_.texts;
     if (!start_.plugIn.plugIn)
-        return {PrintText(texts, "No Plug-in Title"), PrintText(texts, "No Plug-in Way Out").arg(start_.plugIn.error)};
+        return {PrintText(texts, "No Plug-in Title"), PrintText(texts, "No Plug-in Message").arg(start_.plugIn.error)};
     const QString name = PrinterTitle(printer_->queue, texts);
-    const char* key = facts_.problem.isEmpty() ? "Other Maker Message" : "No Description Message";
-    return {PrintText(texts, "Plain Options Title"), PrintText(texts, key).arg(name)};
+    const QString message = facts_.problem.isEmpty()
+                                ? PrintText(texts, "Other Maker Message").arg(name)
+                                : PrintText(texts, "No Description Message").arg(name, facts_.problem);
+    return {PrintText(texts, "Plain Options Title"), message};
 }
 
 void PrintDialog::closePane()

@@ -1,5 +1,6 @@
 // What Print and Save Settings do.
 
+#include "host/Console.h"
 #include "host/Constraints.h"
 #include "host/DialogOptions.h"
 #include "host/JobComposition.h"
@@ -11,8 +12,6 @@
 #include "platform/PropertyList.h"
 #include "platform/SafeFile.h"
 #include "toolkit/InterfaceFile.h"
-
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -43,11 +42,6 @@ Alert ConflictQuestion(const ConflictReport& report, const Bundle& texts)
             PrintText(texts, "Conflict Message").arg(sentences.join(u'\n'), changes.join(u'\n')),
             {PrintText(texts, "Accept Changes"), goBack},
             1};
-}
-
-void Complain(const QString& reason)
-{
-    std::fprintf(stderr, "kesta-print: %s\n", qUtf8Printable(reason));
 }
 
 } // namespace
@@ -104,7 +98,7 @@ bool PrintDialog::saveSettingsTo(const QString& path)
     const std::optional<FileError> error = WriteFile(path, jobSettings(), FileAccess::OwnerOnly);
     if (!error)
         return true;
-    Complain(error->text);
+    PrintFailure(error->text);
     status_ = 1;
     GetNotices().show({.title = PrintText(*start_.texts, "Saving Failed Title"), .message = error->text});
     return false;
@@ -137,7 +131,7 @@ bool PrintDialog::saveAfterPrint()
     if (printer_->isQueue())
         return true;
     if (start_.scripted) {
-        Complain(u"the settings are not saved: no --save-settings FILE was given"_s);
+        PrintNote(u"the settings are not saved: no --save-settings FILE was given"_s);
         return true;
     }
     const std::optional<QString> chosen =
@@ -185,10 +179,8 @@ void PrintDialog::sent(const SubmissionResult& result)
     sending_.reset();
     SetControlEnabled(FindControl(window_.get(), {kPrintSignature, kPrintButton}), true);
     if (result.sent()) {
-        if (!start_.commandLine.silent) {
-            std::printf("%s\n", qUtf8Printable(result.message));
-            std::fflush(stdout);
-        }
+        if (!start_.commandLine.silent)
+            PrintLine(result.message);
         end(0);
     } else if (result.cancelled) {
         openPane();
@@ -200,7 +192,7 @@ void PrintDialog::sent(const SubmissionResult& result)
 // Everything stays as it was set, to try again.
 void PrintDialog::failedToPrint(const QString& reason)
 {
-    Complain(reason);
+    PrintFailure(reason);
     status_ = 1;
     const Bundle& texts = *start_.texts;
     openPane();

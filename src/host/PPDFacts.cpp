@@ -1,22 +1,9 @@
 #include "host/PPDFacts.h"
 
-#include "platform/PPDFileCheck.h"
-
-#include <QFile>
-
-#include <cups/ppd.h>
-
-#include <memory>
-
-using namespace Qt::StringLiterals;
+#include "host/PPDFile.h"
 
 namespace kesta::host {
 namespace {
-
-struct ClosePPD {
-    void operator()(ppd_file_t* ppd) const { ppdClose(ppd); }
-};
-using OpenedPPD = std::unique_ptr<ppd_file_t, ClosePPD>;
 
 QString Text(const char* utf8)
 {
@@ -37,7 +24,6 @@ void AddChoices(const ppd_group_t& group, PPDFacts& facts)
 
 std::optional<PaperRect> PaperOf(ppd_file_t& ppd, const Dictionary& chosen)
 {
-    ppdMarkDefaults(&ppd);
     if (const QString* size = chosen.string("PageSize"))
         ppdMarkOption(&ppd, "PageSize", size->toUtf8().constData());
     const ppd_size_t* size = ppdPageSize(&ppd, nullptr);
@@ -56,11 +42,9 @@ bool PPDFacts::offers(const QString& keyword, const QString& choice) const
 
 PPDFacts ReadPPDFacts(const QString& ppdPath, const Dictionary& chosen)
 {
-    if (const std::optional<QString> problem = PPDFileProblem(ppdPath))
-        return {.problem = *problem};
-    const OpenedPPD ppd(ppdOpenFile(QFile::encodeName(ppdPath).constData()));
+    const auto [ppd, problem] = OpenPPDFile(ppdPath);
     if (!ppd)
-        return {.problem = u"%1 is not a printer description."_s.arg(ppdPath)};
+        return {.problem = problem};
     PPDFacts facts{.name = Text(ppd->nickname ? ppd->nickname : ppd->modelname), .paper = PaperOf(*ppd, chosen)};
     for (int i = 0; i < ppd->num_groups; ++i)
         AddChoices(ppd->groups[i], facts);

@@ -29,6 +29,12 @@ UUID DialogExtensionType()
     return type;
 }
 
+// The registry of factories knows no plug-in's own types; they are laid out alike.
+KestaPlugInFactory TypedFactory(PlugInFactory factory)
+{
+    return reinterpret_cast<KestaPlugInFactory>(reinterpret_cast<BundleFunction>(factory));
+}
+
 template <class Function> Function ExportedFunction(const Bundle& bundle, const char* name)
 {
     return reinterpret_cast<Function>(FunctionNamed(bundle, name));
@@ -58,13 +64,15 @@ PlugInOrError LoadPlugIn()
     const QStringList places = BundlePlaces(u"KestaFeatures.plugin"_s);
     const QString folder = FindBundleFolder(places);
     if (folder.isEmpty())
-        return {{}, u"The printer's features (KestaFeatures.plugin) were not found in %1."_s.arg(places.join(u", "_s))};
+        return {{},
+                u"The printer's features (KestaFeatures.plugin) were not found in %1. Set KESTA_PLUGIN_PATH "
+                u"to the folder that holds them."_s.arg(places.join(u", "_s))};
     const auto [bundle, error] = LoadBundleAt(folder);
     if (!bundle)
         return {{}, error};
     if (const std::optional<QString> problem = RegisterFactories(*bundle))
         return {{}, *problem};
-    PlugIn plugIn{.factory = reinterpret_cast<KestaPlugInFactory>(FindFactory(DialogExtensionType())),
+    PlugIn plugIn{.factory = TypedFactory(FindFactory(DialogExtensionType())),
                   .usePanels = ExportedFunction<KestaPDEUsePanelsFunction>(*bundle, "KestaPDEUsePanels"),
                   .findPanels = ExportedFunction<KestaPDEFindPanelsFunction>(*bundle, "KestaPDEFindPanels")};
     if (!plugIn.factory || !plugIn.usePanels || !plugIn.findPanels)

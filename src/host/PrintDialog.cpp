@@ -8,6 +8,7 @@
 #include "toolkit/InterfaceFile.h"
 #include "toolkit/ModalLoop.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QEvent>
 #include <QFileInfo>
@@ -201,15 +202,10 @@ QByteArray PrintDialog::jobSettings() const
     return WriteJobSettings(tickets_);
 }
 
-std::vector<PaneSummary> PrintDialog::paneSummaries()
-{
-    return pane_ ? pane_->summaries() : std::vector<PaneSummary>();
-}
-
 QString PrintDialog::summaryText()
 {
     QStringList panels;
-    for (const PaneSummary& summary : paneSummaries())
+    for (const PaneSummary& summary : pane_ ? pane_->summaries() : std::vector<PaneSummary>())
         panels << summary.text;
     return SummaryLine(fields_->settings(), panels, *start_.texts);
 }

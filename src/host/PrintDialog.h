@@ -7,6 +7,7 @@
 #include "host/Pane.h"
 #include "host/PaneArea.h"
 #include "host/PrinterFinder.h"
+#include "host/ScriptPlayer.h"
 #include "host/Submission.h"
 #include "platform/JobSettings.h"
 #include "toolkit/ControlEvent.h"
@@ -25,7 +26,7 @@ struct DialogStart {
 };
 
 // The print dialog: its window, the chosen printer with its pane, and the job's tickets.
-class PrintDialog : public QObject {
+class PrintDialog : public QObject, public ScriptedDialog {
 public:
     explicit PrintDialog(DialogStart start);
     ~PrintDialog() override;
@@ -37,14 +38,12 @@ public:
     // failed, else 0, also after Cancel.
     int run();
 
-    // What a dialog script asks for besides the window's own controls.
-    bool isBusy() const { return finder_.isBusy() || sending_.has_value(); }
-    bool syncPane(bool toControls); // false: there is no pane
-    QByteArray jobSettings() const; // as the tickets are now
-    QString summaryText();
-    std::vector<PaneSummary> paneSummaries();
-    void updateSummary();
-    QWidget& window() { return *window_; }
+    QWidget& window() override { return *window_; }
+    bool isBusy() const override { return finder_.isBusy() || sending_.has_value(); }
+    bool syncPane(bool toControls) override;
+    QByteArray jobSettings() const override;
+    QString summaryText() override;
+    void updateSummary() override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -67,7 +67,7 @@ QString TypeText(const QWidget& window, const ScriptStep& step, const ScriptText
     for (const QChar character : step.text) {
         if (!field)
             return u"the field went away while it was typed into"_s;
-        TypeKey(*field, character == u'\n' ? Qt::Key_Return : character.toUpper().unicode(), character);
+        TypeKey(*field, character == u'\n' ? int{Qt::Key_Return} : int{character.toUpper().unicode()}, character);
     }
     return {};
 }

@@ -139,8 +139,9 @@ FoundControl FindScriptControl(const QWidget& window, const ScriptName& name, co
     const QString spelled = Spelled(name);
     if (isHidden)
         return {nullptr, u"%1 is hidden"_s.arg(spelled)};
-    return {nullptr, (isOfOtherKind ? u"%1 can't be used that way"_s : u"there is no %1 in \"%2\""_s)
-                         .arg(spelled, window.windowTitle())};
+    if (isOfOtherKind)
+        return {nullptr, u"%1 can't be used that way"_s.arg(spelled)};
+    return {nullptr, u"there is no %1 in \"%2\""_s.arg(spelled, window.windowTitle())};
 }
 
 FoundControl FindUsable(const QWidget& window, const ScriptName& name, const ScriptTexts& texts,

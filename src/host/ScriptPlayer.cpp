@@ -1,5 +1,6 @@
 #include "host/ScriptPlayer.h"
 
+#include "host/Console.h"
 #include "host/ScriptActions.h"
 #include "platform/SafeFile.h"
 #include "toolkit/Controls.h"
@@ -8,8 +9,6 @@
 #include <QPixmap>
 #include <QThread>
 #include <QTimer>
-
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -28,12 +27,6 @@ QString WriteDump(const QByteArray& settings, const QString& file)
 {
     const std::optional<FileError> error = WriteFile(file, settings, FileAccess::OwnerOnly);
     return error ? error->text : QString();
-}
-
-void PrintLine(const QString& text)
-{
-    std::printf("%s\n", qUtf8Printable(text));
-    std::fflush(stdout);
 }
 
 QString PressCommand(const QWidget& window, FourCharCode command)

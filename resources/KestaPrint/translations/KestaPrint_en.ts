@@ -141,15 +141,15 @@
     </message>
     <message>
         <source>No Description Message</source>
-        <translation>%1 has no printer description (PPD) that could be read. You can still print with copies, pages and orientation as set above.</translation>
+        <translation>%1 has no printer description (PPD) that can be used: %2 You can still print with copies, pages and orientation as set above.</translation>
     </message>
     <message>
         <source>No Plug-in Title</source>
         <translation>The printer's own options are missing</translation>
     </message>
     <message>
-        <source>No Plug-in Way Out</source>
-        <translation>%1 Set KESTA_PLUGIN_PATH to the folder that holds it. You can still print with copies, pages and orientation as set above.</translation>
+        <source>No Plug-in Message</source>
+        <translation>%1 You can still print with copies, pages and orientation as set above.</translation>
     </message>
     <message>
         <source>Pages Not Understood Title</source>
