@@ -4,6 +4,7 @@
 #include "platform/PPDFileCheck.h"
 
 #include <QFile>
+#include <QUrl>
 
 #include <cups/ppd.h>
 
@@ -28,7 +29,10 @@ std::optional<QString> CurrentPPDPath()
 {
     const PrintSession* session = GetCurrentPrintSession();
     const PMPrinter* printer = session ? PMSessionGetCurrentPrinter(*session) : nullptr;
-    return printer ? std::optional(printer->ppdPath) : std::nullopt;
+    const std::optional<QString> url =
+        printer ? PMPrinterGetDescriptionURL(*printer, kPMPPDDescriptionType) : std::nullopt;
+    const QString path = url ? QUrl(*url).toLocalFile() : QString();
+    return path.isEmpty() ? std::nullopt : std::optional(path);
 }
 
 ppd_file_t* OpenPPD(const QString& path)

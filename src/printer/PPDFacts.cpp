@@ -1,6 +1,7 @@
 #include "printer/PPDFacts.h"
 
 #include "printer/InstallableOptions.h"
+#include "printer/PPDEncoding.h"
 
 #include <cups/ppd.h>
 
@@ -14,15 +15,15 @@ namespace kesta {
 namespace {
 
 // Empty when the accessory is not fitted.
-QString FittedAccessory(ppd_option_t& option)
+QString FittedAccessory(ppd_file_t* ppd, ppd_option_t& option)
 {
     const QString recorded = getInstallableOptionValue(option.keyword).value_or(QString());
-    const QString name = QString::fromUtf8(option.text);
+    const QString name = PPDDecodeText(ppd, option.text);
     if (option.ui == PPD_UI_BOOLEAN)
         return recorded == "True"_L1 ? name : QString();
     const ppd_choice_t* choice = ppdFindChoice(&option, recorded.toUtf8().constData());
     const bool isNothing = !choice || recorded == "None"_L1;
-    return isNothing ? QString() : name + ": "_L1 + QString::fromUtf8(choice->text);
+    return isNothing ? QString() : name + ": "_L1 + PPDDecodeText(ppd, choice->text);
 }
 
 } // namespace
@@ -49,7 +50,7 @@ QStringList PPDCopyFittedAccessories(ppd_file_t* ppd)
     if (group == groups.end())
         return accessories;
     for (ppd_option_t& option : std::span(group->options, group->num_options)) {
-        if (const QString accessory = FittedAccessory(option); !accessory.isEmpty())
+        if (const QString accessory = FittedAccessory(ppd, option); !accessory.isEmpty())
             accessories << accessory;
     }
     return accessories;
