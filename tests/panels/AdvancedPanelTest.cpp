@@ -42,7 +42,7 @@ protected:
     PopupButton* popup(Control number) { return FindPopupButton(&pane, {kSignature, number}); }
     OSStatus sync(bool toControls) { return slots->Sync(prologue.context, &session, toControls); }
 
-    PrintSession session{.data = {}, .printerPPDPath = QStringLiteral(TEST_DATA "/kesta.ppd")};
+    PrintSession session{.printer = PMPrinter{.ppdPath = QStringLiteral(TEST_DATA "/kesta.ppd")}};
     Ticket ticket;
     QWidget pane;
     const PanelInterface* slots = nullptr;
