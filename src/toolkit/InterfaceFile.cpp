@@ -1,14 +1,24 @@
 #include "toolkit/InterfaceFile.h"
 
 #include "platform/Bundle.h"
+#include "toolkit/ClickableText.h"
+#include "toolkit/ColorSwatch.h"
+#include "toolkit/HistoryComboBox.h"
+#include "toolkit/InterfaceSetUp.h"
+#include "toolkit/ListView.h"
+#include "toolkit/MenuButton.h"
+#include "toolkit/PictureView.h"
+#include "toolkit/SpinField.h"
+#include "toolkit/SummaryTextView.h"
+#include "toolkit/TabControl.h"
+#include "toolkit/TextArea.h"
 
-#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QFile>
-#include <QLabel>
 #include <QUiLoader>
-#include <QVBoxLayout>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -16,19 +26,44 @@ using namespace Qt::StringLiterals;
 namespace kesta {
 namespace {
 
+struct WidgetClass {
+    const char* name; // in interface files
+    QWidget* (*make)(QWidget* parent);
+};
+
+template <class Widget> QWidget* Make(QWidget* parent)
+{
+    return new Widget(parent);
+}
+
+constexpr auto kWidgetClasses = std::to_array<WidgetClass>({
+    {"PopupButton", Make<PopupButton>},
+    {"MenuButton", Make<MenuButton>},
+    {"SpinField", Make<SpinField>},
+    {"HistoryComboBox", Make<HistoryComboBox>},
+    {"ColorSwatch", Make<ColorSwatch>},
+    {"ClickableText", Make<ClickableText>},
+    {"PictureView", Make<PictureView>},
+    {"ListView", Make<ListView>},
+    {"TabControl", Make<TabControl>},
+    {"SummaryTextView", Make<SummaryTextView>},
+    {"TextArea", Make<TextArea>},
+    {"QPlainTextEdit", Make<TextArea>},
+});
+
 class Loader : public QUiLoader {
 public:
     QString unknownClass;
 
     QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override
     {
-        if (className == u"PopupButton") {
-            auto* popup = new PopupButton(parent);
-            popup->setObjectName(name);
-            return popup;
-        }
-        QWidget* widget = QUiLoader::createWidget(className, parent, name);
-        if (!widget)
+        const auto ours = std::ranges::find_if(
+            kWidgetClasses, [&](const WidgetClass& one) { return className == QLatin1String(one.name); });
+        QWidget* widget =
+            ours != kWidgetClasses.end() ? ours->make(parent) : QUiLoader::createWidget(className, parent, name);
+        if (widget)
+            widget->setObjectName(name);
+        else
             unknownClass = className;
         return widget;
     }
@@ -42,34 +77,16 @@ Loader& SharedLoader()
         QCoreApplication::setLibraryPaths({});
         auto made = std::make_unique<Loader>();
         QCoreApplication::setLibraryPaths(paths);
+        made->setTranslationEnabled(false); // texts are keys of the bundle's tables
         return made;
     }();
     return *loader;
 }
 
-void SendButtonEvents(QAbstractButton& button)
+FourCharCode SignatureOf(const QWidget& root)
 {
-    const QPointer<QAbstractButton> alive = &button;
-    SendControlEvent(button, {.kind = EventKind::Hit, .value = button.isChecked()});
-    if (!alive)
-        return;
-    const QByteArray command = button.property("menuCommand").toString().toLatin1();
-    if (command.size() == 4)
-        SendControlEvent(button, {.kind = EventKind::Command, .command = PackCode(command.constData())});
-}
-
-void SetUpWidget(QWidget& widget, FourCharCode signature, const Bundle& bundle)
-{
-    if (const SInt32 number = GetControlID(widget).number)
-        SetControlID(widget, {signature, number});
-    if (auto* label = qobject_cast<QLabel*>(&widget); label && !label->text().isEmpty())
-        label->setText(LocalizedString(bundle, label->text()));
-    auto* button = qobject_cast<QAbstractButton*>(&widget);
-    if (!button || dynamic_cast<PopupButton*>(button))
-        return;
-    if (!button->text().isEmpty())
-        button->setText(LocalizedString(bundle, button->text()));
-    QObject::connect(button, &QAbstractButton::clicked, button, [button] { SendButtonEvents(*button); });
+    const QByteArray signature = root.property("controlSignature").toString().toLatin1();
+    return signature.size() == 4 ? PackCode(signature.constData()) : 0;
 }
 
 } // namespace
@@ -89,69 +106,8 @@ std::unique_ptr<QWidget> CreateWindowFromNib(const Bundle& bundle, QAnyStringVie
         std::fprintf(stderr, "%s: %s\n", qUtf8Printable(file.fileName()), qUtf8Printable(reason));
         return nullptr;
     }
-    const QByteArray signature = root->property("controlSignature").toString().toLatin1();
-    const FourCharCode code = signature.size() == 4 ? PackCode(signature.constData()) : 0;
-    SetUpWidget(*root, code, bundle);
-    for (QWidget* widget : root->findChildren<QWidget*>())
-        SetUpWidget(*widget, code, bundle);
+    SetUpWindow(*root, SignatureOf(*root), bundle);
     return root;
-}
-
-QWidget* FindControl(const QWidget* root, ControlID id)
-{
-    if (!root)
-        return nullptr;
-    for (QWidget* widget : root->findChildren<QWidget*>()) {
-        if (GetControlID(*widget) == id)
-            return widget;
-    }
-    return nullptr;
-}
-
-PopupButton* FindPopupButton(const QWidget* root, ControlID id)
-{
-    return dynamic_cast<PopupButton*>(FindControl(root, id));
-}
-
-QLineEdit* FindTextField(const QWidget* root, ControlID id)
-{
-    return qobject_cast<QLineEdit*>(FindControl(root, id));
-}
-
-QWidget* EmbedAndShowControl(std::unique_ptr<QWidget> control, QWidget& parent)
-{
-    QWidget* embedded = control.release();
-    EmbedControl(*embedded, &parent);
-    embedded->show();
-    return embedded;
-}
-
-void EmbedControl(QWidget& control, QWidget* parent)
-{
-    if (!parent)
-        return;
-    control.setParent(parent);
-    if (!parent->layout())
-        (new QVBoxLayout(parent))->setContentsMargins(0, 0, 0, 0);
-    parent->layout()->addWidget(&control);
-}
-
-void SetControlVisible(QWidget* control, bool visible)
-{
-    if (control)
-        control->setVisible(visible);
-}
-
-void SetControlEnabled(QWidget* control, bool enabled)
-{
-    if (control)
-        control->setEnabled(enabled);
-}
-
-void ClickControl(QWidget* control)
-{
-    if (auto* button = qobject_cast<QAbstractButton*>(control))
-        button->click();
 }
 
 } // namespace kesta

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "toolkit/ControlEvent.h"
-#include "toolkit/PopupButton.h"
+#include "toolkit/Controls.h"
 
 #include <QAnyStringView>
-#include <QLineEdit>
 
 #include <memory>
 
@@ -12,26 +10,18 @@ namespace kesta {
 
 struct Bundle;
 
-// The commands of the buttons that end or explain a dialog.
-inline constexpr FourCharCode kCommandOK = "OKAY"_code;
-inline constexpr FourCharCode kCommandCancel = "CNCL"_code;
-inline constexpr FourCharCode kCommandHelp = "HELP"_code;
-
-// Loads <interface file>/<window>.ui from the bundle's resources with its texts, which stand there as localizable
-// keys. Buttons send hits and, where they carry a command, the command. Null when the file or a class named in it is
-// unknown; the reason goes to standard error.
+// Loads <interface file>/<window>.ui from the bundle's resources. Null when the file or a class named in it is unknown;
+// the reason goes to standard error.
+//
+// In the file: texts (also tool tips, placeholders, titles of tabs and columns) are keys of the bundle's default table;
+// the key stays on the widget as its dynamic property "localizableKey". `controlSignature` (four characters, on the
+// root) and `controlNumber` make a widget a control; `menuCommand` (four characters) is a button's command; `picture` a
+// picture view's or button's file; `look` see KestaStyle.h. The standard buttons OK, Cancel and Help of a button box
+// carry their commands. Where no button is the default one, the one of kCommandOK becomes it.
+//
+// In the window: buttons send hits and commands; fields, spin fields, combo boxes, tabs and lists what their headers
+// say; controls send key events; a control without an accessible name has that of its label; trailing widgets are of
+// one width.
 std::unique_ptr<QWidget> CreateWindowFromNib(const Bundle& bundle, QAnyStringView interfaceFile, QAnyStringView window);
-
-// Null when there is no such control below the root, or no root: interface files may lack parts, and everything that
-// takes a control by pointer accepts null.
-QWidget* FindControl(const QWidget* root, ControlID id);
-PopupButton* FindPopupButton(const QWidget* root, ControlID id);
-QLineEdit* FindTextField(const QWidget* root, ControlID id);
-
-QWidget* EmbedAndShowControl(std::unique_ptr<QWidget> control, QWidget& parent); // the parent owns it from here on
-void EmbedControl(QWidget& control, QWidget* parent);
-void SetControlVisible(QWidget* control, bool visible);
-void SetControlEnabled(QWidget* control, bool enabled);
-void ClickControl(QWidget* control); // as the user would: nothing when it is disabled
 
 } // namespace kesta

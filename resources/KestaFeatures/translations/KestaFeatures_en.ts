@@ -1,0 +1,1405 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>PDE Shell</source>
+        <translation>Kesta Features</translation>
+    </message>
+    <message>
+        <source>Invalid Secure Print Passcode Header</source>
+        <translation>Secure Print needs a valid passcode</translation>
+    </message>
+    <message>
+        <source>Invalid Secure Print Passcode Message</source>
+        <extracomment>%1 and %2: least and most number of digits</extracomment>
+        <translation>Enter the same passcode of %1 to %2 digits in both fields of the Secure Print setup.</translation>
+    </message>
+    <message>
+        <source>PrinterDefault</source>
+        <translation>Printer default</translation>
+    </message>
+    <message>
+        <source>UseJobSetting</source>
+        <translation>Same as job</translation>
+    </message>
+    <message>
+        <source>Normal Print</source>
+        <translation>Normal Print</translation>
+    </message>
+    <message>
+        <source>SecurePrint</source>
+        <translation>Secure Print</translation>
+    </message>
+    <message>
+        <source>SampleSet</source>
+        <translation>Sample Set</translation>
+    </message>
+    <message>
+        <source>DelayedPrint</source>
+        <translation>Delayed Print</translation>
+    </message>
+    <message>
+        <source>SavedJob</source>
+        <translation>Saved Job</translation>
+    </message>
+    <message>
+        <source>Fax</source>
+        <translation>Fax</translation>
+    </message>
+    <message>
+        <source>Simplex</source>
+        <translation>One-sided</translation>
+    </message>
+    <message>
+        <source>Duplex</source>
+        <translation>Two-sided, bound on the long edge</translation>
+    </message>
+    <message>
+        <source>DuplexShort</source>
+        <translation>Two-sided, bound on the short edge</translation>
+    </message>
+    <message>
+        <source>600 x 600 Resolution</source>
+        <translation>600 × 600 dpi</translation>
+    </message>
+    <message>
+        <source>CoverPrinted</source>
+        <translation>Printed</translation>
+    </message>
+    <message>
+        <source>CoverBlankorPreprinted</source>
+        <translation>Blank or preprinted</translation>
+    </message>
+    <message>
+        <source>Separator Option None</source>
+        <translation>No separators</translation>
+    </message>
+    <message>
+        <source>Separator Option Blank</source>
+        <translation>Blank separators</translation>
+    </message>
+    <message>
+        <source>Separator Option Printed</source>
+        <translation>Printed separators</translation>
+    </message>
+    <message>
+        <source>StockSizeLetter</source>
+        <translation>Letter (8.5 × 11 in)</translation>
+    </message>
+    <message>
+        <source>StockSizeA4</source>
+        <translation>A4 (210 × 297 mm)</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Disabled (Recommended)</source>
+        <translation>Off (recommended)</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Speed</translation>
+    </message>
+    <message>
+        <source>Economy</source>
+        <translation>Economy</translation>
+    </message>
+    <message>
+        <source>PhotoKeyAshendowne</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>StandardKeyAshendowne</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>TonerSaver</source>
+        <translation>Toner saver</translation>
+    </message>
+    <message>
+        <source>Page Number Limit Title</source>
+        <translation>A page number is too large</translation>
+    </message>
+    <message>
+        <source>Page Number Limit</source>
+        <extracomment>%1: the most digits that a page number may have</extracomment>
+        <translation>Type page numbers of at most %1 digits.</translation>
+    </message>
+    <message>
+        <source>Invalid Pages Title</source>
+        <translation>These pages can’t be read</translation>
+    </message>
+    <message>
+        <source>Invalid Page Ranges</source>
+        <translation>Type page numbers and ranges with commas between them, for example 1, 3-7, 12-.</translation>
+    </message>
+    <message>
+        <source>Invalid Ranges Title</source>
+        <translation>A page range runs backwards</translation>
+    </message>
+    <message>
+        <source>Invalid Range Order</source>
+        <translation>Type the smaller page first, for example 3-7.</translation>
+    </message>
+    <message>
+        <source>Invalid Page Numbers Title</source>
+        <translation>Page numbers start at 1</translation>
+    </message>
+    <message>
+        <source>Invalid Page Numbers Message</source>
+        <translation>Type pages from 1 upwards, for example 1, 3-7.</translation>
+    </message>
+    <message>
+        <source>PageRangeConflictTitle</source>
+        <translation>Some of these pages already have an exception</translation>
+    </message>
+    <message>
+        <source>PageRangeConflictMessage</source>
+        <translation>Choose other pages, or edit the exception that holds them.</translation>
+    </message>
+    <message>
+        <source>PaperOutput</source>
+        <translation>Paper/Output</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>Job Type:</source>
+        <translation>Job type</translation>
+    </message>
+    <message>
+        <source>Paper Summary:</source>
+        <translation>Paper</translation>
+    </message>
+    <message>
+        <source>Separators Option</source>
+        <translation>Transparency Separators…</translation>
+    </message>
+    <message>
+        <source>Two Sided Printing:</source>
+        <translation>Two-sided printing</translation>
+    </message>
+    <message>
+        <source>Print Quality:</source>
+        <translation>Print quality</translation>
+    </message>
+    <message>
+        <source>Stapling:</source>
+        <translation>Stapling</translation>
+    </message>
+    <message>
+        <source>Hole Punch:</source>
+        <translation>Hole punch</translation>
+    </message>
+    <message>
+        <source>No Staple Value</source>
+        <translation>No staples</translation>
+    </message>
+    <message>
+        <source>NoHolePunch</source>
+        <translation>No holes</translation>
+    </message>
+    <message>
+        <source>No Fold</source>
+        <translation>No fold</translation>
+    </message>
+    <message>
+        <source>BiFoldNoStaple</source>
+        <translation>Single fold</translation>
+    </message>
+    <message>
+        <source>Z Fold Half Sheet</source>
+        <translation>Half-sheet Z fold</translation>
+    </message>
+    <message>
+        <source>Booklet Creation...</source>
+        <translation>Booklet Creation…</translation>
+    </message>
+    <message>
+        <source>Output Destination:</source>
+        <translation>Output destination</translation>
+    </message>
+    <message>
+        <source>Finishing Label</source>
+        <translation>Finishing</translation>
+    </message>
+    <message>
+        <source>Booklet FoldStaple</source>
+        <translation>Booklet fold and staple</translation>
+    </message>
+    <message>
+        <source>HolePunch</source>
+        <translation>Hole punched</translation>
+    </message>
+    <message>
+        <source>2 Hole Punch</source>
+        <translation>2 holes</translation>
+    </message>
+    <message>
+        <source>3 Hole Punch</source>
+        <translation>3 holes</translation>
+    </message>
+    <message>
+        <source>4 Hole Punch</source>
+        <translation>4 holes</translation>
+    </message>
+    <message>
+        <source>Separators</source>
+        <translation>Separators</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Booklet Fold</source>
+        <translation>Booklet fold</translation>
+    </message>
+    <message>
+        <source>Booklet Layout</source>
+        <translation>Booklet layout</translation>
+    </message>
+    <message>
+        <source>FoldCFold</source>
+        <translation>C fold</translation>
+    </message>
+    <message>
+        <source>FoldZFold</source>
+        <translation>Z fold</translation>
+    </message>
+    <message>
+        <source>1 Staple</source>
+        <translation>1 staple</translation>
+    </message>
+    <message>
+        <source>2 Staples</source>
+        <translation>2 staples</translation>
+    </message>
+    <message>
+        <source>4 Staples</source>
+        <translation>4 staples</translation>
+    </message>
+    <message>
+        <source>:</source>
+        <extracomment>Stands between a word and its value</extracomment>
+        <translation>:</translation>
+    </message>
+    <message>
+        <source>2HolePunch</source>
+        <translation>2 holes</translation>
+    </message>
+    <message>
+        <source>3HolePunch</source>
+        <translation>3 holes</translation>
+    </message>
+    <message>
+        <source>4HolePunch</source>
+        <translation>4 holes</translation>
+    </message>
+    <message>
+        <source>FoldZFoldHalfSheet</source>
+        <translation>Half-sheet Z fold</translation>
+    </message>
+    <message>
+        <source>Tray 8 Inserter Value</source>
+        <translation>Tray 8 (inserter)</translation>
+    </message>
+    <message>
+        <source>SecurePrintSetupTitle</source>
+        <translation>Secure Print</translation>
+    </message>
+    <message>
+        <source>SecurePrintHintText</source>
+        <translation>The printer keeps the job until you enter this passcode on its control panel.</translation>
+    </message>
+    <message>
+        <source>Passcode:</source>
+        <translation>Passcode</translation>
+    </message>
+    <message>
+        <source>ConfirmPasscode:</source>
+        <translation>Confirm passcode</translation>
+    </message>
+    <message>
+        <source>Min-Max Digits</source>
+        <extracomment>%1 and %2: least and most number of digits</extracomment>
+        <translation>%1 to %2 digits</translation>
+    </message>
+    <message>
+        <source>Passcode Required Header</source>
+        <translation>A passcode was made for you</translation>
+    </message>
+    <message>
+        <source>Passcode Required Message</source>
+        <extracomment>%1 and %2: least and most number of digits; %3: the passcode</extracomment>
+        <translation>Note %3: you need it at the printer. To choose your own, of %1 to %2 digits, open the setup again.</translation>
+    </message>
+    <message>
+        <source>TimeToPrint:</source>
+        <translation>Time to print</translation>
+    </message>
+    <message>
+        <source>Saved Job</source>
+        <translation>Saved Job</translation>
+    </message>
+    <message>
+        <source>SavePrint</source>
+        <translation>Save and print</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>SecureSavedJob:</source>
+        <translation>Protect with a passcode</translation>
+    </message>
+    <message>
+        <source>PublicFolder</source>
+        <translation>Default public folder</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save only</translation>
+    </message>
+    <message>
+        <source>Job Name:</source>
+        <translation>Job name</translation>
+    </message>
+    <message>
+        <source>UseJobName</source>
+        <translation>Use the document’s name</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>OK Command</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel Command</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>SpecialPagesTitle</source>
+        <translation>Special Pages</translation>
+    </message>
+    <message>
+        <source>Add Covers Command</source>
+        <translation>Add Covers…</translation>
+    </message>
+    <message>
+        <source>Add Inserts Command</source>
+        <translation>Add Inserts…</translation>
+    </message>
+    <message>
+        <source>Add Exceptions Command</source>
+        <translation>Add Exceptions…</translation>
+    </message>
+    <message>
+        <source>Edit Command</source>
+        <translation>Edit…</translation>
+    </message>
+    <message>
+        <source>Delete Command</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Delete All Command</source>
+        <translation>Delete All</translation>
+    </message>
+    <message>
+        <source>Undo Command</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Move Up Command</source>
+        <translation>Move Up</translation>
+    </message>
+    <message>
+        <source>Move Down Command</source>
+        <translation>Move Down</translation>
+    </message>
+    <message>
+        <source>Page(s)</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Type Title</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Attributes Title</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>SpecialPageSummaryFront</source>
+        <translation>Front</translation>
+    </message>
+    <message>
+        <source>SpecialPageSummaryBack</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>SpecialPageSummaryCover</source>
+        <translation>Cover</translation>
+    </message>
+    <message>
+        <source>SpecialPageSummaryInsert</source>
+        <translation>Insert</translation>
+    </message>
+    <message>
+        <source>SpecialPageSummaryException</source>
+        <translation>Exception</translation>
+    </message>
+    <message>
+        <source>SpecialPageSummaryBefore1</source>
+        <translation>Before 1</translation>
+    </message>
+    <message>
+        <source>Paper Name Label</source>
+        <extracomment>Followed by the name that the user gave to a paper</extracomment>
+        <translation>Paper</translation>
+    </message>
+    <message>
+        <source>InsertSummaryQuantity</source>
+        <extracomment>Followed by a number</extracomment>
+        <translation>Sheets</translation>
+    </message>
+    <message>
+        <source>StockTypePrecutTab</source>
+        <extracomment>Followed by the number of tabs in brackets</extracomment>
+        <translation>Precut tabs</translation>
+    </message>
+    <message>
+        <source>Delete Special Pages Title</source>
+        <translation>Delete special pages?</translation>
+    </message>
+    <message>
+        <source>Delete Selected Special Pages</source>
+        <translation>The selected covers, inserts and exceptions leave the list. Undo brings them back.</translation>
+    </message>
+    <message>
+        <source>Delete All Special Pages</source>
+        <translation>All covers, inserts and exceptions leave the list. Undo brings them back.</translation>
+    </message>
+    <message>
+        <source>No Command</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Yes Command</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Defaults</translation>
+    </message>
+    <message>
+        <source>Job Settings Label</source>
+        <translation>Job settings</translation>
+    </message>
+    <message>
+        <source>Cover Options Label</source>
+        <translation>Covers</translation>
+    </message>
+    <message>
+        <source>Front Cover Paper Label</source>
+        <translation>Front cover paper</translation>
+    </message>
+    <message>
+        <source>Back Cover Paper Label</source>
+        <translation>Back cover paper</translation>
+    </message>
+    <message>
+        <source>Front Cover Source Label</source>
+        <translation>Front cover printing</translation>
+    </message>
+    <message>
+        <source>Back Cover Source Label</source>
+        <translation>Back cover printing</translation>
+    </message>
+    <message>
+        <source>Insert Options Label</source>
+        <translation>Place</translation>
+    </message>
+    <message>
+        <source>Insert Quantity Label</source>
+        <translation>Sheets</translation>
+    </message>
+    <message>
+        <source>Pages Label</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Page Range Instructions</source>
+        <translation>Page numbers and ranges, for example 1, 3-7</translation>
+    </message>
+    <message>
+        <source>ImageShift:</source>
+        <translation>Image shift</translation>
+    </message>
+    <message>
+        <source>Covers Dialog Title Edit</source>
+        <translation>Edit Covers</translation>
+    </message>
+    <message>
+        <source>Covers Dialog Title Add</source>
+        <translation>Add Covers</translation>
+    </message>
+    <message>
+        <source>InsertsDialogTitleEdit</source>
+        <translation>Edit Inserts</translation>
+    </message>
+    <message>
+        <source>InsertsDialogTitleAdd</source>
+        <translation>Add Inserts</translation>
+    </message>
+    <message>
+        <source>Edit Exceptions Title</source>
+        <translation>Edit Exceptions</translation>
+    </message>
+    <message>
+        <source>Add Exceptions Title</source>
+        <translation>Add Exceptions</translation>
+    </message>
+    <message>
+        <source>No Covers</source>
+        <translation>No covers</translation>
+    </message>
+    <message>
+        <source>Front Cover Only</source>
+        <translation>Front cover only</translation>
+    </message>
+    <message>
+        <source>Back Cover Only</source>
+        <translation>Back cover only</translation>
+    </message>
+    <message>
+        <source>Same Covers</source>
+        <translation>Front and back cover, the same</translation>
+    </message>
+    <message>
+        <source>Different Covers</source>
+        <translation>Front and back cover, different</translation>
+    </message>
+    <message>
+        <source>After Page</source>
+        <translation>After pages</translation>
+    </message>
+    <message>
+        <source>Setup...</source>
+        <translation>Set Up…</translation>
+    </message>
+    <message>
+        <source>ImageOptions</source>
+        <translation>Image Options</translation>
+    </message>
+    <message>
+        <source>StockName</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>StockColor</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>OtherSize</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>OtherColor</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>OtherType</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Invalid Paper Size Header</source>
+        <translation>The printer can’t take paper of this size</translation>
+    </message>
+    <message>
+        <source>Invalid Paper Size Message</source>
+        <translation>The sizes now lie within the limits. Check them, then choose OK again.</translation>
+    </message>
+    <message>
+        <source>Custom Size Setup</source>
+        <translation>Custom Paper Size</translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation>Width</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Length</translation>
+    </message>
+    <message>
+        <source>Units Label</source>
+        <translation>Units</translation>
+    </message>
+    <message>
+        <source>Tab Stock Setup</source>
+        <translation>Tab Stock Setup</translation>
+    </message>
+    <message>
+        <source>Number in Sequence:</source>
+        <translation>Tabs in a set</translation>
+    </message>
+    <message>
+        <source>Tab Margin Shift:</source>
+        <translation>Tab margin shift</translation>
+    </message>
+    <message>
+        <source>0.5" (8.5x11" Template)</source>
+        <translation>0.5 in (8.5 × 11 in template)</translation>
+    </message>
+    <message>
+        <source>12.7 mm (A4 Template)</source>
+        <translation>12.7 mm (A4 template)</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>Transparency Separator Option Label</source>
+        <translation>Transparency separators</translation>
+    </message>
+    <message>
+        <source>Transparency Separator Color Label</source>
+        <translation>Separator color</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Inches</translation>
+    </message>
+    <message>
+        <source>Millimeters</source>
+        <translation>Millimeters</translation>
+    </message>
+    <message>
+        <source>BookletWatermarkPanelTitle</source>
+        <translation>Booklet/Watermark</translation>
+    </message>
+    <message>
+        <source>Booklet Layout:</source>
+        <translation>Booklet layout</translation>
+    </message>
+    <message>
+        <source>Booklet Options... Title</source>
+        <translation>Booklet Options…</translation>
+    </message>
+    <message>
+        <source>Watermark Title</source>
+        <translation>Watermark</translation>
+    </message>
+    <message>
+        <source>No Page Borders</source>
+        <translation>No borders</translation>
+    </message>
+    <message>
+        <source>Draw Page Borders</source>
+        <translation>Draw borders around pages</translation>
+    </message>
+    <message>
+        <source>WatermarkBackground</source>
+        <translation>Behind the page</translation>
+    </message>
+    <message>
+        <source>WatermarkBlend</source>
+        <translation>Blended with the page</translation>
+    </message>
+    <message>
+        <source>WatermarkForeground</source>
+        <translation>In front of the page</translation>
+    </message>
+    <message>
+        <source>WatermarkPrintOnAllPages</source>
+        <translation>On all pages</translation>
+    </message>
+    <message>
+        <source>WatermarmPrintOnPage1Only</source>
+        <translation>On page 1 only</translation>
+    </message>
+    <message>
+        <source>Watermark Editor</source>
+        <translation>Watermark Editor</translation>
+    </message>
+    <message>
+        <source>Delete Watermark Header</source>
+        <translation>Delete this watermark?</translation>
+    </message>
+    <message>
+        <source>Delete Watermark Message</source>
+        <extracomment>%1: the name of the watermark</extracomment>
+        <translation>The watermark “%1” is removed for everybody who uses this computer.</translation>
+    </message>
+    <message>
+        <source>Booklet Options Title</source>
+        <translation>Booklet Options</translation>
+    </message>
+    <message>
+        <source>Booklet Finishing:</source>
+        <translation>Booklet finishing</translation>
+    </message>
+    <message>
+        <source>Booklet Fold and Staple</source>
+        <translation>Booklet fold and staple</translation>
+    </message>
+    <message>
+        <source>Draw Outlines</source>
+        <translation>Draw page outlines</translation>
+    </message>
+    <message>
+        <source>Fit to New Size Label</source>
+        <translation>Fit to new size</translation>
+    </message>
+    <message>
+        <source>Gutter Label</source>
+        <translation>Gutter</translation>
+    </message>
+    <message>
+        <source>Gutter Range Label</source>
+        <extracomment>%1 and %2: least and greatest gutter</extracomment>
+        <translation>%1 to %2 points</translation>
+    </message>
+    <message>
+        <source>Creep Label</source>
+        <translation>Creep</translation>
+    </message>
+    <message>
+        <source>Creep Range Label</source>
+        <extracomment>%1 and %2: least and greatest creep</extracomment>
+        <translation>%1 to %2 points</translation>
+    </message>
+    <message>
+        <source>NoWatermark</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>-</source>
+        <extracomment>A line between menu items: leave it as it is</extracomment>
+        <translation>-</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>New...</source>
+        <translation>New…</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>Edit…</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>DraftWatermark</source>
+        <translation>Draft</translation>
+    </message>
+    <message>
+        <source>ConfidentialWatermark</source>
+        <translation>Confidential</translation>
+    </message>
+    <message>
+        <source>CopyWatermark</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Scale</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Density</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>U.S.</source>
+        <translation>U.S.</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>ShowFonts</source>
+        <translation>Show Fonts…</translation>
+    </message>
+    <message>
+        <source>ChoosePicture</source>
+        <translation>Choose Picture…</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Center</translation>
+    </message>
+    <message>
+        <source>Font:</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Image Quality:</source>
+        <translation>Image quality</translation>
+    </message>
+    <message>
+        <source>Invert Image Label</source>
+        <translation>Mirroring</translation>
+    </message>
+    <message>
+        <source>Mirror Image Title</source>
+        <translation>Mirror image</translation>
+    </message>
+    <message>
+        <source>JobNotes</source>
+        <translation>Job Notes</translation>
+    </message>
+    <message>
+        <source>UseLoginName</source>
+        <translation>Use the login name</translation>
+    </message>
+    <message>
+        <source>Sender Name:</source>
+        <translation>Sender</translation>
+    </message>
+    <message>
+        <source>Recipient Name:</source>
+        <translation>Recipient</translation>
+    </message>
+    <message>
+        <source>Banner Message:</source>
+        <translation>Message on the banner sheet</translation>
+    </message>
+    <message>
+        <source>Job Start Message:</source>
+        <translation>Message when the job starts</translation>
+    </message>
+    <message>
+        <source>AdditionalInfo:</source>
+        <translation>Additional information</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>Advanced</translation>
+    </message>
+    <message>
+        <source>RightToLeft</source>
+        <translation>Right to left</translation>
+    </message>
+    <message>
+        <source>LeftToRight</source>
+        <translation>Left to right</translation>
+    </message>
+    <message>
+        <source>Face Down</source>
+        <translation>Face down</translation>
+    </message>
+    <message>
+        <source>Face Up</source>
+        <translation>Face up</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>Scan</translation>
+    </message>
+    <message>
+        <source>Gather</source>
+        <translation>Gather</translation>
+    </message>
+    <message>
+        <source>True</source>
+        <translation>True</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>False</translation>
+    </message>
+    <message>
+        <source>Tessaline 9100</source>
+        <translation>Tessaline 9100</translation>
+    </message>
+    <message>
+        <source>Booklet Image Order:</source>
+        <translation>Booklet image order</translation>
+    </message>
+    <message>
+        <source>Output Options:</source>
+        <translation>Output options</translation>
+    </message>
+    <message>
+        <source>Banner Sheet:</source>
+        <translation>Banner sheet</translation>
+    </message>
+    <message>
+        <source>Request Offset:</source>
+        <translation>Request offset</translation>
+    </message>
+    <message>
+        <source>Mirrored Output:</source>
+        <translation>Mirrored output</translation>
+    </message>
+    <message>
+        <source>Printing Optimization:</source>
+        <translation>Printing optimization</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>About…</translation>
+    </message>
+    <message>
+        <source>KESTA_WEB_LINKS</source>
+        <extracomment>Also the title of the window that the button opens</extracomment>
+        <translation>Printer Web Pages…</translation>
+    </message>
+    <message>
+        <source>WEB_LINK_SYSTEM_STATUS</source>
+        <translation>Printer Status</translation>
+    </message>
+    <message>
+        <source>WEB_LINK_ORDER_SUPPLIES</source>
+        <translation>Order Supplies</translation>
+    </message>
+    <message>
+        <source>WEB_LINK_DOCUMENTATION</source>
+        <translation>Documentation</translation>
+    </message>
+    <message>
+        <source>WEB_LINK_KESTA_SUPPORT_CENTER</source>
+        <translation>Kesta Support Center</translation>
+    </message>
+    <message>
+        <source>WEB_LINK_HEADER</source>
+        <translation>Pages about this printer, opened in your web browser</translation>
+    </message>
+    <message>
+        <source>WEB_LINK_SYSTEM_STATUS_TEXT</source>
+        <translation>Trays, toner and jobs, on the printer’s own page</translation>
+    </message>
+    <message>
+        <source>WEB_LINK_COLOR_TEXT</source>
+        <translation>Advice on color and color management</translation>
+    </message>
+    <message>
+        <source>WEB_LINK_CORVIDS_TEXT</source>
+        <translation>Ready-made settings and templates</translation>
+    </message>
+    <message>
+        <source>WEB_LINK_ORDER_SUPPLIES_TEXT</source>
+        <translation>Toner, staples and paper for this printer</translation>
+    </message>
+    <message>
+        <source>WEB_LINK_DOCUMENTATION_TEXT</source>
+        <translation>User guides for this printer</translation>
+    </message>
+    <message>
+        <source>WEB_LINK_KESTA_CENTER_SUPPORT_TEXT</source>
+        <translation>Help and troubleshooting on this computer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>Print a Confirmation Sheet</source>
+        <translation>Print a confirmation sheet</translation>
+    </message>
+    <message>
+        <source>Do Not Print a Confirmation Sheet</source>
+        <translation>No confirmation sheet</translation>
+    </message>
+    <message>
+        <source>Forced 4800 bps</source>
+        <translation>4800 bit/s, forced</translation>
+    </message>
+    <message>
+        <source>G3 (14.4 Kbps)</source>
+        <translation>G3 (14.4 kbit/s)</translation>
+    </message>
+    <message>
+        <source>Super G3 (33.6 Kbps)</source>
+        <translation>Super G3 (33.6 kbit/s)</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Fine</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Superfine</source>
+        <translation>Superfine</translation>
+    </message>
+    <message>
+        <source>Do Not Print a Cover Sheet</source>
+        <translation>No cover sheet</translation>
+    </message>
+    <message>
+        <source>Print a Cover Sheet...</source>
+        <translation>Cover sheet…</translation>
+    </message>
+    <message>
+        <source>Show All Recipients</source>
+        <translation>Show all recipients</translation>
+    </message>
+    <message>
+        <source>Hide Recipient's Information</source>
+        <translation>Hide the recipients</translation>
+    </message>
+    <message>
+        <source>Show Custom Text</source>
+        <translation>Show a text of your own</translation>
+    </message>
+    <message>
+        <source>Show Sender's Information</source>
+        <translation>Show the sender</translation>
+    </message>
+    <message>
+        <source>Hide Sender's Information</source>
+        <translation>Hide the sender</translation>
+    </message>
+    <message>
+        <source>Cover Sheet Paper Size</source>
+        <translation>Cover Sheet Paper Size</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Previous panel</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Next panel</translation>
+    </message>
+</context>
+<context>
+    <name>LANFax</name>
+    <message>
+        <source>Fax Window Title</source>
+        <translation>Fax</translation>
+    </message>
+    <message>
+        <source>Recipients</source>
+        <translation>Recipients</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Cover Sheet</source>
+        <translation>Cover Sheet</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Fax Number</source>
+        <translation>Fax number</translation>
+    </message>
+    <message>
+        <source>Organization</source>
+        <translation>Organization</translation>
+    </message>
+    <message>
+        <source>Phone Number</source>
+        <translation>Phone</translation>
+    </message>
+    <message>
+        <source>E-mail Address</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Mailbox</source>
+        <translation>Mailbox</translation>
+    </message>
+    <message>
+        <source>Add Recipient...</source>
+        <translation>Add Recipient…</translation>
+    </message>
+    <message>
+        <source>Add From Address Book...</source>
+        <translation>Add From Address Book…</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>Edit…</translation>
+    </message>
+    <message>
+        <source>Save as Group...</source>
+        <translation>Save as Group…</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferences…</translation>
+    </message>
+    <message>
+        <source>Remove Command</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Send At:</source>
+        <translation>Send at</translation>
+    </message>
+    <message>
+        <source>Send Now</source>
+        <translation>Send now</translation>
+    </message>
+    <message>
+        <source>Notes Label</source>
+        <extracomment>Printed on the cover sheet</extracomment>
+        <translation>Notes</translation>
+    </message>
+    <message>
+        <source>Duplicate Recipient Header</source>
+        <translation>Add this recipient again?</translation>
+    </message>
+    <message>
+        <source>Duplicate Recipient Message</source>
+        <extracomment>%1: fax number; %2: the recipient’s name</extracomment>
+        <translation>%2 with the fax number %1 is already in the list.</translation>
+    </message>
+    <message>
+        <source>Add Fax Recipient Dialog Title</source>
+        <translation>Add Fax Recipient</translation>
+    </message>
+    <message>
+        <source>Fax Recipient Dialog Title</source>
+        <translation>Edit Fax Recipient</translation>
+    </message>
+    <message>
+        <source>Fax Preferences Dialog Title</source>
+        <translation>Fax Preferences</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Fax Number:</source>
+        <translation>Fax number</translation>
+    </message>
+    <message>
+        <source>Organization:</source>
+        <translation>Organization</translation>
+    </message>
+    <message>
+        <source>Telephone Number:</source>
+        <translation>Phone</translation>
+    </message>
+    <message>
+        <source>E-mail Address:</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Mailbox:</source>
+        <translation>Mailbox</translation>
+    </message>
+    <message>
+        <source>(Required)</source>
+        <translation>Required</translation>
+    </message>
+    <message>
+        <source>Save To Address Book</source>
+        <extracomment>A check box, and the title of the window that saves a group</extracomment>
+        <translation>Save to the address book</translation>
+    </message>
+    <message>
+        <source>Required Field Header</source>
+        <translation>A required field is empty</translation>
+    </message>
+    <message>
+        <source>Name Required Message</source>
+        <translation>Type the recipient’s name.</translation>
+    </message>
+    <message>
+        <source>Fax Number Required Message</source>
+        <translation>Type the recipient’s fax number.</translation>
+    </message>
+    <message>
+        <source>Group Name Required Message</source>
+        <translation>Type a name for the group.</translation>
+    </message>
+    <message>
+        <source>Alert Header</source>
+        <translation>This recipient can’t be added</translation>
+    </message>
+    <message>
+        <source>Max Recipients Header</source>
+        <translation>Too many recipients for one fax</translation>
+    </message>
+    <message>
+        <source>Max Recipients Message</source>
+        <extracomment>%1: the most recipients of a fax</extracomment>
+        <translation>A fax goes to at most %1 recipients. Remove some first, or send the fax in two jobs.</translation>
+    </message>
+    <message>
+        <source>Remove One Recipient Header</source>
+        <translation>Remove this recipient?</translation>
+    </message>
+    <message>
+        <source>Remove One Recipient Message</source>
+        <extracomment>%1: fax number; %2: the recipient’s name</extracomment>
+        <translation>%2 with the fax number %1 leaves the list.</translation>
+    </message>
+    <message>
+        <source>Remove Multiple Recipients Header</source>
+        <translation>Remove these recipients?</translation>
+    </message>
+    <message>
+        <source>Remove Multiple Recipients Message</source>
+        <extracomment>%1: how many</extracomment>
+        <translation>%1 recipients leave the list.</translation>
+    </message>
+    <message>
+        <source>Group Name:</source>
+        <translation>Group name</translation>
+    </message>
+    <message>
+        <source>Members:</source>
+        <translation>Members</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Dialing String Too Long Description</source>
+        <translation>The printer can’t dial numbers this long. Shorten the fax numbers below, the prefix or the credit card number.</translation>
+    </message>
+    <message>
+        <source>Fax Recipients</source>
+        <translation>Fax recipients</translation>
+    </message>
+    <message>
+        <source>Fax Dialing Options:</source>
+        <translation>Dialing</translation>
+    </message>
+    <message>
+        <source>Dialing Prefix</source>
+        <translation>Dialing prefix</translation>
+    </message>
+    <message>
+        <source>Credit Card</source>
+        <translation>Credit card</translation>
+    </message>
+    <message>
+        <source>User Preferences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message>
+        <source>Prompt Duplicate Recipient</source>
+        <translation>Ask before adding a recipient twice</translation>
+    </message>
+    <message>
+        <source>Prompt Remove Recipient</source>
+        <translation>Ask before removing recipients</translation>
+    </message>
+    <message>
+        <source>From Label</source>
+        <extracomment>Printed on the cover sheet</extracomment>
+        <translation>From</translation>
+    </message>
+    <message>
+        <source>To Label</source>
+        <extracomment>Printed on the cover sheet</extracomment>
+        <translation>To</translation>
+    </message>
+    <message>
+        <source>Phone Label</source>
+        <extracomment>Printed on the cover sheet</extracomment>
+        <translation>Phone</translation>
+    </message>
+    <message>
+        <source>Fax Label</source>
+        <extracomment>Printed on the cover sheet</extracomment>
+        <translation>Fax</translation>
+    </message>
+    <message>
+        <source>Recipient's Information:</source>
+        <translation>Recipient</translation>
+    </message>
+    <message>
+        <source>Sender's Information:</source>
+        <translation>Sender</translation>
+    </message>
+    <message>
+        <source>Cover Sheet Image:</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Image Editor Title</source>
+        <translation>Cover Sheet Image</translation>
+    </message>
+    <message>
+        <source>Delete Cover Sheet Header</source>
+        <translation>Delete this image?</translation>
+    </message>
+    <message>
+        <source>Delete Cover Sheet Message</source>
+        <translation>The image is removed for everybody who uses this computer.</translation>
+    </message>
+</context>
+</TS>

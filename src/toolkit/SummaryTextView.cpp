@@ -1,0 +1,37 @@
+#include "toolkit/SummaryTextView.h"
+
+#include <algorithm>
+
+namespace kesta {
+
+SummaryTextView::SummaryTextView(QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText); // texts hold names that users typed
+    setTextInteractionFlags(Qt::TextSelectableByMouse);
+    setWordWrap(true);
+    setAlignment(Qt::AlignTop | Qt::AlignLeading);
+}
+
+void SummaryTextView::setLines(int lines)
+{
+    lines_ = std::max(lines, 1);
+    updateGeometry();
+}
+
+QSize SummaryTextView::withRoom(QSize size) const
+{
+    const int leading = (lines_ - 1) * fontMetrics().lineSpacing();
+    return size.expandedTo({0, leading + fontMetrics().height()});
+}
+
+QSize SummaryTextView::sizeHint() const
+{
+    return withRoom(QLabel::sizeHint());
+}
+
+QSize SummaryTextView::minimumSizeHint() const
+{
+    return withRoom(QLabel::minimumSizeHint());
+}
+
+} // namespace kesta

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QLabel>
+
+namespace kesta {
+
+// A plain text of some lines that can be selected; it keeps room for its usual number of lines, so that nothing jumps.
+class SummaryTextView : public QLabel {
+    Q_OBJECT
+    Q_PROPERTY(int lines READ lines WRITE setLines)
+
+public:
+    explicit SummaryTextView(QWidget* parent = nullptr);
+
+    int lines() const { return lines_; }
+    void setLines(int lines);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+private:
+    QSize withRoom(QSize size) const;
+    int lines_ = 1;
+};
+
+} // namespace kesta

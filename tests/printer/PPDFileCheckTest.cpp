@@ -1,0 +1,145 @@
+#include "platform/PPDFileCheck.h"
+#include "printer/InstallableOptions.h"
+#include "printer/PPDUtilities.h"
+#include "product/InstalledFeatures.h"
+#include "support/CurrentPrinter.h"
+#include "support/TestTexts.h"
+#include "toolkit/Menu.h"
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+
+#include <zlib.h>
+
+namespace kesta {
+namespace {
+
+using test::PPDVariant;
+
+QByteArray Repeated(int count, const char* before, const char* after)
+{
+    QByteArray lines;
+    for (int i = 0; i < count; ++i)
+        lines += before + QByteArray::number(i) + after;
+    return lines;
+}
+
+QString Problem(const PPDVariant& ppd)
+{
+    return PPDFileProblem(ppd.path()).value_or(QString()).section(QStringLiteral("can't be used: "), 1);
+}
+
+TEST(PPDFileCheck, RealDescriptionsPass)
+{
+    EXPECT_EQ(PPDFileProblem(QStringLiteral(KESTA_PPD)), std::nullopt);
+    PPDVariant macLineEnds;
+    macLineEnds.replaceLines("*FileVersion", "*FileVersion: \"1.0\"\r*% another line");
+    EXPECT_EQ(Problem(macLineEnds), QString());
+    PPDVariant constrained;
+    EXPECT_EQ(Problem(constrained.append(Repeated(20'000, "*UIConstraints: *A C", " *B D\n"))), QString());
+}
+
+TEST(PPDFileCheck, DescriptionsThatWouldKeepTheReaderBusyAreNamed)
+{
+    EXPECT_EQ(Problem(PPDVariant().append(Repeated(20'000, "*OpenUI *O", "/O: PickOne\n"))),
+              QStringLiteral("it has more than 2000 lines of *OpenUI."));
+    EXPECT_EQ(Problem(PPDVariant().append(Repeated(2001, "*ImageableArea S", ": \"0 0 9 9\"\n"))),
+              QStringLiteral("it has more than 2000 lines of *ImageableArea."));
+    EXPECT_EQ(Problem(PPDVariant().append(Repeated(100'000, "*A", " B: \"\"\r"))),
+              QStringLiteral("it has more than 100000 lines."));
+    EXPECT_EQ(Problem(PPDVariant().append(QByteArray(5'000'000, 'x'))), QStringLiteral("it is larger than 4 MB."));
+    EXPECT_EQ(Problem(PPDVariant().append(QByteArray("*A: \"\0\"\n", 8))),
+              QStringLiteral("it holds bytes that are not text."));
+    EXPECT_EQ(Problem(PPDVariant().truncate(0)), QStringLiteral("it does not begin as a PPD file does."));
+}
+
+TEST(PPDFileCheck, WhatIsNoFileIsNotOpened)
+{
+    const QTemporaryDir directory;
+    EXPECT_TRUE(PPDFileProblem(directory.path())->contains(QStringLiteral("it is not a file")));
+    EXPECT_TRUE(PPDFileProblem(QStringLiteral("/dev/zero"))->contains(QStringLiteral("it is not a file")));
+    EXPECT_TRUE(PPDFileProblem(directory.filePath(QStringLiteral("none")))->contains(QStringLiteral("no such file")));
+}
+
+TEST(PPDFileCheck, TheUnpackedSizeCounts)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("x.ppd.gz"));
+    const auto pack = [&](const QByteArray& content) {
+        const gzFile file = gzopen(QFile::encodeName(path).constData(), "wb");
+        gzwrite(file, content.constData(), static_cast<unsigned>(content.size()));
+        gzclose(file);
+    };
+    pack(PPDVariant().content());
+    EXPECT_EQ(PPDFileProblem(path), std::nullopt);
+    pack(PPDVariant().content() + QByteArray(50'000'000, '\n'));
+    ASSERT_LT(QFileInfo(path).size(), 1'000'000);
+    EXPECT_TRUE(PPDFileProblem(path)->contains(QStringLiteral("larger than 4 MB")));
+}
+
+TEST(PPDFileCheck, TheWorstThatPassesOpensWithinASecond)
+{
+    PPDVariant ppd;
+    ppd.append(Repeated(1900, "*OpenUI *O", "/O: PickOne\n*CloseUI: *O\n"))
+        .append(Repeated(1900, "*JCLOpenUI *J", "/J: PickOne\n*JCLCloseUI: *J\n"))
+        .append(Repeated(1900, "*PaperDimension S", ": \"1 1\"\n"))
+        .append(Repeated(1900, "*cupsFilter: \"a/b 0 f", "\"\n"))
+        .append(Repeated(80'000, "*F", " A: \"x\"\n"));
+    ASSERT_EQ(Problem(ppd), QString());
+    QElapsedTimer timer;
+    timer.start();
+    const test::CurrentPrinter printer(ppd);
+    EXPECT_LT(timer.elapsed(), 5000); // a tenth of it on an idle machine; minutes without the limits
+}
+
+TEST(PPDFileCheck, AHostilePPDIsNoCurrentPPD)
+{
+    PPDVariant ppd;
+    ppd.append(Repeated(20'000, "*OpenUI *O", "/O: PickOne\n"));
+    testing::internal::CaptureStderr();
+    const test::CurrentPrinter hostile(ppd);
+    EXPECT_EQ(PPDGetCurrent(), nullptr);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("more than 2000 lines of *OpenUI"), std::string::npos);
+}
+
+TEST(PPDFileCheck, WhatTheLibraryRefusesIsSaidWithItsLine)
+{
+    PPDVariant ppd;
+    ppd.replaceLines("*FileVersion", "*FileVersion: \"1.0\"\n*OpenUI *J\xF6g/Offset: PickOne");
+    testing::internal::CaptureStderr();
+    const test::CurrentPrinter printer(ppd);
+    EXPECT_EQ(PPDGetCurrent(), nullptr);
+    const std::string messages = testing::internal::GetCapturedStderr();
+    EXPECT_NE(messages.find("can't be used: "), std::string::npos) << messages;
+    EXPECT_NE(messages.find(", line 5."), std::string::npos) << messages;
+}
+
+// libcups opens what is cut off anywhere; the rest is as if the PPD had never had it.
+TEST(PPDFileCheck, TruncatedDescriptionsDoNoHarm)
+{
+    const qsizetype whole = PPDVariant().content().size();
+    int opened = 0;
+    testing::internal::CaptureStderr();
+    for (qsizetype size = 20; size < whole; size += whole / 50) {
+        PPDVariant ppd;
+        const test::CurrentPrinter printer(ppd.truncate(size));
+        opened += PPDGetCurrent() != nullptr;
+        for (const KeywordRow& row : MainKeywordMap) {
+            Menu menu;
+            const PPDKeyword keyword = PPDKeyword::Named(row.keyword);
+            const int count = PPDPopulateMenuWithChoices(menu, PPDGetCurrent(), keyword, kNoCommand, Conflicting::Skip);
+            EXPECT_LE(count, static_cast<int>(row.choices.size()));
+        }
+        LoadInstallableOptions(PPDGetCurrent(), InstalledFeatures);
+        EXPECT_FALSE(getInstalledFeature("GenericPunchKey"));
+        UnloadInstallableOptions();
+    }
+    testing::internal::GetCapturedStderr();
+    EXPECT_GT(opened, 25);
+}
+
+} // namespace
+} // namespace kesta
