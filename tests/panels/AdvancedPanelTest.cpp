@@ -7,12 +7,15 @@
 #include "pde/TicketUtilities.h"
 #include "printer/InstallableOptions.h"
 #include "product/InstalledFeatures.h"
+#include "support/Accessories.h"
+#include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
 #include "support/User.h"
 #include "toolkit/PictureView.h"
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 
@@ -24,10 +27,11 @@ class AdvancedPanelTest : public testing::Test {
 protected:
     AdvancedPanelTest()
     {
-        LoadBundle(kPlugInIdentifier, test::BundleWithTexts({"Advanced", "On", "Off", "Enabled", "Disabled",
-                                                             "Banner Sheet:", "OK Command"}));
+        Bundle bundle = test::BundleWithTexts({"Advanced", "On", "Off", "Enabled", "Disabled", "None"});
+        bundle.strings.dictionary("Localizable")->set("About Version", "Version %1");
+        bundle.info.set("CFBundleShortVersionString", "1.2.3");
+        LoadBundle(kPlugInIdentifier, std::move(bundle));
         PMSessionSetDataInSession(session, kPMPrintSettingsTicket, ticket.reference());
-        SetCurrentPrintSession(&session);
 
         const PanelInterfaceHolder* holder = nullptr;
         GetAdvancedPanelInterface(&holder);
@@ -37,8 +41,6 @@ protected:
     ~AdvancedPanelTest() override
     {
         slots->Terminate(prologue.context, noErr);
-        PPDCloseCurrent();
-        SetCurrentPrintSession(nullptr);
     }
     void open()
     {
@@ -48,7 +50,8 @@ protected:
     PopupButton* popup(Control number) { return FindPopupButton(&pane, {kSignature, number}); }
     OSStatus sync(bool toControls) { return slots->Sync(prologue.context, &session, toControls); }
 
-    PrintSession session{.printer = PMPrinter{.ppdPath = QStringLiteral(TEST_DATA "/kesta.ppd")}};
+    test::CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
+    PrintSession& session = printer.session;
     Ticket ticket;
     QWidget pane;
     const PanelInterface* slots = nullptr;

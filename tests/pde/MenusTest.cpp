@@ -144,12 +144,12 @@ TEST(Views, AViewIsUnpackedBelowWhatIsThere)
     AppendViewFromWindowAndUnpack(target, window, {"View"_code, 1}, offset);
     AppendViewFromWindowAndUnpack(target, window, {"View"_code, 3}, offset);
     EXPECT_EQ(offset, 50);
-    const auto buttons = target.findChildren<QPushButton*>(Qt::FindDirectChildrenOnly);
+    const auto buttons = target.findChildren<QPushButton*>();
     ASSERT_EQ(buttons.size(), 2);
     target.show();
     QCoreApplication::processEvents();
     EXPECT_EQ(buttons[0]->text(), u"2");
-    EXPECT_LT(buttons[0]->y(), buttons[1]->y());
+    EXPECT_LT(buttons[0]->mapTo(&target, QPoint()).y(), buttons[1]->mapTo(&target, QPoint()).y());
 }
 
 TEST(Views, ASummaryNeedsAText)
