@@ -111,7 +111,8 @@ OpenedBundle OpenBundle(const QString& path)
         return {std::nullopt, contents + QStringLiteral("Info.plist: CFBundleExecutable is not a plain name")};
 
     Bundle bundle{.resourcesPath = contents + QStringLiteral("Resources"), .path = folder, .identifier = *identifier};
-    const QString code = contents + QStringLiteral("Linux/") + (executable ? *executable : name) + QStringLiteral(".so");
+    const QString code =
+        contents + QStringLiteral("Linux/") + (executable ? *executable : name) + QStringLiteral(".so");
     bundle.parts = std::make_shared<BundleParts>(
         BundleParts{Catalogues(bundle.resourcesPath + QStringLiteral("/Translations"), name), BundleCode(code)});
     bundle.info = std::move(info);

@@ -69,8 +69,8 @@ bool HasAnchor(const QString& file, const QRegularExpression& anchor)
 // The page that has the anchor, in the first folder where one does; the first by name.
 QString FindAnchor(const QString& book, const QString& anchor)
 {
-    const QRegularExpression pattern(QStringLiteral("\\b(?:id|name)\\s*=\\s*[\"']%1[\"']")
-                                         .arg(QRegularExpression::escape(anchor)));
+    const QRegularExpression pattern(
+        QStringLiteral("\\b(?:id|name)\\s*=\\s*[\"']%1[\"']").arg(QRegularExpression::escape(anchor)));
     for (const QString& folder : FoldersOf(book)) {
         QStringList pages;
         QDirIterator files(folder, {QStringLiteral("*.htm")}, QDir::Files, QDirIterator::Subdirectories);

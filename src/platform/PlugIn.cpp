@@ -99,8 +99,7 @@ std::optional<QString> RegisterFactories(const Bundle& bundle)
 PlugInFactory FindFactory(const UUID& type)
 {
     const auto makers = TheRegistry().makers.find(type);
-    return makers == TheRegistry().makers.end() ? nullptr
-                                                : TheRegistry().factories[makers->second.front()].function;
+    return makers == TheRegistry().makers.end() ? nullptr : TheRegistry().factories[makers->second.front()].function;
 }
 
 void CFPlugInAddInstanceForFactory(const UUID& factory)
