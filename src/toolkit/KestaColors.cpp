@@ -32,9 +32,7 @@ KestaColors MixedFrom(const QPalette& palette)
 
 QColor Mix(const QColor& color, const QColor& other, double share)
 {
-    const auto mixed = [share](int from, int to) {
-        return qRound(from + (to - from) * share);
-    };
+    const auto mixed = [share](int from, int to) { return qRound(from + (to - from) * share); };
     return {mixed(color.red(), other.red()), mixed(color.green(), other.green()), mixed(color.blue(), other.blue())};
 }
 
