@@ -21,7 +21,7 @@ QString PanelPhrase(const QString& summary)
     return facts.join(u", "_s);
 }
 
-QString DialogPhrase(const HostSettings& settings, const Bundle& texts)
+QString CopiesAndPages(const HostSettings& settings, const Bundle& texts)
 {
     QStringList facts;
     if (settings.copies > 1)
@@ -30,10 +30,6 @@ QString DialogPhrase(const HostSettings& settings, const Bundle& texts)
         const QString shown = WritePageRanges(ParsePageRanges(settings.pageRanges).ranges, u", "_s);
         facts << PrintText(texts, "Pages Summary").arg(shown);
     }
-    if (settings.pagesPerSheet > 1)
-        facts << PrintText(texts, "Per Sheet Summary").arg(settings.pagesPerSheet);
-    if (settings.orientation == Orientation::Landscape || settings.orientation == Orientation::ReverseLandscape)
-        facts << PrintText(texts, "Landscape Summary");
     return facts.join(u", "_s);
 }
 
@@ -41,7 +37,11 @@ QString DialogPhrase(const HostSettings& settings, const Bundle& texts)
 
 QString SummaryLine(const HostSettings& settings, const QStringList& panelSummaries, const Bundle& texts)
 {
-    QStringList phrases{DialogPhrase(settings, texts)};
+    QStringList phrases{CopiesAndPages(settings, texts)};
+    if (settings.pagesPerSheet > 1)
+        phrases << PrintText(texts, "Per Sheet Summary").arg(settings.pagesPerSheet);
+    if (settings.orientation == Orientation::Landscape || settings.orientation == Orientation::ReverseLandscape)
+        phrases << PrintText(texts, "Landscape Summary");
     for (const QString& summary : panelSummaries)
         phrases << PanelPhrase(summary);
     phrases.removeAll(QString());

@@ -34,7 +34,7 @@ public:
 private:
     void follow()
     {
-        const QSize needed = content_.minimumSizeHint();
+        const QSize needed = content_.minimumSizeHint().expandedTo(QSize(0, 0)); // without a layout: (-1, -1)
         const bool scrolls = needed.height() > scroll_.height();
         const int bar = scrolls ? scroll_.verticalScrollBar()->sizeHint().width() : 0;
         scroll_.setMinimumWidth(needed.width() + bar);

@@ -4,6 +4,7 @@
 #include "host/NoDialog.h"
 #include "host/PrintDialog.h"
 #include "host/ScriptPlayer.h"
+#include "platform/Bundle.h"
 #include "platform/SafeFile.h"
 #include "toolkit/KestaStyle.h"
 #include "toolkit/ToolkitServices.h"

@@ -19,7 +19,7 @@ struct UUID {
     auto operator<=>(const UUID&) const = default;
 };
 
-// Only the form "2469D08F-1C3C-4039-BE98-6ED74B921894", in either case.
+// Only the form "2469D08F-1C3C-4039-BE98-6ED74B921894", in either case, and not all zeros.
 std::optional<UUID> UUIDFromString(QAnyStringView text);
 QString StringFromUUID(const UUID& id); // upper case
 
