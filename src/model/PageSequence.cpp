@@ -36,21 +36,6 @@ std::size_t PageSequence::count() const
     return count;
 }
 
-// The end is the place behind the last page, or the first one of a block that is not there yet.
-PageSequence::Place PageSequence::find(std::size_t index) const
-{
-    Place place{0, index};
-    while (place.block + 1 < blocks_.size() && place.offset >= blocks_[place.block].size())
-        place.offset -= blocks_[place.block++].size();
-    return place;
-}
-
-SpecialPage* PageSequence::at(std::size_t index) const
-{
-    const auto [block, offset] = find(index);
-    return block < blocks_.size() && offset < blocks_[block].size() ? blocks_[block][offset].get() : nullptr;
-}
-
 std::optional<std::size_t> PageSequence::indexOf(const SpecialPage* page) const
 {
     std::size_t index = 0;
@@ -63,39 +48,76 @@ std::optional<std::size_t> PageSequence::indexOf(const SpecialPage* page) const
     return std::nullopt;
 }
 
-void PageSequence::insert(std::size_t index, Page page)
+PageSequence::Place PageSequence::placeOf(std::size_t index) const
+{
+    Place place{0, index};
+    while (place.block < blocks_.size() && place.offset >= blocks_[place.block].size())
+        place.offset -= blocks_[place.block++].size();
+    return place;
+}
+
+PageSequence::Place PageSequence::normalized(Place place) const
+{
+    return place.offset == blocks_[place.block].size() ? Place{place.block + 1, 0} : place;
+}
+
+SpecialPage* PageSequence::at(Place place) const
+{
+    return place.block < blocks_.size() ? blocks_[place.block][place.offset].get() : nullptr;
+}
+
+PageSequence::Place PageSequence::next(Place place) const
+{
+    return normalized({place.block, place.offset + 1});
+}
+
+PageSequence::Place PageSequence::insert(Place place, Page page)
 {
     if (blocks_.empty())
         blocks_.emplace_back();
-    const auto [block, offset] = find(index);
-    blocks_[block].insert(Position(blocks_[block], offset), std::move(page));
-    if (blocks_[block].size() > kMostPagesInBlock)
-        split(block);
+    if (place.block == blocks_.size())
+        place = {place.block - 1, blocks_.back().size()};
+    Block& block = blocks_[place.block];
+    block.insert(Position(block, place.offset), std::move(page));
+    return block.size() > kMostPagesInBlock ? split(place) : place;
 }
 
-void PageSequence::split(std::size_t block)
+PageSequence::Place PageSequence::split(Place place)
 {
-    Block& full = blocks_[block];
-    const auto middle = Position(full, full.size() / 2);
-    Block rest(std::make_move_iterator(middle), std::make_move_iterator(full.end()));
-    full.erase(middle, full.end());
-    blocks_.insert(Position(blocks_, block + 1), std::move(rest));
+    Block& full = blocks_[place.block];
+    const std::size_t half = full.size() / 2;
+    Block rest(std::make_move_iterator(Position(full, half)), std::make_move_iterator(full.end()));
+    full.resize(half);
+    blocks_.insert(Position(blocks_, place.block + 1), std::move(rest));
+    return place.offset < half ? place : Place{place.block + 1, place.offset - half};
+}
+
+PageSequence::Place PageSequence::erase(Place place)
+{
+    Block& block = blocks_[place.block];
+    block.erase(Position(block, place.offset));
+    if (!block.empty())
+        return normalized(place);
+    blocks_.erase(Position(blocks_, place.block));
+    return {place.block, 0};
+}
+
+PageSequence::Page& PageSequence::pageAt(std::size_t index)
+{
+    const Place place = placeOf(index);
+    return blocks_[place.block][place.offset];
 }
 
 PageSequence::Page PageSequence::take(std::size_t index)
 {
-    const auto [block, offset] = find(index);
-    Page page = std::move(blocks_[block][offset]);
-    blocks_[block].erase(Position(blocks_[block], offset));
-    if (blocks_[block].empty())
-        blocks_.erase(Position(blocks_, block));
+    Page page = std::move(pageAt(index));
+    erase(placeOf(index));
     return page;
 }
 
 void PageSequence::swap(std::size_t first, std::size_t second)
 {
-    const Place a = find(first), b = find(second);
-    blocks_[a.block][a.offset].swap(blocks_[b.block][b.offset]);
+    pageAt(first).swap(pageAt(second));
 }
 
 std::vector<PageSequence::Page> PageSequence::takeAll()

@@ -29,7 +29,7 @@ SInt32 LastPage(const SpecialPage& exception)
 
 SpecialPage* SpecialPageList::pageAtIndex(CFIndex index) const
 {
-    return index < 0 ? nullptr : pages_.at(static_cast<std::size_t>(index));
+    return index < 0 ? nullptr : pages_.at(pages_.placeOf(static_cast<std::size_t>(index)));
 }
 
 CFIndex SpecialPageList::indexOfPage(const SpecialPage* page) const
@@ -43,7 +43,7 @@ OSStatus SpecialPageList::remove(const SpecialPage* page)
     const auto index = pages_.indexOf(page);
     if (!index)
         return -1;
-    pages_.take(*index);
+    pages_.erase(pages_.placeOf(*index));
     return noErr;
 }
 
@@ -55,7 +55,7 @@ OSStatus SpecialPageList::update(const SpecialPage* page, const SpecialPages& ne
     PageSequence::Page old = pages_.take(*index);
     const OSStatus status = add(newPages);
     if (status != noErr)
-        pages_.insert(*index, std::move(old));
+        pages_.insert(pages_.placeOf(*index), std::move(old));
     return status;
 }
 
@@ -65,8 +65,9 @@ std::optional<Array> SpecialPageList::asTicket() const
         return std::nullopt;
     Array ticket;
     ticket.reserve(count());
-    for (std::size_t index = 0; index < count(); ++index)
-        ticket.emplace_back(pages_.at(index)->asTicket());
+    for (PageSequence::Place place = pages_.placeOf(0); const SpecialPage* page = pages_.at(place);
+         place = pages_.next(place))
+        ticket.emplace_back(page->asTicket());
     return ticket;
 }
 
@@ -136,29 +137,26 @@ OSStatus ExceptionPageList::add(const SpecialPages& exceptions)
 void ExceptionPageList::place(std::unique_ptr<SpecialPage> exception)
 {
     const SInt32 start = exception->startPage(), end = LastPage(*exception);
-    std::size_t index = pages_.countWhile([start](const SpecialPage& page) { return LastPage(page) < start; });
+    auto place = pages_.firstBehind([start](const SpecialPage& page) { return LastPage(page) < start; });
 
-    while (SpecialPage* there = pages_.at(index)) {
+    while (SpecialPage* there = pages_.at(place)) {
         const bool goesOnBehind = end < LastPage(*there);
         if (there->startPage() < start) {
-            if (goesOnBehind) {
-                PageSequence::Page rest = there->clone();
-                rest->setStartPage(end + 1);
-                pages_.insert(index + 1, std::move(rest));
-            }
+            PageSequence::Page rest = goesOnBehind ? there->clone() : nullptr;
             static_cast<ExceptionPage*>(there)->setEndPage(start - 1);
-            ++index;
-            continue;
-        }
-        if (end < there->startPage())
+            place = pages_.next(place);
+            if (rest) {
+                rest->setStartPage(end + 1);
+                place = pages_.insert(place, std::move(rest));
+            }
+        } else if (goesOnBehind) {
+            there->setStartPage(std::max(there->startPage(), end + 1));
             break;
-        if (goesOnBehind) {
-            there->setStartPage(end + 1);
-            break;
+        } else {
+            place = pages_.erase(place);
         }
-        pages_.take(index);
     }
-    pages_.insert(index, std::move(exception));
+    pages_.insert(place, std::move(exception));
 }
 
 std::unique_ptr<SpecialPageList> ExceptionPageList::clone() const

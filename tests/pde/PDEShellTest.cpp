@@ -24,9 +24,7 @@ TEST_F(PDEShellTest, APaneFromPrologueToTerminate)
     EXPECT_EQ(prologue.maximumWidth, 540u);
     EXPECT_EQ(prologue.maximumHeight, 491u);
 
-    const auto initialize = [&] {
-        return slots.Initialize(prologue.context, nullptr, nullptr, &pane, &session());
-    };
+    const auto initialize = [&] { return slots.Initialize(prologue.context, nullptr, nullptr, &pane, &session()); };
     EXPECT_EQ(CallsOf([&] { EXPECT_EQ(initialize(), noErr); }), "1I2I3I1>2>3>");
     EXPECT_EQ(GetCurrentPrintSession(), &session());
     EXPECT_EQ(GetPDEBundle(), FindBundle(kPlugInIdentifier));
@@ -174,7 +172,7 @@ TEST_F(PDEShellTest, AButtonWithoutItsPictureIsHidden)
     Bundle bundle = *FindBundle(kPlugInIdentifier);
     const QTemporaryDir bare;
     ASSERT_TRUE(QDir(bare.path()).mkdir(u"PDE_Shell"_s));
-    ASSERT_TRUE(QFile::copy(bundle.resourcesPath + u"/PDE_Shell/Window.ui", bare.filePath(u"PDE_Shell/Window.ui"_s)));
+    ASSERT_TRUE(QFile::copy(bundle.resourcesPath + u"/PDE_Shell/Window.ui"_s, bare.filePath(u"PDE_Shell/Window.ui"_s)));
     bundle.resourcesPath = bare.path();
     LoadBundle(kPlugInIdentifier, std::move(bundle));
     open();

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "pde/PDEShell.h"
 #include "pde/FakePanels.h"
+#include "pde/PDEShell.h"
 #include "pde/PlugInInterface.h"
 #include "pde/SystemUtilities.h"
 #include "platform/Notices.h"
+#include "platform/Ticket.h"
+#include "printer/PPDUtilities.h"
 #include "support/CurrentPrinter.h"
 #include "support/FakeSystem.h"
 #include "support/TestTexts.h"
@@ -71,7 +73,7 @@ protected:
 
     FakeSystem system;
     WhileInstalled<SystemConfiguration> systemInstalled{system};
-    CurrentPrinter printer;
+    CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
     Ticket ticket;
     QWidget dialog;
     QWidget pane{&dialog};
