@@ -156,10 +156,16 @@ TEST_F(PrintDialogTest, StartsFromTheCommandLineOverSavedSettings)
 TEST_F(PrintDialogTest, SaysWhyThereIsNoPaneAndPrintsAllTheSame)
 {
     fake.initialize = kInvalidContext;
-    EXPECT_EQ(run("expect \"Other Maker Message\"\nexpect-enabled Help no\ntype Copies 2\nprint"), 0);
+    EXPECT_EQ(run("expect \"Pane Failed Message\"\nexpect-enabled Help no\ntype Copies 2\nprint"), 0);
     EXPECT_EQ(fault, QString());
     EXPECT_EQ(calls(), u"Prologue, Initialize, Terminate -9530"_s);
     EXPECT_TRUE(QFile::exists(options.saveSettingsPath));
+
+    PPDVariant ppd;
+    ppd.replace("*Manufacturer: \"Kesta\"", "*Manufacturer: \"KESTA\"");
+    options.ppdPath = ppd.path();
+    EXPECT_EQ(run("expect \"Other Maker Message\"\nexpect KESTA\ncancel"), 0);
+    EXPECT_EQ(fault, QString());
 
     plugIn.reset();
     EXPECT_EQ(run("expect \"The plug-in is missing.\"\nprint"), 0);
