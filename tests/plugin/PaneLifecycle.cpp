@@ -24,7 +24,7 @@ KestaPlugInFactory FindBuiltFactory()
         if (const std::optional<QString> problem = RegisterFactories(*bundle))
             std::fprintf(stderr, "%s\n", qUtf8Printable(*problem));
     }
-    return reinterpret_cast<KestaPlugInFactory>(FindFactory(type));
+    return reinterpret_cast<KestaPlugInFactory>(reinterpret_cast<BundleFunction>(FindFactory(type)));
 }
 
 FakeDialog::FakeDialog()
