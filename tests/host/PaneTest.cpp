@@ -1,128 +1,19 @@
 #include "host/Pane.h"
 
+#include "host/FakePlugIn.h"
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace kesta::host {
 namespace {
 
-// A plug-in whose operations are noted in the order of the calls.
-struct FakePlugIn {
-    QStringList calls = {};
-    KestaStatus prologue = 0;
-    KestaStatus initialize = 0;
-    KestaStatus open = 0;
-    QWidget* pane = nullptr;
-    int plugIns = 0; // alive
-    int panes = 0;
-    std::vector<std::string> panels = {};
-    bool usesOwnPanels = false;
-    KestaStatus missing = 0;
-};
-
-FakePlugIn* fake = nullptr;
-int context = 0;
-
-PanelInterface paneTable{
-    .Retain = nullptr,
-    .Release =
-        [](KestaDialogExtension** self) {
-            --fake->panes;
-            *self = nullptr;
-        },
-    .GetAPIVersion = nullptr,
-    .Prologue =
-        [](KestaPrologue* answer) {
-            fake->calls << u"Prologue"_s;
-            answer->context = &context;
-            answer->title = "Fake";
-            return fake->prologue;
-        },
-    .Initialize =
-        [](KestaContextRef, const int32_t*, void*, QWidget* pane, PrintSession*) {
-            fake->calls << u"Initialize"_s;
-            fake->pane = pane;
-            return fake->initialize;
-        },
-    .Sync =
-        [](KestaContextRef, PrintSession*, bool toControls) {
-            fake->calls << (toControls ? u"Sync in"_s : u"Sync out"_s);
-            return KestaStatus{0};
-        },
-    .GetSummaryText =
-        [](KestaContextRef, const char* const** titles, const char* const** summaries) {
-            static const char* const kTitles[] = {"Paper", "Finishing", nullptr};
-            static const char* const kSummaries[] = {"- Blue\n- Hole punched", "", nullptr};
-            *titles = kTitles;
-            *summaries = kSummaries;
-            return KestaStatus{0};
-        },
-    .Open =
-        [](KestaContextRef) {
-            fake->calls << u"Open"_s;
-            return fake->open;
-        },
-    .Close =
-        [](KestaContextRef) {
-            fake->calls << u"Close"_s;
-            return KestaStatus{0};
-        },
-    .Terminate =
-        [](KestaContextRef, KestaStatus status) {
-            fake->calls << u"Terminate %1"_s.arg(status);
-            return KestaStatus{0};
-        },
-};
-KestaDialogExtension extension{&paneTable};
-
-constexpr KestaIUnknownTable kPlugInTable{
-    .reserved = nullptr,
-    .QueryInterface =
-        [](KestaPlugIn*, KestaUUID id, void** out) {
-            if (!std::ranges::equal(id.bytes, kKestaDialogExtensionInterfaceID.bytes))
-                return kKestaNoInterface;
-            ++fake->panes;
-            *out = &extension;
-            return KestaResult{0};
-        },
-    .AddRef = nullptr,
-    .Release =
-        [](KestaPlugIn*) {
-            --fake->plugIns;
-            return uint32_t{0};
-        },
-};
-KestaPlugIn plugInObject{&kPlugInTable};
-
-const PlugIn kFakePlugIn{
-    .factory = [](const void*, KestaUUID) -> KestaPlugIn* {
-        ++fake->plugIns;
-        return &plugInObject;
-    },
-    .usePanels =
-        [](const char* const* names) {
-            fake->usesOwnPanels = names == nullptr;
-            for (; names && *names; ++names)
-                fake->panels.emplace_back(*names);
-            return KestaStatus{0};
-        },
-    .findPanels =
-        [](const char** problem) {
-            *problem = "GetNonePanelInterface was not found.";
-            return fake->missing;
-        },
-};
+using test::FakePlugIn;
 
 class PaneTest : public testing::Test {
 protected:
-    PaneTest() { fake = &fake_; }
-    ~PaneTest() override { fake = nullptr; }
-
     FakePlugIn fake_;
     QWidget host;
     PrintSession session;
@@ -131,7 +22,7 @@ protected:
 TEST_F(PaneTest, CallsTheOperationsInOrder)
 {
     {
-        Pane pane(kFakePlugIn, host, session);
+        Pane pane(FakePlugIn::door(), host, session);
         EXPECT_EQ(pane.status(), noErr);
         EXPECT_EQ(pane.title(), u"Fake"_s);
         ASSERT_TRUE(fake_.pane);
@@ -158,27 +49,30 @@ TEST_F(PaneTest, AFailureIsTerminatedAndNeverClosed)
     for (const auto& [prologue, initialize, open, calls] :
          {Case{-1, 0, 0, u"Prologue"}, Case{0, -9530, 0, u"Prologue, Initialize, Terminate -9530"},
           Case{0, 0, -9530, u"Prologue, Initialize, Open, Terminate -9530"}}) {
-        fake_ = {.prologue = prologue, .initialize = initialize, .open = open};
+        FakePlugIn failing;
+        failing.prologue = prologue;
+        failing.initialize = initialize;
+        failing.open = open;
         {
-            Pane pane(kFakePlugIn, host, session);
+            Pane pane(FakePlugIn::door(), host, session);
             EXPECT_NE(pane.status(), noErr);
             pane.syncToTickets();
             EXPECT_TRUE(pane.summaries().empty());
         }
-        EXPECT_EQ(fake_.calls.join(u", "_s), QString::fromUtf16(calls));
-        EXPECT_EQ(fake_.plugIns, 0);
-        EXPECT_EQ(fake_.panes, 0);
+        EXPECT_EQ(failing.calls.join(u", "_s), QString::fromUtf16(calls));
+        EXPECT_EQ(failing.plugIns, 0);
+        EXPECT_EQ(failing.panes, 0);
     }
 }
 
 TEST_F(PaneTest, PanelsAreChosenAndLookedFor)
 {
-    EXPECT_FALSE(ChoosePanels(kFakePlugIn, {}));
+    EXPECT_FALSE(ChoosePanels(FakePlugIn::door(), {}));
     EXPECT_TRUE(fake_.usesOwnPanels);
-    EXPECT_FALSE(ChoosePanels(kFakePlugIn, {u"GetA"_s, u"GetB"_s}));
+    EXPECT_FALSE(ChoosePanels(FakePlugIn::door(), {u"GetA"_s, u"GetB"_s}));
     EXPECT_EQ(fake_.panels, (std::vector<std::string>{"GetA", "GetB"}));
     fake_.missing = -43;
-    EXPECT_EQ(ChoosePanels(kFakePlugIn, {}), u"GetNonePanelInterface was not found."_s);
+    EXPECT_EQ(ChoosePanels(FakePlugIn::door(), {}), u"GetNonePanelInterface was not found."_s);
 }
 
 TEST(PlugInPlaces, TheEnvironmentComesFirst)

@@ -82,7 +82,8 @@ Bundle GalleryBundle()
                             "On",
                             "Off",
                             "Stapling",
-                            "Notes"})
+                            "Notes",
+                            "Panel"})
         texts.set(key, key);
     texts.set("OK Command", "OK");
     texts.set("Cancel Command", "Cancel");

@@ -250,7 +250,7 @@ Go back and change one of them.</translation>
     </message>
     <message>
         <source>Landscape Summary</source>
-        <translation>Landscape</translation>
+        <translation>landscape</translation>
     </message>
     <message>
         <source>Default Summary</source>
