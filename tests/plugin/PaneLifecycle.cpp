@@ -4,6 +4,7 @@
 #include "platform/PlugIn.h"
 #include "toolkit/InterfaceFile.h"
 
+#include <QCoreApplication>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -63,6 +64,7 @@ OSStatus RunPane(KestaPlugInFactory factory, FakeDialog& dialog, const PaneSteps
 
     slots.Release(&extension);
     plugIn->table->Release(plugIn);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return status == noErr ? end : status;
 }
 
