@@ -3,9 +3,9 @@
 #include "GifFile.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QFileInfo>
 #include <QPainter>
-#include <QSaveFile>
 #include <QSvgRenderer>
 #include <QtEndian>
 
@@ -16,8 +16,8 @@ namespace {
 
 std::optional<QString> WriteFile(const QString& name, const QByteArray& content)
 {
-    QSaveFile file(name);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+    QFile file(name);
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush())
         return {};
     return u"%1: %2"_s.arg(name, file.errorString());
 }
