@@ -67,11 +67,11 @@ void DrawFoldedPage(Drawing& drawing)
 // Several leaves, one within the other; each page has its own print.
 void DrawFoldedPages(Drawing& drawing, bool hasOutlines)
 {
-    for (const double out : {6.0, 3.0}) {
-        const Panel left = {kLeft.left - out, kLeft.leftTop, kMiddle, kTop - 1, kPageHeight + 1};
-        DrawPanel(drawing, left, kWhitePaper, Side::back);
-        DrawPanel(drawing, {kMiddle, kTop - 1, kRight.right + out, kRight.rightTop, left.height}, kWhitePaper,
-                  Side::back);
+    for (const double out : {7.0, 3.5}) {
+        // In line with the front leaf, so that the leaves show at the outer edges only.
+        const double leftTop = kLeft.topAt(kLeft.left - out);
+        DrawPanel(drawing, {kLeft.left - out, leftTop, kMiddle, kTop, kPageHeight}, kWhitePaper, Side::back);
+        DrawPanel(drawing, {kMiddle, kTop, kRight.right + out, leftTop, kPageHeight}, kWhitePaper, Side::back);
     }
     for (const Panel& page : {kLeft, kRight}) {
         DrawPanel(drawing, page, kWhitePaper, Side::front);

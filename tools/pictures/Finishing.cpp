@@ -131,14 +131,16 @@ void DrawFoldedPage(Drawing& drawing)
 // Several leaves, each side of them a page of its own.
 void DrawBookletPages(Drawing& drawing)
 {
-    for (const double outer : {0.0, 2.0, 4.0}) {
-        const Panel left = {2.5 + outer, 11.5 - outer * 0.35 + 3, kSpine, 7.5 + outer * 0.25, 28 - outer * 0.5};
-        const Panel right = {kSpine, left.rightTop, 45.5 - outer, left.leftTop, left.height};
-        DrawPanel(drawing, left, kWhitePaper, outer == 4 ? Side::front : Side::back);
-        DrawPanel(drawing, right, kWhitePaper, outer == 4 ? Side::front : Side::back);
-        if (outer == 4) {
-            DrawPanelPrint(drawing, left, kWhitePaper, Side::front);
-            DrawPanelPrint(drawing, right, kWhitePaper, Side::front);
+    // In line with each other, so that the leaves behind show at the outer edges only.
+    constexpr Panel kWidest = {2.5, 15.5, kSpine, 7.5, 28};
+    for (const double inset : {0.0, 2.0, 4.0}) {
+        const double outerTop = kWidest.topAt(kWidest.left + inset);
+        const Panel left = {kWidest.left + inset, outerTop, kSpine, kWidest.rightTop, kWidest.height};
+        const Panel right = {kSpine, kWidest.rightTop, 48 - left.left, outerTop, kWidest.height};
+        for (const Panel& page : {left, right}) {
+            DrawPanel(drawing, page, kWhitePaper, inset == 4 ? Side::front : Side::back);
+            if (inset == 4)
+                DrawPanelPrint(drawing, page, kWhitePaper, Side::front);
         }
     }
 }

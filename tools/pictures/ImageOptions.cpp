@@ -102,7 +102,7 @@ void AddImageOptions(Pictures& pictures)
     pictures.push_back({"ImageOptions_ImageShift.gif", ImageShift()});
     pictures.push_back({"ImageOptions_InvertImage_Off.gif", AsItIs()});
     pictures.push_back({"ImageOptions_InvertImage_Mirror.gif", Mirrored()});
-    pictures.push_back({"ImageOptions_ImgQual_TonerSaver.gif", Quality(4, 0.5)});
+    pictures.push_back({"ImageOptions_ImgQual_TonerSaver.gif", Quality(3, 0.5)});
     pictures.push_back({"ImageOptions_ImgQual_Standard.gif", Quality(3, 1)});
     pictures.push_back({"ImageOptions_ImgQual_Enhanced.gif", Quality(0, 0)});
     pictures.push_back({"JobNotes_BannerMessage.gif", BannerMessage()});

@@ -57,16 +57,6 @@ QByteArray IcnsData(const Drawing& drawing)
     return data + entries;
 }
 
-QByteArray RasterData(const Picture& picture)
-{
-    const QByteArrayView name = picture.file;
-    if (name.endsWith(".gif"))
-        return GifData(Render(picture.drawing, 1));
-    if (name.endsWith(".icns"))
-        return IcnsData(picture.drawing);
-    return PngData(Render(picture.drawing, 1));
-}
-
 } // namespace
 
 QImage Render(const Drawing& drawing, double scale)
@@ -79,6 +69,16 @@ QImage Render(const Drawing& drawing, double scale)
     painter.setRenderHint(QPainter::Antialiasing);
     renderer.render(&painter);
     return image;
+}
+
+QByteArray RasterData(const Picture& picture)
+{
+    const QByteArrayView name = picture.file;
+    if (name.endsWith(".gif"))
+        return GifData(Render(picture.drawing, 1), picture.isOverlay ? Border::kept : Border::settled);
+    if (name.endsWith(".icns"))
+        return IcnsData(picture.drawing);
+    return PngData(Render(picture.drawing, 1));
 }
 
 std::optional<QString> WritePicture(const Picture& picture, const QString& folder)

@@ -52,13 +52,16 @@ Drawing Holes(double x, std::initializer_list<double> places)
     return drawing;
 }
 
-// The bands leave the middle free, where a reloaded paper has its arrow.
+// Tint for white paper, white for the coloured ones. The bands leave the middle free, where a reloaded paper has its
+// arrow.
 Drawing Gloss(bool isHeavy)
 {
     Drawing drawing(kSize, kSize);
-    for (const auto& [from, to] :
-         {std::pair{6.0, 11.0}, std::pair{13.5, 15.5}, std::pair{42.5, 47.5}, std::pair{50.0, 52.0}})
-        drawing.path(DiagonalBand(kInside, from, to), Filled(kActionTint));
+    for (const double from : {6.0, 42.5}) {
+        drawing.path(DiagonalBand(kInside, from, from + 4), Filled(kActionTint));
+        drawing.path(DiagonalBand(kInside, from + 4, from + 7), Filled(kWhite));
+        drawing.path(DiagonalBand(kInside, from + 7, from + 9), Filled(kActionTint));
+    }
     if (isHeavy)
         DrawRingedBadge(drawing, Glyph::weight, kBadgeCenter);
     return drawing;
@@ -104,8 +107,8 @@ Drawing RoughSurface()
 
 void AddPaperOverlays(Pictures& pictures)
 {
-    const auto add = [&pictures](const char* name, Drawing drawing) {
-        pictures.push_back({std::string("Paper_Overlay-") + name + ".gif", std::move(drawing)});
+    const auto add = [&pictures](const std::string& name, Drawing drawing) {
+        pictures.push_back({"Paper_Overlay-" + name + ".gif", std::move(drawing), true});
     };
     add("Recycled", Mark(Glyph::recycle));
     add("Labels", Labels(false));
@@ -117,7 +120,7 @@ void AddPaperOverlays(Pictures& pictures)
     add("Heavyweight", Mark(Glyph::weight));
     add("Letterhead", Letterhead());
     for (int number = 1; number <= 7; ++number)
-        pictures.push_back({"Paper_Overlay-Custom" + std::to_string(number) + ".gif", Number(number)});
+        add("Custom" + std::to_string(number), Number(number));
     add("Other", Mark(Glyph::dots));
     add("LablesHeavyweight", Labels(true));
     add("HeavyweightReloaded", Mark(Glyph::weight));

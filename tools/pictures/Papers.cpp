@@ -82,7 +82,7 @@ Drawing FullCutTab(const Paper& paper)
                      .lineTo({kStrip, 43.5})
                      .close(),
                  Outlined(paper.back(), paper.edge));
-    DrawPrint(drawing, {11, 14, 17, 28}, PrintOn(paper));
+    DrawPrint(drawing, {17, 14, 12, 28}, PrintOn(paper));
     return drawing;
 }
 
@@ -110,7 +110,7 @@ void DrawPreCutTab(Drawing& drawing, const Paper& paper)
     // The front sheet's own tab has no edge towards the sheet.
     drawing.path(TabPath(kEdge, 9, kTabEnd), Outlined(paper.fill, paper.edge));
     drawing.rect({kEdge - 1, 10, 2, 9}, Filled(paper.fill));
-    DrawPrint(drawing, PrintBox(kFront), PrintOn(paper));
+    DrawPrint(drawing, {17, 14, 12, 28}, PrintOn(paper)); // beside where holes would be
 }
 
 namespace {
