@@ -1,74 +1,36 @@
 #include "pde/PDEShell.h"
 
 #include "pde/MenuUtilities.h"
-#include "pde/TicketUtilities.h"
+#include "pde/PanelLoading.h"
+#include "platform/Bundle.h"
 #include "toolkit/InterfaceFile.h"
-
-#include <memory>
 
 namespace kesta::shell {
 namespace {
 
-QWidget* FindHere(const PDEShellContext& shell, Control number)
+// Nothing when the panel can't be found or does not begin.
+std::optional<PanelRecord> LoadPanel(const Bundle& plugIn, const std::string& functionName, SInt32 index)
 {
-    return FindControl(shell.parentPane, {kSignature, number});
+    const PanelInterfaceHolder* holder = nullptr;
+    const PanelInterfaceFunction function = FindPanelFunction(plugIn, functionName).function;
+    if (!function || function(&holder) != noErr || !holder || !holder->table)
+        return std::nullopt;
+    KestaPrologue prologue{};
+    if (holder->table->Prologue(&prologue) != noErr)
+        return std::nullopt;
+    return PanelRecord{.interface = *holder->table,
+                       .context = prologue.context,
+                       .title = QString::fromUtf8(prologue.title),
+                       .kind = QString::fromUtf8(prologue.kind),
+                       .userPane = {},
+                       .index = index};
 }
 
-PopupButton* PanelChoice(const PDEShellContext& shell)
+void SyncPanels(PDEShellContext& shell, bool toControls, auto takesPart)
 {
-    return FindPopupButton(shell.parentPane, {kSignature, kPanelChoice});
-}
-
-void FillPanelChoice(const PDEShellContext& shell)
-{
-    PopupButton* choice = PanelChoice(shell);
-    if (!choice)
-        return;
-    Menu menu;
-    for (const PanelRecord& panel : shell.panels) {
-        if (panel.index != kTakesNoPart)
-            menu.items.push_back({.title = panel.title, .value = panel.index});
-    }
-    choice->setMenu(std::move(menu));
-}
-
-void SelectAndShowInChoice(SInt32 index, PDEShellContext& shell)
-{
-    selectPanel(index, shell);
-    if (PopupButton* choice = PanelChoice(shell))
-        choice->setValue(index);
-}
-
-SInt32 NextPanel(const PDEShellContext& shell)
-{
-    const SInt32 next = GetShownPanel()._lastTabIndex + 1;
-    return next > static_cast<SInt32>(shell.panels.size()) ? 1 : next;
-}
-
-SInt32 PreviousPanel(const PDEShellContext& shell)
-{
-    const SInt32 previous = GetShownPanel()._lastTabIndex - 1;
-    return previous < 1 ? static_cast<SInt32>(shell.panels.size()) : previous;
-}
-
-EventResult HandleHit(PDEShellContext& shell, const ControlEvent& hit)
-{
-    if (hit.control.signature != kSignature)
-        return EventResult::NotHandled;
-    switch (hit.control.number) {
-    case kPanelChoice:
-        if (hit.value == GetShownPanel()._lastTabIndex)
-            return EventResult::NotHandled;
-        selectPanel(hit.value, shell);
-        return EventResult::Handled;
-    case kNextButton:
-        SelectAndShowInChoice(NextPanel(shell), shell);
-        return EventResult::Handled;
-    case kPreviousButton:
-        SelectAndShowInChoice(PreviousPanel(shell), shell);
-        return EventResult::Handled;
-    default:
-        return EventResult::NotHandled;
+    for (PanelRecord& panel : shell.panels) {
+        if (takesPart(panel))
+            panel.interface.Sync(panel.context, shell.session, toControls);
     }
 }
 
@@ -80,85 +42,28 @@ ShownPanel& GetShownPanel()
     return shown;
 }
 
-PDEShellContext::~PDEShellContext()
+void LoadPanels(PDEShellContext& shell)
 {
-    for (const PanelRecord& panel : panels)
-        panel.interface.Terminate(panel.context, noErr);
-}
-
-void LoadPanels(PDEShellContext& shell, std::span<const PanelInterfaceFunction> functions)
-{
-    GetShownPanel().gCurrentPanel = 0;
-    while (shell.panels.size() < functions.size()) {
-        const PanelInterfaceHolder* holder = nullptr;
-        KestaPrologue prologue{};
-        if (functions[shell.panels.size()](&holder) != noErr || holder->table->Prologue(&prologue) != noErr)
-            continue;
-        shell.panels.push_back({.interface = *holder->table,
-                                .context = prologue.context,
-                                .title = QString::fromUtf8(prologue.title),
-                                .kind = QString::fromUtf8(prologue.kind),
-                                .userPane = {},
-                                .index = static_cast<SInt32>(shell.panels.size()) + 1});
+    const std::vector<std::string> names = GetPanelFunctionNames();
+    shell.panels.reserve(names.size());
+    while (shell.panels.size() < names.size()) {
+        const std::size_t position = shell.panels.size();
+        if (std::optional<PanelRecord> panel =
+                LoadPanel(*shell.bundle, names[position], static_cast<SInt32>(position) + 1))
+            shell.panels.push_back(std::move(*panel));
     }
-}
-
-OSStatus Initialize(PDEShellContext& shell, QWidget& parentPane, PrintSession& session)
-{
-    shell.parentPane = &parentPane;
-    shell.session = &session;
-    SetCurrentPrintSession(&session);
-    for (PanelRecord& panel : shell.panels) {
-        if (panel.index == kTakesNoPart)
-            continue;
-        panel.userPane = new QWidget(&parentPane);
-        SetControlID(*panel.userPane, {kSignature, panel.index});
-        panel.userPane->hide();
-        panel.interface.Initialize(panel.context, nullptr, nullptr, panel.userPane, &session);
-    }
-    return Sync(shell, session, SyncDirection::TicketsToControls);
-}
-
-OSStatus Open(PDEShellContext& shell)
-{
-    shell.handler =
-        InstallEventHandler(*shell.parentPane, {EventKind::Hit, EventKind::Command},
-                            [&shell](const ControlEvent& event) { return pdeShellEventHandler(shell, event); });
-    if (!shell.opened) {
-        std::unique_ptr<QWidget> window = CreateWindowFromNib(*shell.bundle, "PDE_Shell", "Window");
-        if (!window)
-            return kInvalidContext;
-        shell.opened = true;
-        EmbedAndShowControl(std::move(window), *shell.parentPane);
-        FillPanelChoice(shell);
-        for (PanelRecord& panel : shell.panels) {
-            if (panel.userPane)
-                EmbedControl(*panel.userPane, FindHere(shell, kPanelArea));
-        }
-    }
-    for (PanelRecord& panel : shell.panels)
-        panel.interface.Open(panel.context);
-
-    if (GetShownPanel().gCurrentPanel == 0)
-        GetShownPanel().gCurrentPanel = 1;
-    SelectAndShowInChoice(GetShownPanel().gCurrentPanel, shell);
-    return noErr;
 }
 
 void selectPanel(SInt32 index, PDEShellContext& shell)
 {
     ShownPanel& shown = GetShownPanel();
-    QWidget* frame = FindHere(shell, kPanelFrame);
+    QWidget* frame = FindControl(shell.parentPane, {kSignature, kPanelFrame});
+    const SInt32 left = shown._lastTabIndex;
 
-    for (PanelRecord& panel : shell.panels) {
-        if (panel.index == shown._lastTabIndex)
-            panel.interface.Sync(panel.context, shell.session, false);
-    }
+    SyncPanels(shell, false, [left](const PanelRecord& panel) { return panel.index == left; });
     SetControlVisible(frame, false);
-    for (PanelRecord& panel : shell.panels) {
-        if (panel.index != shown._lastTabIndex && panel.index != kTakesNoPart)
-            panel.interface.Sync(panel.context, shell.session, true);
-    }
+    SyncPanels(shell, true,
+               [left](const PanelRecord& panel) { return panel.index != left && panel.index != kTakesNoPart; });
     for (PanelRecord& panel : shell.panels) {
         SetControlVisible(panel.userPane, panel.index == index);
         SetControlEnabled(panel.userPane, panel.index == index);
@@ -168,15 +73,25 @@ void selectPanel(SInt32 index, PDEShellContext& shell)
     SetControlVisible(frame, true);
 }
 
-EventResult pdeShellEventHandler(PDEShellContext& shell, const ControlEvent& event)
+void selectItemOfTabControl(QWidget& tabControl, SInt32 position, std::span<const SInt32> ids)
 {
-    if (event.kind == EventKind::Hit)
-        return HandleHit(shell, event);
-    if (event.command == kCommandPanelUp) // to the next panel, although the button with the up image goes back
-        SelectAndShowInChoice(NextPanel(shell), shell);
-    else if (event.command == kCommandPanelDown)
-        SelectAndShowInChoice(PreviousPanel(shell), shell);
-    return EventResult::NotHandled;
+    if (ids.empty() || position < 1)
+        return;
+    const std::size_t count = std::min<std::size_t>(ids.front(), ids.size() - 1);
+    const auto pane = [&](std::size_t at) {
+        return FindControl(tabControl.window(), {GetControlID(tabControl).signature, ids[at]});
+    };
+    const auto show = [](QWidget* control, bool shown) {
+        SetControlVisible(control, shown);
+        SetControlEnabled(control, shown);
+    };
+    const auto chosen = static_cast<std::size_t>(position);
+    for (std::size_t at = 1; at <= count; ++at) {
+        if (at != chosen)
+            show(pane(at), false);
+    }
+    if (chosen <= count)
+        show(pane(chosen), true);
 }
 
 } // namespace kesta::shell

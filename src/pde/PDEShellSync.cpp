@@ -1,13 +1,49 @@
 #include "pde/PDEShell.h"
 
+#include "pde/JobTypeCheck.h"
 #include "pde/TicketKeys.h"
 #include "pde/TicketUtilities.h"
+#include "platform/SystemConfiguration.h"
 #include "printer/PPDUtilities.h"
+
+#include <algorithm>
 
 namespace kesta::shell {
 namespace {
 
-constexpr SInt32 kFaxJob = 5;
+void WriteOrRemove(const TicketWriter& ticket, const char* key, const std::optional<QString>& text)
+{
+    if (text)
+        ticket.set(key, *text);
+    else
+        ticket.remove(key);
+}
+
+// The printer's own panel shows nothing beyond this range.
+bool IsPrintable(const QString& name)
+{
+    return std::ranges::all_of(name, [](QChar c) { return c.unicode() >= 0x20 && c.unicode() <= 0xFE; });
+}
+
+std::optional<QString> PrimaryIPAddress(const SystemConfiguration& system)
+{
+    const std::optional<QString> interface = system.primaryInterface();
+    const QStringList addresses = interface ? system.ipv4Addresses(*interface) : QStringList();
+    return addresses.isEmpty() ? std::nullopt : std::optional(addresses.first());
+}
+
+void WriteClientInformation(const TicketWriter& ticket)
+{
+    const SystemConfiguration& system = GetSystemConfiguration();
+    const std::optional<QString> user = system.consoleUser();
+    std::optional<QString> computer = system.computerName();
+    if (!user || (computer && !IsPrintable(*computer)))
+        computer.reset(); // a computer is named only together with its user
+
+    WriteOrRemove(ticket, key::ClientUserName, user);
+    WriteOrRemove(ticket, key::ClientComputerName, computer);
+    WriteOrRemove(ticket, key::ClientIPAddress, PrimaryIPAddress(system));
+}
 
 // The keys of the job that belong to no panel.
 void WriteJobWideKeys(Ticket& settings)
@@ -19,9 +55,10 @@ void WriteJobWideKeys(Ticket& settings)
     ticket.remove(key::RotateBooklet180Degrees);
     ticket.set(key::ControllerFamily, "Discovery");
     ticket.set(key::ControllerVersion, "5.0");
+    WriteClientInformation(ticket);
 
     const Dictionary* jobType = settings.values().dictionary(key::JobType);
-    if (jobType && CFDictionaryGetNumber<SInt32>(*jobType, "JobType") == kFaxJob)
+    if (jobType && CFDictionaryGetNumber<SInt32>(*jobType, "JobType") == kJobTypeFax)
         PPDSetCurrentChoice(settings, "KSTColor", "BW"); // a fax has no colours
 }
 

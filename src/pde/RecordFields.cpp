@@ -3,54 +3,95 @@
 namespace kesta::detail {
 namespace {
 
-template <class... Cases> struct Overloaded : Cases... {
-    using Cases::operator()...;
-};
-
-template <class Field, class Read> void Assign(Field& field, const Read& read)
+bool Has(SInt32 number)
 {
-    if (read)
-        field = *read;
+    return number != kUnset;
+}
+
+bool Has(bool flag)
+{
+    return flag;
+}
+
+bool Has(const QString& text)
+{
+    return !text.isEmpty();
+}
+
+bool Has(const std::optional<QString>& text)
+{
+    return text.has_value();
+}
+
+Value Stored(SInt32 number)
+{
+    return Number::Index(number);
+}
+
+Value Stored(bool flag)
+{
+    return flag;
+}
+
+Value Stored(const QString& text)
+{
+    return text;
+}
+
+Value Stored(const std::optional<QString>& text)
+{
+    return text.value_or(QString());
+}
+
+std::optional<SInt32> Read(SInt32, const Dictionary& ticket, const char* key)
+{
+    return CFDictionaryGetNumber<SInt32>(ticket, key);
+}
+
+std::optional<bool> Read(bool, const Dictionary& ticket, const char* key)
+{
+    return ticket.boolean(key);
+}
+
+const QString* Read(const std::optional<QString>&, const Dictionary& ticket, const char* key)
+{
+    return ticket.string(key);
 }
 
 } // namespace
 
 bool IsSet(ConstFieldRef field)
 {
-    return std::visit(Overloaded{[](const SInt32* number) { return *number != kUnset; },
-                                 [](const bool* flag) { return *flag; },
-                                 [](const QString* text) { return !text->isEmpty(); },
-                                 [](const std::optional<QString>* text) { return text->has_value(); }},
-                      field);
+    return std::visit([](const auto* content) { return Has(*content); }, field);
 }
 
 Value ToValue(ConstFieldRef field)
 {
-    return std::visit(Overloaded{[](const SInt32* number) { return Value(Number::Index(*number)); },
-                                 [](const bool* flag) { return Value(*flag); },
-                                 [](const QString* text) { return Value(*text); },
-                                 [](const std::optional<QString>* text) { return Value(text->value_or(QString())); }},
-                      field);
+    return std::visit([](const auto* content) { return Stored(*content); }, field);
 }
 
 void FromTicket(FieldRef field, const Dictionary& ticket, const char* key)
 {
-    std::visit(Overloaded{[&](SInt32* number) { Assign(*number, CFDictionaryGetNumber<SInt32>(ticket, key)); },
-                          [&](bool* flag) { Assign(*flag, ticket.boolean(key)); },
-                          [&](auto* text) { Assign(*text, ticket.string(key)); }},
-               field);
+    std::visit(
+        [&](auto* content) {
+            if (const auto read = Read(*content, ticket, key))
+                *content = *read;
+        },
+        field);
 }
 
 void Unset(FieldRef field)
 {
-    std::visit(Overloaded{[](SInt32* number) { *number = kUnset; }, []<class T>(T* other) { *other = T(); }}, field);
+    std::visit([]<class T>(T* content) { *content = T(); }, field);
+    if (SInt32** number = std::get_if<SInt32*>(&field))
+        **number = kUnset;
 }
 
 bool IsSame(ConstFieldRef a, ConstFieldRef b, Qt::CaseSensitivity texts)
 {
     if (const auto* text = std::get_if<const QString*>(&a))
         return (*text)->compare(*std::get<const QString*>(b), texts) == 0;
-    return std::visit([&](const auto* field) { return *field == *std::get<decltype(field)>(b); }, a);
+    return std::visit([&](const auto* content) { return *content == *std::get<decltype(content)>(b); }, a);
 }
 
 } // namespace kesta::detail

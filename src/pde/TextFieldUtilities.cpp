@@ -1,82 +1,78 @@
-#include "pde/MenuUtilities.h"
+#include "pde/TextFieldUtilities.h"
 
-#include "toolkit/InterfaceFile.h"
-#include "toolkit/ModalLoop.h"
+#include "toolkit/ControlEvent.h"
+#include "toolkit/TextInput.h"
 
 #include <QApplication>
-#include <QValidator>
+#include <QPointer>
 
 #include <algorithm>
 
 namespace kesta {
 namespace {
 
-class LimitValidator : public QValidator {
+// The limits of one control and the handler that keeps them. Belongs to the control.
+class InputLimiter : public QObject {
 public:
-    LimitValidator(QObject* parent, TextLimits limits) : QValidator(parent), limits_(std::move(limits)) {}
-
-    State validate(QString& text, int&) const override
+    explicit InputLimiter(QWidget& control) : QObject(&control)
     {
-        const bool tooLong = limits_.maximumLength > 0 && text.size() > limits_.maximumLength;
-        const bool foreign = !limits_.allowedCharacters.isEmpty() && !std::ranges::all_of(text, [this](QChar c) {
-            return limits_.allowedCharacters.contains(c);
-        });
-        if (!tooLong && !foreign)
-            return Acceptable;
-        QApplication::beep();
-        return Invalid;
+        SendTextEvents(control);
+        handler_ = InstallEventHandler(
+            control, [this](const TextTypedEvent& event) { return textTyped(event); },
+            [this, &control](const TextEditedEvent& event) {
+                SendControlEvent(control, TextLengthEvent{.length = lengthOf(event.text)});
+                return EventResult::NotHandled;
+            },
+            [&control](const ItemChosenEvent&) {
+                SendControlEvent(control, TextLengthEvent{.length = TextLength::LongEnough});
+                return EventResult::NotHandled;
+            });
     }
+    void setLimits(const TextLimits& limits) { limits_ = limits; }
 
 private:
+    EventResult textTyped(const TextTypedEvent& event) const
+    {
+        if (event.isEditingOnly())
+            return EventResult::NotHandled;
+        const bool tooLong = limits_.maximumLength > 0 && event.lengthAfter() > limits_.maximumLength;
+        const auto allowed = [this](QChar c) { return limits_.allowedCharacters.contains(c); };
+        const bool foreign = !limits_.allowedCharacters.isEmpty() && !std::ranges::all_of(event.typed, allowed);
+        if (!tooLong && !foreign)
+            return EventResult::NotHandled;
+        QApplication::beep();
+        return EventResult::Handled;
+    }
+    TextLength lengthOf(const QString& text) const
+    {
+        if (text.isEmpty())
+            return TextLength::Empty;
+        return text.size() < std::max(limits_.minimumLength, 1) ? TextLength::TooShort : TextLength::LongEnough;
+    }
+
     TextLimits limits_;
+    EventHandler handler_;
 };
 
-EventKind TextNotification(qsizetype length, int minimumLength)
+InputLimiter* LimiterOf(const QWidget& control)
 {
-    if (length == 0)
-        return EventKind::TextEmpty;
-    return length < std::max(minimumLength, 1) ? EventKind::TextTooShort : EventKind::TextLongEnough;
+    for (QObject* child : control.children()) {
+        if (auto* limiter = dynamic_cast<InputLimiter*>(child))
+            return limiter;
+    }
+    return nullptr;
 }
 
 } // namespace
 
-void LimitInputLengthAndCharacters(QLineEdit* field, const TextLimits& limits)
+void LimitInputLengthAndCharacters(QWidget* control, const TextLimits& limits)
 {
-    if (!field)
+    if (!control)
         return;
-    auto* validator = new LimitValidator(field, limits);
-    field->setValidator(validator);
-    QObject::connect(field, &QLineEdit::textEdited, validator,
-                     [field, minimum = limits.minimumLength](const QString& text) {
-                         SendControlEvent(*field, {.kind = TextNotification(text.size(), minimum)});
-                     });
-}
-
-OSStatus RunModalCustomValueDialog(const Bundle& bundle, const TextLimits& limits, std::optional<QString>& text,
-                                   ModalResult& result)
-{
-    constexpr ControlID kValueField{"Util"_code, 1};
-
-    const std::unique_ptr<QWidget> window = CreateWindowFromNib(bundle, "Utilities", "CustomValue");
-    QLineEdit* field = FindTextField(window.get(), kValueField);
-    if (!field)
-        return kInterfaceFileUnreadable;
-    LimitInputLengthAndCharacters(field, limits);
-    field->setText(text.value_or(QString()));
-    field->setFocus();
-
-    const EventHandler commands = InstallEventHandler(*window, {EventKind::Command}, [&](const ControlEvent& event) {
-        if (event.command == kCommandOK)
-            EndModalLoop(*window, ModalResult::OK);
-        else if (event.command == kCommandCancel)
-            EndModalLoop(*window, ModalResult::Cancel);
-        else
-            return EventResult::NotHandled;
-        return EventResult::Handled;
-    });
-    result = RunModalLoop(*window);
-    text = result == ModalResult::OK ? std::optional(field->text()) : std::nullopt;
-    return noErr;
+    InputLimiter* limiter = LimiterOf(*control);
+    if (!limiter)
+        limiter = new InputLimiter(*control);
+    limiter->setLimits(limits);
 }
 
 } // namespace kesta

@@ -4,13 +4,13 @@
 
 #include <QAnyStringView>
 #include <QByteArray>
-#include <QDateTime>
 #include <QString>
 
 #include <concepts>
 #include <initializer_list>
 #include <map>
 #include <type_traits>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -19,8 +19,21 @@ namespace kesta {
 class Value;
 using Array = std::vector<Value>;
 
+// A moment, in whole seconds since 1970-01-01T00:00:00 UTC; seconds before it are negative.
+struct Date {
+    SInt64 seconds = 0;
+
+    bool operator==(const Date&) const = default;
+};
+
 // Keys are exact and case-sensitive. Copies are deep; an entry keeps its address until it is removed.
 class Dictionary {
+    struct Less {
+        using is_transparent = void;
+        bool operator()(QAnyStringView a, QAnyStringView b) const { return QAnyStringView::compare(a, b) < 0; }
+    };
+    using Items = std::map<QString, Value, Less>;
+
 public:
     struct Item;
 
@@ -38,22 +51,26 @@ public:
 
     // Null or nothing also when the entry is of another kind.
     const Dictionary* dictionary(QAnyStringView key) const;
+    Dictionary* dictionary(QAnyStringView key);
     const Array* array(QAnyStringView key) const;
+    Array* array(QAnyStringView key);
+    const Number* number(QAnyStringView key) const;
     const QString* string(QAnyStringView key) const;
+    const QByteArray* data(QAnyStringView key) const;
     std::optional<bool> boolean(QAnyStringView key) const;
 
     void set(QAnyStringView key, Value value);
     void remove(QAnyStringView key);
     std::size_t count() const;
 
+    // Key and value of every entry, in order of the keys' UTF-16 units: for (const auto& [key, value] : dictionary)
+    Items::const_iterator begin() const;
+    Items::const_iterator end() const;
+
     bool operator==(const Dictionary&) const;
 
 private:
-    struct Less {
-        using is_transparent = void;
-        bool operator()(QAnyStringView a, QAnyStringView b) const { return QAnyStringView::compare(a, b) < 0; }
-    };
-    std::map<QString, Value, Less> items_;
+    Items items_;
 };
 
 // One entry of a ticket or property list. There is no empty value: what is absent is not there.
@@ -67,7 +84,7 @@ public:
     Value(QString string);
     Value(const char* utf8);
     Value(QByteArray data);
-    Value(QDateTime date);
+    Value(Date date);
     Value(Array array);
     Value(Dictionary dictionary);
 
@@ -76,15 +93,22 @@ public:
     const Number* number() const { return std::get_if<Number>(&content_); }
     const QString* string() const { return std::get_if<QString>(&content_); }
     const QByteArray* data() const { return std::get_if<QByteArray>(&content_); }
-    const QDateTime* date() const { return std::get_if<QDateTime>(&content_); }
+    const Date* date() const { return std::get_if<Date>(&content_); }
     const Array* array() const { return std::get_if<Array>(&content_); }
+    Array* array() { return std::get_if<Array>(&content_); }
     const Dictionary* dictionary() const { return std::get_if<Dictionary>(&content_); }
     Dictionary* dictionary() { return std::get_if<Dictionary>(&content_); }
+
+    // Calls the visitor with what the value is.
+    template <class Visitor> decltype(auto) visit(Visitor&& visitor) const
+    {
+        return std::visit(std::forward<Visitor>(visitor), content_);
+    }
 
     bool operator==(const Value&) const;
 
 private:
-    std::variant<bool, Number, QString, QByteArray, QDateTime, Array, Dictionary> content_;
+    std::variant<bool, Number, QString, QByteArray, Date, Array, Dictionary> content_;
 };
 
 struct Dictionary::Item {

@@ -2,8 +2,10 @@
 
 #include "pde/TicketUtilities.h"
 #include "platform/PPDFileCheck.h"
+#include "printer/LocalizedPPD.h"
 
 #include <QFile>
+#include <QUrl>
 
 #include <cups/ppd.h>
 
@@ -27,7 +29,11 @@ std::unique_ptr<ppd_file_t, ClosePPD>& CurrentPPD()
 std::optional<QString> CurrentPPDPath()
 {
     const PrintSession* session = GetCurrentPrintSession();
-    return session ? std::optional(session->printerPPDPath) : std::nullopt;
+    const PMPrinter* printer = session ? PMSessionGetCurrentPrinter(*session) : nullptr;
+    const std::optional<QString> url =
+        printer ? PMPrinterGetDescriptionURL(*printer, kPMPPDDescriptionType) : std::nullopt;
+    const QString path = url ? QUrl(*url).toLocalFile() : QString();
+    return path.isEmpty() ? std::nullopt : std::optional(path);
 }
 
 ppd_file_t* OpenPPD(const QString& path)
@@ -52,8 +58,10 @@ ppd_file_t* PPDGetCurrent()
 {
     if (CurrentPPD())
         return CurrentPPD().get();
-    if (const std::optional<QString> path = CurrentPPDPath())
+    if (const std::optional<QString> path = CurrentPPDPath()) {
         CurrentPPD().reset(OpenPPD(*path));
+        LocalizePPD(CurrentPPD().get());
+    }
     return CurrentPPD().get();
 }
 

@@ -1,5 +1,7 @@
 #include "toolkit/ClickableText.h"
 
+#include "toolkit/AccessibleControls.h"
+
 #include <QKeyEvent>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
@@ -13,6 +15,7 @@ constexpr int kFocusRoom = 3; // points around the text for the focus ring
 
 ClickableText::ClickableText(QWidget* parent) : QAbstractButton(parent)
 {
+    InstallAccessibleControls();
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
@@ -40,7 +43,8 @@ void ClickableText::paintEvent(QPaintEvent*)
     painter.setFont(underlined);
     const int flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading)) |
                       Qt::AlignVCenter | Qt::TextHideMnemonic;
-    painter.drawItemText(inner, flags, palette(), isEnabled(), text(), isEnabled() ? QPalette::Link : QPalette::WindowText);
+    painter.drawItemText(inner, flags, palette(), isEnabled(), text(),
+                         isEnabled() ? QPalette::Link : QPalette::WindowText);
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);

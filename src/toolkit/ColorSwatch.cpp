@@ -1,5 +1,6 @@
 #include "toolkit/ColorSwatch.h"
 
+#include "toolkit/AccessibleControls.h"
 #include "toolkit/ControlEvent.h"
 #include "toolkit/KestaColors.h"
 #include "toolkit/ModalLoop.h"
@@ -13,12 +14,13 @@ namespace kesta {
 namespace {
 
 constexpr int kSwatchInset = 6; // points between the outline of the button and its colour
-constexpr QSize kSwatchSize{64, 28};
+constexpr int kSwatchWidth = 64;
 
 } // namespace
 
 ColorSwatch::ColorSwatch(QWidget* parent) : QAbstractButton(parent)
 {
+    InstallAccessibleControls();
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QAbstractButton::clicked, this, &ColorSwatch::runColorDialog);
@@ -54,8 +56,8 @@ QSize ColorSwatch::sizeHint() const
 {
     QStyleOptionButton option;
     option.initFrom(this);
-    return style()->sizeFromContents(QStyle::CT_PushButton, &option, QSize(0, fontMetrics().height()), this)
-        .boundedTo(QSize(kSwatchSize.width(), 4 * kSwatchSize.height()));
+    const QSize button = style()->sizeFromContents(QStyle::CT_PushButton, &option, fontMetrics().size(0, text()), this);
+    return {kSwatchWidth, button.height()};
 }
 
 void ColorSwatch::paintEvent(QPaintEvent*)

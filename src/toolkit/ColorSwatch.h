@@ -13,7 +13,7 @@ public:
     explicit ColorSwatch(QWidget* parent = nullptr);
 
     QColor color() const { return color_; }
-    void setColor(const QColor& color); // opaque; sends nothing
+    void setColor(const QColor& color);    // opaque; sends nothing
     void chooseColor(const QColor& color); // as the user would
 
     QSize sizeHint() const override;

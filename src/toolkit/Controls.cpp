@@ -26,7 +26,8 @@ QPushButton* ButtonOfCommand(const QWidget& window, FourCharCode command)
 
 QString OwnText(const QWidget& control)
 {
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&control); button && !qobject_cast<const PopupButton*>(button))
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&control);
+        button && !qobject_cast<const PopupButton*>(button))
         return WithoutMnemonic(button->text());
     if (const auto* label = qobject_cast<const QLabel*>(&control))
         return label->buddy() ? WithoutMnemonic(label->text()) : label->text();

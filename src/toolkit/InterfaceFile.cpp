@@ -57,11 +57,10 @@ public:
 
     QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override
     {
-        const auto ours = std::ranges::find_if(kWidgetClasses, [&](const WidgetClass& one) {
-            return className == QLatin1String(one.name);
-        });
-        QWidget* widget = ours != kWidgetClasses.end() ? ours->make(parent)
-                                                       : QUiLoader::createWidget(className, parent, name);
+        const auto ours = std::ranges::find_if(
+            kWidgetClasses, [&](const WidgetClass& one) { return className == QLatin1String(one.name); });
+        QWidget* widget =
+            ours != kWidgetClasses.end() ? ours->make(parent) : QUiLoader::createWidget(className, parent, name);
         if (widget)
             widget->setObjectName(name);
         else

@@ -16,6 +16,7 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMetaProperty>
 #include <QPointer>
 #include <QPushButton>
 
@@ -67,11 +68,18 @@ void SetUpStandardButtons(const QDialogButtonBox& box)
     }
 }
 
+// What a field holds is nobody's text but the user's.
+bool IsContents(const QWidget& widget, const QByteArray& property)
+{
+    return property == "text" && qobject_cast<const QLineEdit*>(&widget);
+}
+
 void Localize(QWidget& widget, const Bundle& bundle)
 {
     for (const char* property : kTextProperties) {
-        const QString key = widget.property(property).toString();
-        if (key.isEmpty() || (property == "text"_L1 && qobject_cast<QLineEdit*>(&widget)))
+        const int index = widget.metaObject()->indexOfProperty(property);
+        const QString key = index < 0 ? QString() : widget.property(property).toString();
+        if (key.isEmpty() || !widget.metaObject()->property(index).isWritable() || IsContents(widget, property))
             continue;
         widget.setProperty(property, LocalizedString(bundle, key));
         if (!widget.property("localizableKey").isValid())

@@ -11,7 +11,7 @@ namespace kesta {
 
 struct ListColumn {
     QString title;
-    int minimumWidth = 0;  // points
+    int minimumWidth = 0;   // points
     bool stretches = false; // takes the room that is left; the others fit their contents
 };
 

@@ -1,8 +1,8 @@
 #include "toolkit/MenuControl.h"
 
+#include "toolkit/AccessibleControls.h"
 #include "toolkit/ControlEvent.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPointer>
@@ -28,6 +28,7 @@ void ShowBelow(QMenu& menu, const QWidget& control)
 
 MenuControl::MenuControl(QWidget* parent) : QAbstractButton(parent)
 {
+    InstallAccessibleControls();
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(this, &QAbstractButton::pressed, this, [this] {

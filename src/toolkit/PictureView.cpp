@@ -1,5 +1,6 @@
 #include "toolkit/PictureView.h"
 
+#include "toolkit/AccessibleControls.h"
 #include "toolkit/ControlEvent.h"
 #include "toolkit/Pictures.h"
 
@@ -16,6 +17,7 @@ constexpr qreal kDisabledOpacity = 0.4;
 
 PictureView::PictureView(QWidget* parent) : QWidget(parent)
 {
+    InstallAccessibleControls();
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

@@ -20,8 +20,8 @@ namespace {
 
 constexpr char kInkPlaceholder[] = "#010203";
 constexpr QRgb kInk = qRgb(1, 2, 3);
-constexpr qint64 kLargestFile = 8 << 20;  // bytes
-constexpr int kLargestSide = 4096;        // pixels
+constexpr qint64 kLargestFile = 8 << 20; // bytes
+constexpr int kLargestSide = 4096;       // pixels
 constexpr qreal kDisabledOpacity = 0.4;
 
 QByteArray Contents(const QString& name)
@@ -74,10 +74,10 @@ QImage ReadPicture(const QString& file, qreal ratio, const QColor& ink)
 {
     const QFileInfo info(file);
     const QString twin = info.path() + u'/' + info.completeBaseName();
-    if (QImage image = RenderSvg(twin + u".svg", ratio, ink); !image.isNull())
+    if (QImage image = RenderSvg(twin + u".svg"_s, ratio, ink); !image.isNull())
         return image;
     if (ratio > 1) {
-        if (QImage image = ReadRaster(twin + u"@2x.png", 2, ink); !image.isNull())
+        if (QImage image = ReadRaster(twin + u"@2x.png"_s, 2, ink); !image.isNull())
             return image;
     }
     return ReadRaster(file, 1, ink);
@@ -143,7 +143,7 @@ private:
 
 QString PictureFolder(const Bundle& bundle)
 {
-    const QString pictures = bundle.resourcesPath + u"/Pictures";
+    const QString pictures = bundle.resourcesPath + u"/Pictures"_s;
     return QFileInfo(pictures).isDir() ? pictures : bundle.resourcesPath;
 }
 

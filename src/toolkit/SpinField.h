@@ -7,8 +7,8 @@
 namespace kesta {
 
 // A number with arrows, in the language's notation. Its number is a whole count of units of 10^-decimals: with one
-// decimal, 5 shows as 0.5. A user's change sends a hit with the new number; so does each digit that leaves one in range.
-// In interface files `minimum`, `maximum`, `value` and `singleStep` are as shown.
+// decimal, 5 shows as 0.5. A user's change sends a hit with the new number; so does each digit that leaves one in
+// range. In interface files `minimum`, `maximum`, `value` and `singleStep` are as shown.
 class SpinField : public QDoubleSpinBox {
     Q_OBJECT
 
@@ -20,6 +20,8 @@ public:
     SInt32 mostNumber() const;
     SInt32 number() const;
     void setNumber(SInt32 number); // brought within the limits; sends nothing
+
+    QSize sizeHint() const override;
 
 protected:
     void wheelEvent(QWheelEvent* event) override; // only with the focus: panels scroll

@@ -17,7 +17,7 @@ public:
     void setTitles(const QStringList& titles);
 
     int value() const { return currentIndex() + 1; }
-    void setValue(int position); // sends nothing
+    void setValue(int position);  // sends nothing
     bool chooseTab(int position); // as the user would
 
 private:

@@ -16,9 +16,8 @@ QString TextOf(const QKeyEvent& key)
     if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)
         return QStringLiteral("\n");
     const QString text = key.text();
-    const bool printable = !text.isEmpty() && std::ranges::none_of(text, [](QChar c) {
-        return c.category() == QChar::Other_Control;
-    });
+    const bool printable =
+        !text.isEmpty() && std::ranges::none_of(text, [](QChar c) { return c.category() == QChar::Other_Control; });
     return printable && !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) ? text : QString();
 }
 
@@ -32,9 +31,8 @@ TextArea::TextArea(QWidget* parent) : QPlainTextEdit(parent)
 bool TextArea::mayEnter(const QString& typed)
 {
     const QTextCursor cursor = textCursor();
-    const TextTypedEvent event{.typed = typed,
-                               .before = toPlainText(),
-                               .replaced = cursor.selectionEnd() - cursor.selectionStart()};
+    const TextTypedEvent event{
+        .typed = typed, .before = toPlainText(), .replaced = cursor.selectionEnd() - cursor.selectionStart()};
     return SendControlEvent(*this, event) == EventResult::NotHandled;
 }
 
@@ -78,9 +76,9 @@ void TextArea::pasteText(const QString& text)
 {
     if (isReadOnly() || !isEnabled())
         return;
-    QMimeData data;
-    data.setText(text);
-    insertFromMimeData(&data);
+    QMimeData pasted;
+    pasted.setText(text);
+    insertFromMimeData(&pasted);
 }
 
 } // namespace kesta

@@ -23,7 +23,7 @@ CurrentPrinter::~CurrentPrinter()
 
 void CurrentPrinter::setPPD(const QString& path)
 {
-    session.printerPPDPath = path;
+    session.printer = PMPrinter{.ppdPath = path};
 }
 
 } // namespace kesta::test

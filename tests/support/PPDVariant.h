@@ -11,7 +11,7 @@ namespace kesta::test {
 // change throws, so that a variant does not turn into the plain PPD when that one is edited.
 //     PPDVariant ppd;
 //     ppd.setDefault("Option2", "CClass").removeOption("Jog");
-//     session.printerPPDPath = ppd.path();
+//     const CurrentPrinter printer(ppd);
 class PPDVariant {
 public:
     PPDVariant();

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/Bundle.h"
+
+namespace kesta {
+
+inline constexpr char kPlugInBundleIdentifier[] = "com.kesta.print.pde.kestafeatures.vt4100_4200_4300";
+
+// The bundle that this code belongs to; null before it is loaded.
+inline const Bundle* PlugInBundle()
+{
+    return FindBundle(kPlugInBundleIdentifier);
+}
+
+} // namespace kesta

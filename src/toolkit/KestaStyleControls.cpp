@@ -1,0 +1,297 @@
+#include "toolkit/KestaProxyStyle.h"
+#include "toolkit/KestaStyleDrawing.h"
+
+#include <QAbstractScrollArea>
+#include <QFrame>
+#include <QPainter>
+#include <QStyleOption>
+
+namespace kesta {
+namespace {
+
+constexpr int kMarkSize = 16; // points, of the mark inside an invalid field
+constexpr double kBoxRadius = 4;
+constexpr double kDisabledOpacity = 0.4; // of pictures
+
+bool IsEnabled(const QStyleOption& option)
+{
+    return option.state & QStyle::State_Enabled;
+}
+
+bool HasKeyboardFocus(const QStyleOption& option)
+{
+    return option.state & QStyle::State_HasFocus && option.state & QStyle::State_KeyboardFocusChange;
+}
+
+bool IsRightToLeft(const QStyleOption& option)
+{
+    return option.direction == Qt::RightToLeft;
+}
+
+bool IsDefaultButton(const QStyleOption& option)
+{
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    return button && button->features & QStyleOptionButton::DefaultButton && IsEnabled(option);
+}
+
+QColor Touched(const QColor& color, const QStyleOption& option, const QColor& toward)
+{
+    if (option.state & QStyle::State_Sunken)
+        return Mix(color, toward, 0.12);
+    return option.state & QStyle::State_MouseOver && IsEnabled(option) ? Mix(color, toward, 0.04) : color;
+}
+
+// Buttons, pop-ups, segments, tiles.
+void DrawPressable(const QStyleOption& option, QPainter& painter)
+{
+    const KestaColors colors = CurrentColors();
+    if (IsDefaultButton(option)) {
+        const QColor fill = Touched(colors.accent, option, Qt::black);
+        DrawOutlined(painter, option.rect, fill, fill);
+        if (HasKeyboardFocus(option))
+            DrawRing(painter, option.rect.adjusted(2, 2, -2, -2), colors.onAccent, kOutlineRadius - 2);
+        return;
+    }
+    const bool on = option.state & QStyle::State_On;
+    const QColor plain = IsEnabled(option) ? colors.button : Mix(colors.pane, colors.button, 0.3);
+    const QColor fill = on ? Mix(plain, colors.accent, 0.16) : Touched(plain, option, colors.text);
+    const QColor outline = !IsEnabled(option) ? colors.hairline : on ? colors.accent : colors.border;
+    DrawOutlined(painter, option.rect, fill, outline);
+    if (HasKeyboardFocus(option))
+        DrawRing(painter, option.rect, colors.accent);
+}
+
+// Anything that is typed into.
+void DrawField(const QStyleOption& option, QPainter& painter, const QWidget* widget)
+{
+    const KestaColors colors = CurrentColors();
+    const bool invalid = widget && widget->property("invalid").toBool();
+    const QColor fill = IsEnabled(option) ? colors.base : Mix(colors.pane, colors.base, 0.3);
+    DrawOutlined(painter, option.rect, fill, IsEnabled(option) ? colors.field : colors.hairline);
+    if (invalid) {
+        DrawRing(painter, option.rect, colors.error);
+        const QRect mark(option.rect.right() - kTextInset - kMarkSize + 1, option.rect.center().y() - kMarkSize / 2 + 1,
+                         kMarkSize, kMarkSize);
+        if (qstyleoption_cast<const QStyleOptionFrame*>(&option)) // others have their arrows there
+            DrawCautionMark(painter, QStyle::visualRect(option.direction, option.rect, mark), colors.error);
+    } else if (option.state & QStyle::State_HasFocus) {
+        DrawRing(painter, option.rect, colors.accent);
+    }
+}
+
+QColor ArrowColor(const QStyleOption& option)
+{
+    const KestaColors colors = CurrentColors();
+    return IsEnabled(option) ? colors.text2 : colors.disabled;
+}
+
+void DrawComboBox(const QStyleOptionComboBox& combo, QPainter& painter, const QWidget* widget, const QStyle& style)
+{
+    combo.editable ? DrawField(combo, painter, widget) : DrawPressable(combo, painter);
+    const QRect arrow = style.subControlRect(QStyle::CC_ComboBox, &combo, QStyle::SC_ComboBoxArrow, widget);
+    DrawChevron(painter, arrow, Direction::Down, ArrowColor(combo), IsRightToLeft(combo));
+}
+
+void DrawSpinBox(const QStyleOptionSpinBox& spin, QPainter& painter, const QWidget* widget, const QStyle& style)
+{
+    DrawField(spin, painter, widget);
+    const auto draw = [&](QStyle::SubControl part, QAbstractSpinBox::StepEnabledFlag step, Direction direction,
+                          int shift) {
+        const bool can = IsEnabled(spin) && spin.stepEnabled & step;
+        const KestaColors colors = CurrentColors();
+        const QRect rect = style.subControlRect(QStyle::CC_SpinBox, &spin, part, widget).translated(0, shift);
+        DrawChevron(painter, rect, direction, can ? colors.text2 : colors.disabled, false);
+    };
+    draw(QStyle::SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, Direction::Up, 2);
+    draw(QStyle::SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, Direction::Down, -2);
+}
+
+void DrawCheckBox(const QStyleOption& option, QPainter& painter)
+{
+    const KestaColors colors = CurrentColors();
+    const bool on = option.state & (QStyle::State_On | QStyle::State_NoChange);
+    const QColor outline = IsEnabled(option) ? colors.field : colors.hairline;
+    const QColor filled = IsEnabled(option) ? Touched(colors.accent, option, Qt::black) : colors.disabled;
+    const QColor fill = on ? filled : Touched(colors.base, option, colors.text);
+    DrawOutlined(painter, option.rect, fill, on ? filled : outline, kBoxRadius);
+    if (option.state & QStyle::State_On)
+        DrawCheckMark(painter, option.rect, IsEnabled(option) ? colors.onAccent : colors.window);
+    else if (option.state & QStyle::State_NoChange)
+        painter.fillRect(QRect(option.rect.center() - QPoint(3, 0), QSize(8, 2)), colors.onAccent);
+}
+
+void DrawRadioButton(const QStyleOption& option, QPainter& painter)
+{
+    const KestaColors colors = CurrentColors();
+    const bool on = option.state & QStyle::State_On;
+    const QColor filled = IsEnabled(option) ? colors.accent : colors.disabled;
+    const double radius = option.rect.height() / 2.0;
+    DrawOutlined(painter, option.rect, on ? filled : Touched(colors.base, option, colors.text),
+                 on                  ? filled
+                 : IsEnabled(option) ? colors.field
+                                     : colors.hairline,
+                 radius);
+    if (on)
+        DrawOutlined(painter, option.rect.adjusted(5, 5, -5, -5), colors.onAccent, colors.onAccent, radius - 5);
+}
+
+// The pane has a hairline above and below; lists and text areas look like fields.
+void DrawPane(const QStyleOption& option, QPainter& painter)
+{
+    const QColor hairline = CurrentColors().hairline;
+    painter.fillRect(QRect(option.rect.topLeft(), QSize(option.rect.width(), 1)), hairline);
+    painter.fillRect(QRect(option.rect.bottomLeft(), QSize(option.rect.width(), 1)), hairline);
+}
+
+} // namespace
+
+bool KestaProxyStyle::drawFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) const
+{
+    if (LookOf(widget) == "pane") {
+        DrawPane(option, painter);
+        return true;
+    }
+    if (!qobject_cast<const QAbstractScrollArea*>(widget))
+        return false;
+    QStyleOption field(option);
+    if (widget->hasFocus())
+        field.state |= State_HasFocus;
+    DrawField(field, painter, widget);
+    return true;
+}
+
+void KestaProxyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                    const QWidget* widget) const
+{
+    switch (element) {
+    case PE_PanelButtonCommand:
+    case PE_PanelButtonTool:
+    case PE_PanelButtonBevel:
+        return DrawPressable(*option, *painter);
+    case PE_FrameDefaultButton:
+        return;
+    case PE_FrameFocusRect:
+        if (!qobject_cast<const QAbstractScrollArea*>(widget))
+            DrawRing(*painter, option->rect, CurrentColors().accent);
+        return;
+    case PE_PanelLineEdit:
+        if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0)
+            DrawField(*option, *painter, widget);
+        return;
+    case PE_IndicatorCheckBox:
+        return DrawCheckBox(*option, *painter);
+    case PE_IndicatorRadioButton:
+        return DrawRadioButton(*option, *painter);
+    case PE_Frame:
+        if (drawFrame(*option, *painter, widget))
+            return;
+        break;
+    case PE_FrameTabBarBase: {
+        const QRect base = option->rect;
+        return painter->fillRect(QRect(base.bottomLeft(), QSize(base.width(), 1)), CurrentColors().hairline);
+    }
+    case PE_PanelMenu:
+    case PE_FrameMenu:
+        if (element == PE_PanelMenu)
+            painter->fillRect(option->rect, CurrentColors().base);
+        painter->setPen(CurrentColors().border);
+        painter->setBrush(Qt::NoBrush);
+        return painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    default:
+        break;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void KestaProxyStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                         const QWidget* widget) const
+{
+    if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option); combo && control == CC_ComboBox)
+        return DrawComboBox(*combo, *painter, widget, *this);
+    if (const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option); spin && control == CC_SpinBox)
+        return DrawSpinBox(*spin, *painter, widget, *this);
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+void KestaProxyStyle::drawButtonLabel(const QStyleOptionButton& button, QPainter& painter, const QWidget* widget) const
+{
+    if (LookOf(widget) == "tile") {
+        constexpr int kGap = 12;
+        const QRect inner = button.rect.adjusted(kGap - 2, 0, -kGap, 0);
+        const QRect icon = alignedRect(button.direction, Qt::AlignLeft | Qt::AlignVCenter, {48, 48}, inner);
+        painter.save();
+        painter.setOpacity(IsEnabled(button) ? 1 : kDisabledOpacity);
+        button.icon.paint(&painter, icon);
+        painter.restore();
+        const QRect text = visualRect(button.direction, inner, inner.adjusted(48 + kGap - 4, 0, 0, 0));
+        const int flags = static_cast<int>(visualAlignment(button.direction, Qt::AlignLeft)) | Qt::AlignVCenter |
+                          Qt::TextShowMnemonic | Qt::TextWordWrap;
+        return drawItemText(&painter, text, flags, button.palette, IsEnabled(button), button.text,
+                            QPalette::ButtonText);
+    }
+    QStyleOptionButton label(button);
+    if (IsDefaultButton(button))
+        label.palette.setColor(QPalette::ButtonText, CurrentColors().onAccent);
+    QProxyStyle::drawControl(CE_PushButtonLabel, &label, &painter, widget);
+}
+
+void KestaProxyStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                                  const QWidget* widget) const
+{
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    switch (element) {
+    case CE_PushButtonBevel:
+        if (!button)
+            break;
+        DrawPressable(*button, *painter);
+        if (button->features & QStyleOptionButton::HasMenu) {
+            const QRect arrow(option->rect.right() - kArrowWidth + 1, option->rect.top(), kArrowWidth,
+                              option->rect.height());
+            DrawChevron(*painter, visualRect(option->direction, option->rect, arrow), Direction::Down,
+                        IsEnabled(*option) ? CurrentColors().text : CurrentColors().disabled, false);
+        }
+        return;
+    case CE_PushButtonLabel:
+        if (button)
+            return drawButtonLabel(*button, *painter, widget);
+        break;
+    case CE_ComboBoxLabel:
+        if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option); combo && !combo->editable) {
+            const QRect text = subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget);
+            const int flags = static_cast<int>(visualAlignment(option->direction, Qt::AlignLeft)) | Qt::AlignVCenter;
+            return drawItemText(painter, text, flags, option->palette, IsEnabled(*option), combo->currentText,
+                                QPalette::ButtonText);
+        }
+        break;
+    case CE_MenuItem:
+        if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
+            return DrawMenuItem(*item, *painter);
+        break;
+    case CE_MenuEmptyArea:
+        return;
+    case CE_Header:
+        if (const auto* section = qstyleoption_cast<const QStyleOptionHeader*>(option))
+            return DrawHeaderSection(*section, *painter);
+        break;
+    case CE_HeaderEmptyArea:
+        return painter->fillRect(option->rect, CurrentColors().base);
+    case CE_TabBarTabShape:
+        if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option))
+            return DrawTab(*tab, *painter);
+        break;
+    case CE_ShapedFrame:
+        if (LookOf(widget) == "pane")
+            return DrawPane(*option, *painter);
+        if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+            frame && frame->frameShape == QFrame::HLine) {
+            const QRect line(option->rect.left(), option->rect.center().y(), option->rect.width(), 1);
+            return painter->fillRect(line, CurrentColors().hairline);
+        }
+        break;
+    default:
+        break;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+} // namespace kesta

@@ -1,0 +1,97 @@
+#include "pde/FakePanels.h"
+#include "pde/PDEShell.h"
+#include "pde/PanelLoading.h"
+#include "pde/PanelOperations.h"
+#include "pde/PlugInInterface.h"
+#include "platform/PlugIn.h"
+#include "support/TestTexts.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+extern "C" int UsePlugInFromC(KestaPlugInFactory factory);
+
+namespace kesta {
+namespace {
+
+TEST(PlugInFactory, ServesAHostInC)
+{
+    const UUID factory = *UUIDFromString("2469D08F-1C3C-4039-BE98-6ED74B921894");
+    EXPECT_EQ(UsePlugInFromC(KestaPDEPluginFactory), 0);
+    EXPECT_EQ(InstanceCount(factory), 0);
+    KestaPlugIn* plugIn = KestaPDEPluginFactory(nullptr, kKestaDialogExtensionTypeID);
+    EXPECT_EQ(InstanceCount(factory), 1);
+    plugIn->table->Release(plugIn);
+    EXPECT_EQ(InstanceCount(factory), 0);
+}
+
+class PanelLoadingTest : public testing::Test {
+protected:
+    ~PanelLoadingTest() override
+    {
+        KestaPDEUsePanels(nullptr);
+        qunsetenv("KESTA_LIBRARY_ROOT");
+    }
+    QString problemOf(const std::vector<const char*>& names)
+    {
+        EXPECT_EQ(KestaPDEUsePanels(names.data()), noErr);
+        const char* problem = "";
+        const OSStatus status = KestaPDEFindPanels(&problem);
+        EXPECT_EQ(status, problem ? kFileNotFound : noErr);
+        EXPECT_EQ(KestaPDEFindPanels(nullptr), status);
+        return QString::fromUtf8(problem);
+    }
+};
+
+TEST_F(PanelLoadingTest, TheProblemNamesWhatIsMissingAndWhere)
+{
+    Bundle bundle{.path = u"/some/where/KestaFeatures.plugin"_s};
+    test::FakePanel<'1'>::AddTo(bundle);
+    LoadBundle(kPlugInIdentifier, std::move(bundle));
+    EXPECT_EQ(problemOf({"Get1", nullptr}), QString());
+
+    const QString unknown = problemOf({"Get1", "GetNothing", nullptr});
+    EXPECT_TRUE(unknown.contains(u"GetNothing")) << unknown.toStdString();
+    EXPECT_TRUE(unknown.contains(u"/some/where/KestaFeatures.plugin"));
+
+    const QString colors = problemOf({"GetColorOptionPanelInterface", nullptr});
+    EXPECT_TRUE(colors.contains(u"/some/where/Library/Printers/Kesta/PDEs/ColorOptions.plugin"))
+        << colors.toStdString();
+    qputenv("KESTA_LIBRARY_ROOT", "/else/where");
+    EXPECT_TRUE(problemOf({"GetColorOptionPanelInterface", nullptr})
+                    .contains(u"/else/where/Library/Printers/Kesta/PDEs/ColorOptions.plugin"));
+}
+
+TEST_F(PanelLoadingTest, NullMeansTheProductsPanelsAndAnEmptyListNothing)
+{
+    const char* const none[] = {nullptr};
+    const char* const two[] = {"A", "B", nullptr};
+    EXPECT_EQ(KestaPDEUsePanels(two), noErr);
+    EXPECT_EQ(KestaPDEUsePanels(none), kMissingArgument);
+    EXPECT_EQ(shell::GetPanelFunctionNames(), (std::vector<std::string>{"A", "B"})) << "unchanged";
+    EXPECT_EQ(KestaPDEUsePanels(nullptr), noErr);
+    EXPECT_EQ(shell::GetPanelFunctionNames(), std::vector<std::string>{"GetAdvancedPanelInterface"});
+}
+
+TEST_F(PanelLoadingTest, APanelThatFailsIsTriedAgainAtItsPlace)
+{
+    Bundle bundle;
+    test::FakePanel<'1'>::AddTo(bundle);
+    test::FakePanel<'2'>::AddTo(bundle);
+    const char* const names[] = {"Get2", "Get1", nullptr};
+    KestaPDEUsePanels(names);
+    shell::PDEShellContext pane;
+    pane.bundle = &bundle;
+    test::failuresBeforeLoading = 1000;
+    shell::LoadPanels(pane);
+    test::failuresBeforeLoading = 0;
+    ASSERT_EQ(pane.panels.size(), 2u);
+    EXPECT_EQ(pane.panels[0].title, u"Panel 2");
+    EXPECT_EQ(pane.panels[1].index, 2);
+}
+
+} // namespace
+} // namespace kesta
