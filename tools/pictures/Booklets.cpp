@@ -9,10 +9,10 @@ namespace {
 constexpr int kWidth = 144;
 constexpr int kHeight = 96;
 constexpr double kMiddle = 72;
-constexpr double kTop = 12.5; // of the fold
-constexpr double kRise = 22;  // from the outer edge to the fold
+constexpr double kTop = 9.5; // of the fold
+constexpr double kRise = 22; // from the outer edge to the fold
 constexpr double kPageWidth = 52;
-constexpr double kPageHeight = 60;
+constexpr double kPageHeight = 56;
 constexpr Panel kLeft = {kMiddle - kPageWidth, kTop + kRise, kMiddle, kTop, kPageHeight};
 constexpr Panel kRight = {kMiddle, kTop, kMiddle + kPageWidth, kTop + kRise, kPageHeight};
 constexpr PanelPrint kPagePrint = {.leftInset = 0.14, .rightInset = 0.14, .topInset = 11, .lines = 6, .step = 6};
@@ -86,7 +86,7 @@ void DrawSpine(Drawing& drawing, bool hasStaples)
     drawing.path(Polyline({{kMiddle, kTop}, {kMiddle, kTop + kPageHeight}}), Stroked(kAction, hasStaples ? 1.5 : 4));
     if (!hasStaples)
         return;
-    for (const double middle : {kTop + 15, kTop + 45})
+    for (const double middle : {kTop + 14, kTop + 42})
         drawing.path(Polyline({{kMiddle, middle - 5}, {kMiddle, middle + 5}}), Stroked(kAction, 5));
 }
 
