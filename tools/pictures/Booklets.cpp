@@ -11,7 +11,7 @@ constexpr int kHeight = 96;
 constexpr double kMiddle = 72;
 constexpr double kTop = 9.5; // of the fold
 constexpr double kRise = 22; // from the outer edge to the fold
-constexpr double kPageWidth = 52;
+constexpr double kPageWidth = 51.5;
 constexpr double kPageHeight = 56;
 constexpr Panel kLeft = {kMiddle - kPageWidth, kTop + kRise, kMiddle, kTop, kPageHeight};
 constexpr Panel kRight = {kMiddle, kTop, kMiddle + kPageWidth, kTop + kRise, kPageHeight};
@@ -67,7 +67,7 @@ void DrawFoldedPage(Drawing& drawing)
 // Several leaves, one within the other; each page has its own print.
 void DrawFoldedPages(Drawing& drawing, bool hasOutlines)
 {
-    for (const double out : {7.0, 3.5}) {
+    for (const double out : {8.0, 4.0}) {
         // In line with the front leaf, so that the leaves show at the outer edges only.
         const double leftTop = kLeft.topAt(kLeft.left - out);
         DrawPanel(drawing, {kLeft.left - out, leftTop, kMiddle, kTop, kPageHeight}, kWhitePaper, Side::back);
