@@ -1,7 +1,7 @@
 #include "Families.h"
 #include "Sheet.h"
 
-namespace kesta::pictures {
+namespace kesta::pictures::booklets {
 namespace {
 
 // Scenes of 144 x 96.
@@ -104,7 +104,7 @@ Drawing Scene(Layout layout, Finishing finishing)
 
 } // namespace
 
-void AddBooklets(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     const auto add = [&pictures](const char* name, Layout layout, Finishing finishing) {
         pictures.push_back({std::string("BookletCreation_") + name + ".gif", Scene(layout, finishing)});
@@ -120,4 +120,4 @@ void AddBooklets(Pictures& pictures)
     add("Booklet-Fold-Staple-Outlines", Layout::outlinedPages, Finishing::foldAndStaple);
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::booklets

@@ -1,7 +1,7 @@
 #include "Families.h"
 #include "Sheet.h"
 
-namespace kesta::pictures {
+namespace kesta::pictures::finishing {
 namespace {
 
 constexpr int kSize = 48;
@@ -168,7 +168,7 @@ Drawing Booklet(bool hasLayout, bool hasStaples)
 
 } // namespace
 
-void AddFinishing(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     pictures.push_back({"OfficeFinishing_1St.gif", Set(Staples::one, {})});
     pictures.push_back({"OfficeFinishing_2St.gif", Set(Staples::two, {})});
@@ -195,4 +195,4 @@ void AddFinishing(Pictures& pictures)
     pictures.push_back({"OfficeFinishing_Bklt_Fold&Stpl_Layout.gif", Booklet(true, true)});
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::finishing

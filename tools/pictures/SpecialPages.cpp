@@ -2,7 +2,7 @@
 #include "Families.h"
 #include "Sheet.h"
 
-namespace kesta::pictures {
+namespace kesta::pictures::special_pages {
 namespace {
 
 constexpr int kSize = 48;
@@ -120,7 +120,7 @@ Drawing AddExceptions()
 
 } // namespace
 
-void AddSpecialPages(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     pictures.push_back({"ButtonGraphic_AddCovers.icns", AddCovers()});
     pictures.push_back({"ButtonGraphic_AddInserts.icns", AddInserts()});
@@ -138,4 +138,4 @@ void AddSpecialPages(Pictures& pictures)
     pictures.push_back({"SpclPgs_InsertsOptions-BeforePage1.gif", InsertBeforePage1()});
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::special_pages
