@@ -16,7 +16,7 @@
 namespace kesta {
 namespace {
 
-constexpr int kLeastWidth = 420; // points, as are all here
+constexpr int kLeastTextWidth = 340; // points, as are all here; makes the window 420 wide
 constexpr int kMostTextWidth = 460;
 constexpr QSize kMarkSize{32, 32};
 
@@ -51,15 +51,14 @@ AlertWindow::AlertWindow(const Alert& alert) : pressed_(CancelButtonOf(alert))
     setWindowFlag(Qt::Dialog);
     setAccessibleName(alert.title);
     setAccessibleDescription(alert.message);
-    setMinimumWidth(kLeastWidth);
     auto* layout = new QGridLayout(this);
     layout->setHorizontalSpacing(16);
     layout->setVerticalSpacing(16);
     layout->setColumnStretch(1, 1);
+    layout->setColumnMinimumWidth(1, kLeastTextWidth);
     layout->addWidget(new CautionMark, 0, 0, Qt::AlignTop);
     layout->addWidget(makeTexts(alert), 0, 1);
     layout->addWidget(makeButtons(alert), 1, 0, 1, 2);
-    layout->setSizeConstraint(QLayout::SetMinimumSize);
 }
 
 QWidget* AlertWindow::makeTexts(const Alert& alert)

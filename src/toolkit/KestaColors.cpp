@@ -3,8 +3,6 @@
 #include <QGuiApplication>
 #include <QPalette>
 
-#include <cmath>
-
 namespace kesta {
 namespace {
 
@@ -34,9 +32,7 @@ KestaColors MixedFrom(const QPalette& palette)
 
 QColor Mix(const QColor& color, const QColor& other, double share)
 {
-    const auto mixed = [share](int from, int to) {
-        return static_cast<int>(std::ceil(from + (to - from) * share - 0.5));
-    };
+    const auto mixed = [share](int from, int to) { return qRound(from + (to - from) * share); };
     return {mixed(color.red(), other.red()), mixed(color.green(), other.green()), mixed(color.blue(), other.blue())};
 }
 

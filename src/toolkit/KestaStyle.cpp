@@ -155,17 +155,20 @@ void SetLook(QWidget& widget, const char* look)
 
 void InstallKestaStyle(QApplication& application)
 {
-    if (application.style()->name().compare("fusion"_L1, Qt::CaseInsensitive) != 0)
+    const bool installed = dynamic_cast<KestaProxyStyle*>(application.style());
+    if (!installed && application.style()->name().compare("fusion"_L1, Qt::CaseInsensitive) != 0)
         return;
     const QByteArray scheme = qgetenv("KESTA_COLOR_SCHEME");
     const bool wished = scheme == "dark" || scheme == "light";
     const QPalette before = QApplication::palette();
     const bool own = wished || IsNobodysPalette(before, application.style()->standardPalette());
     const bool dark = wished ? scheme == "dark" : ColorsOf(before).dark;
-    QApplication::setStyle(new KestaProxyStyle(own));
+    if (!installed) {
+        QApplication::setStyle(new KestaProxyStyle(own));
+        application.installEventFilter(new PaletteFollower(application.style()));
+    }
     if (own)
         QApplication::setPalette(OwnPalette(dark));
-    application.installEventFilter(new PaletteFollower(application.style()));
 }
 
 KestaProxyStyle::KestaProxyStyle(bool ownPalette) : QProxyStyle(u"fusion"_s), ownPalette_(ownPalette) {}

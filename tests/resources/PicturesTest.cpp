@@ -74,7 +74,7 @@ double Luminance(QRgb color)
 
 double Contrast(QRgb a, QRgb b)
 {
-    const auto [darker, lighter] = std::minmax(Luminance(a), Luminance(b));
+    const auto [darker, lighter] = std::minmax({Luminance(a), Luminance(b)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 

@@ -2,6 +2,8 @@
 //     toolkit_gallery OUT_DIR
 // QT_SCALE_FACTOR=2 gives 2x.
 
+#include "platform/Notices.h"
+#include "toolkit/AlertWindow.h"
 #include "toolkit/Controls.h"
 #include "toolkit/GalleryWindow.h"
 #include "toolkit/KestaStyle.h"
@@ -64,7 +66,13 @@ bool SaveAll(const QDir& folder, const QString& scheme)
     kesta::FindControl(controls.get(), {kGallery, 25})->setFocus();
     const bool focusSaved = Save(*controls, file("controls-focus"));
     kesta::SetInvalid(kesta::FindControl(controls.get(), {kGallery, 24}), true);
-    return menuSaved && windowSaved && focusSaved && Save(*controls, file("controls-invalid"));
+    kesta::AlertWindow alert({.title = u"Secure Print needs a valid passcode"_s,
+                              .message = u"Enter the same passcode of 4 to 10 digits in both fields of the Secure "
+                                         "Print setup."_s,
+                              .buttons = {u"Yes"_s, u"No"_s}});
+    alert.show();
+    return menuSaved && windowSaved && focusSaved && Save(*controls, file("controls-invalid")) &&
+           Save(alert, file("alert"));
 }
 
 } // namespace
