@@ -17,12 +17,6 @@ using namespace Qt::StringLiterals;
 namespace kesta {
 namespace {
 
-void test::PressKey(QWidget& widget, int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {})
-{
-    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
-    QApplication::sendEvent(&widget, &press);
-}
-
 Menu PaperMenu()
 {
     return {.items = {{.title = u"Letter"_s, .value = 1},

@@ -20,12 +20,6 @@ using namespace Qt::StringLiterals;
 namespace kesta {
 namespace {
 
-void test::PressKey(QWidget& widget, int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {})
-{
-    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
-    QApplication::sendEvent(&widget, &press);
-}
-
 // Lets in what fits into four characters.
 class FourCharacters {
 public:
