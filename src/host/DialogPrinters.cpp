@@ -11,6 +11,11 @@
 using namespace Qt::StringLiterals;
 
 namespace kesta::host {
+namespace {
+
+constexpr char kMaker[] = "Kesta"; // whose printers the pane takes
+
+} // namespace
 
 void PrintDialog::startPrinters()
 {
@@ -87,7 +92,8 @@ void PrintDialog::openPane()
 {
     if (start_.plugIn.plugIn && facts_.problem.isEmpty())
         pane_.emplace(*start_.plugIn.plugIn, paneArea_->host(), session_);
-    if (pane_ && pane_->status() != noErr)
+    paneStatus_ = pane_ ? pane_->status() : noErr;
+    if (paneStatus_ != noErr)
         pane_.reset();
     if (pane_)
         paneArea_->showPane();
@@ -107,9 +113,11 @@ PaneMessage PrintDialog::whyNoPane() const
     if (!start_.plugIn.plugIn)
         return {PrintText(texts, "No Plug-in Title"), PrintText(texts, "No Plug-in Message").arg(start_.plugIn.error)};
     const QString name = PrinterTitle(printer_->queue, texts);
-    const QString message = facts_.problem.isEmpty()
-                                ? PrintText(texts, "Other Maker Message").arg(name)
-                                : PrintText(texts, "No Description Message").arg(name, facts_.problem);
+    const QString& maker = facts_.manufacturer;
+    const QString message =
+        !facts_.problem.isEmpty()            ? PrintText(texts, "No Description Message").arg(name, facts_.problem)
+        : maker == QLatin1StringView(kMaker) ? PrintText(texts, "Pane Failed Message").arg(name).arg(paneStatus_)
+                                             : PrintText(texts, "Other Maker Message").arg(name, maker);
     return {PrintText(texts, "Plain Options Title"), message};
 }
 

@@ -45,7 +45,9 @@ PPDFacts ReadPPDFacts(const QString& ppdPath, const Dictionary& chosen)
     const auto [ppd, problem] = OpenPPDFile(ppdPath);
     if (!ppd)
         return {.problem = problem};
-    PPDFacts facts{.name = Text(ppd->nickname ? ppd->nickname : ppd->modelname), .paper = PaperOf(*ppd, chosen)};
+    PPDFacts facts{.name = Text(ppd->nickname ? ppd->nickname : ppd->modelname),
+                   .manufacturer = Text(ppd->manufacturer),
+                   .paper = PaperOf(*ppd, chosen)};
     for (int i = 0; i < ppd->num_groups; ++i)
         AddChoices(ppd->groups[i], facts);
     if (const ppd_option_t* duplex = ppdFindOption(ppd.get(), "Duplex"))

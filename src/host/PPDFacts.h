@@ -10,6 +10,7 @@ namespace kesta::host {
 // What the dialog itself needs to know about a printer.
 struct PPDFacts {
     QString name = {};                                 // the model's, as the printer's maker writes it
+    QString manufacturer = {};                         // exactly as the PPD has it
     std::optional<PaperRect> paper = {};               // of the chosen page size
     QString duplexChoice = {};                         // the default choice of the option "Duplex"; empty without one
     std::map<QString, std::set<QString>> choices = {}; // option keyword to its choice keywords

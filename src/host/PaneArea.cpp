@@ -63,9 +63,14 @@ PaneArea::PaneArea(QWidget& window)
     : window_(&window), area_(Control(&window, kPaneArea)), host_(Control(&window, kPaneHost))
 {
     for (auto* scroll : window.findChildren<QScrollArea*>()) {
-        if (scroll->widget() == host_)
-            new WidthFollower(*scroll, *host_);
+        if (scroll->widget() != host_)
+            continue;
+        new WidthFollower(*scroll, *host_);
+        scroll->viewport()->setAutoFillBackground(false); // the area's own colour shows
+        host_->setAutoFillBackground(false);
     }
+    if (area_)
+        area_->setContentsMargins(0, 1, 0, 1); // room for the hairlines
     for (const PrintControl text : {kMessageTitle, kMessageText}) {
         if (auto* label = qobject_cast<QLabel*>(Control(&window, text))) {
             label->setTextFormat(Qt::PlainText); // servers and printers have their say here

@@ -90,6 +90,7 @@ private:
     std::optional<DialogPrinter> printer_;
     PPDFacts facts_; // of the printer
     std::optional<Pane> pane_;
+    OSStatus paneStatus_ = noErr; // of the last attempt to open one
     std::optional<BackgroundTask> sending_;
     bool summaryIsDue_ = false;
     int status_ = 0;

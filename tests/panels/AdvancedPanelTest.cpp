@@ -38,10 +38,7 @@ protected:
         slots = holder->table;
         slots->Prologue(&prologue);
     }
-    ~AdvancedPanelTest() override
-    {
-        slots->Terminate(prologue.context, noErr);
-    }
+    ~AdvancedPanelTest() override { slots->Terminate(prologue.context, noErr); }
     void open()
     {
         ASSERT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session), noErr);

@@ -1,3 +1,4 @@
+#include "pde/CentredLayout.h"
 #include "pde/ShellFixture.h"
 #include "pde/TicketUtilities.h"
 #include "printer/InstallableOptions.h"
@@ -153,6 +154,21 @@ TEST_F(PDEShellTest, TheLastShownPanelOutlivesAPaneButThePaneBeginsWithTheFirst)
     EXPECT_EQ(GetShownPanel()._lastTabIndex, 1);
 }
 
+TEST_F(PDEShellTest, ATerminatedPaneLeavesItsPlaceToTheNext)
+{
+    open();
+    terminate();
+    EXPECT_TRUE(pane.findChildren<QWidget*>().isEmpty());
+    open();
+    test::Pick(choice(), 2);
+    EXPECT_FALSE(userPane(2)->isHidden());
+    EXPECT_EQ(pane.findChildren<PopupButton*>().size(), 1);
+    terminate();
+    initialize();
+    terminate();
+    EXPECT_TRUE(pane.findChildren<QWidget*>().isEmpty()) << "never opened";
+}
+
 TEST_F(PDEShellTest, TheSummaryIsWhatTheLastPanelLeaves)
 {
     initialize();
@@ -186,6 +202,29 @@ TEST_F(PDEShellTest, TheButtonsSayWhereTheyLead)
     open();
     EXPECT_EQ(control(kPreviousButton)->accessibleName(), u"Previous");
     EXPECT_EQ(control(kNextButton)->toolTip(), u"Next");
+}
+
+TEST(CentredPosition, IsNeverLeftOfTheParentButMayBeAboveIt)
+{
+    EXPECT_EQ(CentredPosition({640, 500}, {540, 491}), QPoint(50, 5));
+    EXPECT_EQ(CentredPosition({500, 400}, {540, 491}), QPoint(0, -45));
+}
+
+TEST(CentredLayout, FillsTheParentAndKeepsRoomForWhatIsHidden)
+{
+    QWidget parent;
+    auto* layout = new CentredLayout(parent);
+    QWidget small, large;
+    small.setMinimumSize(50, 20);
+    large.setMinimumSize(200, 100);
+    layout->addWidget(&small);
+    layout->addWidget(&large);
+    large.hide();
+    EXPECT_EQ(layout->minimumSize(), QSize(200, 100));
+    layout->setGeometry({0, 0, 300, 150});
+    EXPECT_EQ(small.geometry(), QRect(0, 0, 300, 150));
+    layout->setGeometry({0, 0, 100, 60});
+    EXPECT_EQ(large.geometry(), QRect(0, -20, 200, 100));
 }
 
 TEST(SelectItemOfTabControl, ShowsOnePaneOfTheList)

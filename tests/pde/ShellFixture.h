@@ -14,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QPushButton>
 
 namespace kesta::test {
@@ -41,7 +42,7 @@ protected:
     ~ShellTest() override
     {
         if (prologue.context)
-            slots.Terminate(prologue.context, noErr);
+            terminate();
         KestaPDEUsePanels(nullptr);
         ForgetSystemVersion();
     }
@@ -62,7 +63,12 @@ protected:
             initialize();
         ASSERT_EQ(slots.Open(prologue.context), noErr);
     }
-    OSStatus terminate() { return slots.Terminate(std::exchange(prologue.context, nullptr), noErr); }
+    OSStatus terminate()
+    {
+        const OSStatus status = slots.Terminate(std::exchange(prologue.context, nullptr), noErr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return status;
+    }
 
     PrintSession& session() { return printer.session; }
     shell::PDEShellContext& context() { return *static_cast<shell::PDEShellContext*>(prologue.context); }

@@ -4,6 +4,7 @@
 #include "platform/PlugIn.h"
 #include "toolkit/InterfaceFile.h"
 
+#include <QCoreApplication>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -24,7 +25,7 @@ KestaPlugInFactory FindBuiltFactory()
         if (const std::optional<QString> problem = RegisterFactories(*bundle))
             std::fprintf(stderr, "%s\n", qUtf8Printable(*problem));
     }
-    return reinterpret_cast<KestaPlugInFactory>(FindFactory(type));
+    return reinterpret_cast<KestaPlugInFactory>(reinterpret_cast<BundleFunction>(FindFactory(type)));
 }
 
 FakeDialog::FakeDialog()
@@ -63,6 +64,7 @@ OSStatus RunPane(KestaPlugInFactory factory, FakeDialog& dialog, const PaneSteps
 
     slots.Release(&extension);
     plugIn->table->Release(plugIn);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return status == noErr ? end : status;
 }
 

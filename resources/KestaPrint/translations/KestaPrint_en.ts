@@ -137,7 +137,11 @@
     </message>
     <message>
         <source>Other Maker Message</source>
-        <translation>%1 is not a Kesta printer, so its pane can't be shown. You can still print with copies, pages and orientation as set above.</translation>
+        <translation>%1 has "%2" as its maker, and the pane is for printers whose maker is "Kesta". You can still print with copies, pages and orientation as set above.</translation>
+    </message>
+    <message>
+        <source>Pane Failed Message</source>
+        <translation>The pane for %1 could not be started (%2). You can still print with copies, pages and orientation as set above.</translation>
     </message>
     <message>
         <source>No Description Message</source>
