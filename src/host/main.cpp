@@ -44,10 +44,12 @@ bool ChooseScreen(const CommandLine& commandLine)
     return !commandLine.scriptPath.isEmpty() && qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-// Drops what Qt's offscreen platform says it can't do; nobody looks at its windows.
+// Drops what says nothing to the user: what Qt's offscreen platform can't do, and where sockets would go.
 void WriteMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    if (!message.startsWith(u"This plugin does not support "_s))
+    const bool isNoise = message.startsWith(u"This plugin does not support "_s) ||
+                         message.startsWith(u"QStandardPaths: XDG_RUNTIME_DIR not set"_s);
+    if (!isNoise)
         std::fprintf(stderr, "%s\n", qUtf8Printable(qFormatLogMessage(type, context, message)));
 }
 
@@ -128,8 +130,7 @@ int Run(int argc, char** argv)
     }
     if (!ChooseScreen(commandLine))
         return Fail(u"there is no display to show the dialog on: use --no-dialog or --script FILE"_s);
-    if (qEnvironmentVariable("QT_QPA_PLATFORM") == u"offscreen")
-        qInstallMessageHandler(WriteMessage);
+    qInstallMessageHandler(WriteMessage);
     QApplication application(programOnly, argv);
     InstallKestaStyle(application);
     InstallToolkitServices();

@@ -40,6 +40,8 @@ PanelInterface paneTable{
     .Sync =
         [](KestaContextRef, PrintSession*, bool toControls) {
             fake->calls << (toControls ? u"Sync in"_s : u"Sync out"_s);
+            if (!toControls && fake->atSyncOut)
+                fake->atSyncOut();
             return KestaStatus{0};
         },
     .GetSummaryText =

@@ -5,6 +5,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -30,6 +31,7 @@ struct FakePlugIn {
     KestaStatus missing = 0;
     bool swallowsOK = false; // as a pane with a job that is not ready
     EventHandler handler = {};
+    std::function<void()> atSyncOut = {};
 };
 
 } // namespace kesta::host::test
