@@ -145,7 +145,9 @@
     </message>
     <message>
         <source>No Description Message</source>
-        <translation>%1 has no printer description (PPD) that can be used: %2 You can still print with copies, pages and orientation as set above.</translation>
+        <translation>%2
+
+You can still print to %1 with copies, pages and orientation as set above.</translation>
     </message>
     <message>
         <source>No Plug-in Title</source>
