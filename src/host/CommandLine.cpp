@@ -48,6 +48,10 @@ Fault SetPages(CommandLine& line, const QByteArray& value)
 
 Fault AddOptions(CommandLine& line, const QByteArray& value)
 {
+    // The library takes a carriage return for a blank and would cut the value in silence.
+    if (std::ranges::any_of(value, [](char c) { return c == 0x7f || (c >= 0 && c < ' ' && c != '\t' && c != '\n'); }))
+        return u"\"-o %1\" has a control character, which would get lost on the way: leave it out."_s.arg(
+            QString::fromUtf8(value).simplified());
     JobOptions given;
     ParseJobOptions(value, given);
     if (given.empty())

@@ -117,6 +117,20 @@ NamedQueue ReadDestination(const cups_dest_t& destination)
     return named;
 }
 
+enum class ServerAnswer { None, No, Yes };
+
+// Whether the server knows the queue, or has a default one. Asked first, because the library's own search goes on with
+// connections of its own, which wait for minutes, when the server does not answer it.
+ServerAnswer AskForQueue(ServerConnection& connection, const QString& queue)
+{
+    IppMessage request = NewRequest(queue.isEmpty() ? IPP_OP_CUPS_GET_DEFAULT : IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "printer-name");
+    const IppMessage answer = DoRequest(connection, std::move(request), queue);
+    if (answer && cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND)
+        return ServerAnswer::No;
+    return answer && cupsLastError() < IPP_STATUS_ERROR_BAD_REQUEST ? ServerAnswer::Yes : ServerAnswer::None;
+}
+
 QString NoSuchQueueMessage(const QString& name)
 {
     if (!name.isEmpty())
@@ -224,14 +238,22 @@ NamedQueue FindQueue(const PrintServer& server, const QString& name, Cancellatio
         none.problem = connection.problem();
         return none;
     }
-    const QByteArray queue = name.section(u'/', 0, 0).toUtf8();
-    const QByteArray instance = name.section(u'/', 1).toUtf8();
-    const Destination found(cupsGetNamedDest(connection.http(), queue.isEmpty() ? nullptr : queue.constData(),
-                                             instance.isEmpty() ? nullptr : instance.constData()));
-    if (found)
-        return ReadDestination(*found);
-    const bool noSuch = cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND || cupsLastError() < IPP_STATUS_ERROR_BAD_REQUEST;
-    none.problem = noSuch && !connection.gaveUp() ? NoSuchQueueMessage(name) : connection.problem();
+    const QString queue = name.section(u'/', 0, 0);
+    const QString instance = name.section(u'/', 1);
+    const ServerAnswer answer = AskForQueue(connection, queue);
+    if (answer == ServerAnswer::None) {
+        none.problem = connection.problem();
+        return none;
+    }
+    connection.expectAnswer();
+    if (queue.isEmpty() || answer == ServerAnswer::Yes) {
+        const Destination found(cupsGetNamedDest(connection.http(),
+                                                 queue.isEmpty() ? nullptr : queue.toUtf8().constData(),
+                                                 instance.isEmpty() ? nullptr : instance.toUtf8().constData()));
+        if (found)
+            return ReadDestination(*found);
+    }
+    none.problem = connection.gaveUp() ? connection.problem() : NoSuchQueueMessage(name);
     return none;
 }
 

@@ -33,6 +33,13 @@ private:
     cups_option_t* list_ = nullptr;
 };
 
+// What the server said, to go on behind it with a full stop.
+QString LastReason()
+{
+    const QString reason = QString::fromUtf8(cupsLastErrorString()).trimmed();
+    return reason.endsWith(u'.') ? reason.chopped(1) : reason;
+}
+
 // One job on its way.
 class Sending {
 public:
@@ -142,8 +149,11 @@ SubmissionResult Sending::refused() const
     if (cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND)
         return {.message = u"The printer or class does not exist: \"%1\". Name one that lpstat -e lists with -d."_s.arg(
                     job_.queue)};
-    return {.message = u"%1 refused the job for queue \"%2\": %3 Print again when it accepts jobs, or to another queue "
-                       "with -d."_s.arg(ServerName(server_), job_.queue, QString::fromUtf8(cupsLastErrorString()))};
+    const QString wayOut = cupsLastError() == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS
+                               ? u"Print again when the queue accepts jobs, or to another one with -d."_s
+                               : u"Nothing was printed."_s;
+    return {.message = u"%1 refused the job for queue \"%2\": %3. %4"_s.arg(ServerName(server_), job_.queue,
+                                                                            LastReason(), wayOut)};
 }
 
 bool Sending::cancelAtServer()
@@ -161,7 +171,7 @@ SubmissionResult Sending::interrupted()
     const QString reason = !readProblem_.isEmpty() ? readProblem_
                            : connection_.gaveUp() || httpError(connection_.http()) != 0
                                ? u"%1 went away"_s.arg(ServerName(server_))
-                               : u"%1 says: %2"_s.arg(ServerName(server_), QString::fromUtf8(cupsLastErrorString()));
+                               : u"%1 says: %2"_s.arg(ServerName(server_), LastReason());
     const bool cancelled = cancelAtServer();
     const QString fate =
         cancelled ? u"The job %1 was cancelled"_s.arg(jobName())

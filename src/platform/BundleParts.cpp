@@ -8,7 +8,9 @@
 #include <QLocale>
 #include <QStringList>
 
+#include <algorithm>
 #include <dlfcn.h>
+#include <iterator>
 
 namespace kesta {
 namespace {
@@ -38,21 +40,41 @@ bool IsPlainName(const QString& name)
     return !name.isEmpty() && !name.startsWith(u'.') && !name.contains(u'/') && !name.contains(QChar());
 }
 
+QStringList VariantsOf(const QString& language, const QStringList& names)
+{
+    QStringList variants;
+    std::ranges::copy_if(names, std::back_inserter(variants),
+                         [&language](const QString& name) { return name.section(u'_', 0, 0) == language; });
+    return variants;
+}
+
+// Of "zh_Hant_TW": "zh_Hant", "zh".
+QStringList WiderThan(QString name)
+{
+    QStringList wider;
+    for (qsizetype end = 0; (end = name.lastIndexOf(u'_')) > 0;) {
+        name.truncate(end);
+        wider.append(name);
+    }
+    return wider;
+}
+
 } // namespace
 
 QStringList PreferredLanguages()
 {
-    QStringList languages;
     QStringList wanted = QLocale().uiLanguages();
     wanted.append(QStringLiteral("en"));
-    for (QString language : wanted) {
-        language.replace(u'-', u'_');
-        for (qsizetype end = language.size(); end > 0; end = language.lastIndexOf(u'_', end - 1)) {
-            language.truncate(end);
-            if (!languages.contains(language))
-                languages.append(language);
-        }
+    wanted.replaceInStrings(QStringLiteral("-"), QStringLiteral("_"));
+    QStringList languages;
+    for (const QString& first : wanted) {
+        const QString language = first.section(u'_', 0, 0);
+        const QStringList variants = VariantsOf(language, wanted);
+        languages.append(variants);
+        for (const QString& variant : variants)
+            languages.append(WiderThan(variant));
     }
+    languages.removeDuplicates();
     return languages;
 }
 

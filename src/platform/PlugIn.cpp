@@ -46,7 +46,7 @@ std::optional<QString> RegisterDeclared(const Bundle& bundle, const UUID& type, 
     const BundleFunction function = FunctionNamed(bundle, *name);
     if (!function)
         return ProblemOf(bundle, QStringLiteral("no function %1").arg(*name));
-    RegisterFactory(*factory, type, reinterpret_cast<PlugInFactory>(function));
+    RegisterFactory(*factory, type, function);
     return std::nullopt;
 }
 

@@ -23,8 +23,8 @@ struct UUID {
 std::optional<UUID> UUIDFromString(QAnyStringView text);
 QString StringFromUUID(const UUID& id); // upper case
 
-// Makes an instance of the type; null when it makes none of that type. The allocator is null.
-using PlugInFactory = void* (*)(const void* allocator, UUID type);
+// Makes an instance of a type. Its arguments and result are those of the plug-in's own C header, so the host casts it.
+using PlugInFactory = void (*)();
 
 // A factory and the type that it makes; a second registration of the factory adds the type to it.
 void RegisterFactory(const UUID& factory, const UUID& type, PlugInFactory function);

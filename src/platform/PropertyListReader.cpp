@@ -1,13 +1,11 @@
 #include "platform/PropertyList.h"
 
 #include "platform/DateText.h"
+#include "platform/NumberText.h"
 
 #include <QRegularExpression>
 #include <QStringDecoder>
 #include <QXmlStreamReader>
-
-#include <charconv>
-#include <limits>
 
 namespace kesta {
 namespace {
@@ -46,45 +44,6 @@ std::optional<QString> ForeignDoctype(const QString& text)
 std::optional<QString> TextItself(QStringView text)
 {
     return text.toString();
-}
-
-std::optional<Number> IntegerFromText(QStringView text)
-{
-    text = text.trimmed();
-    const bool hasPlus = text.startsWith(u'+') && !text.startsWith(u"+-");
-    const QByteArray digits = (hasPlus ? text.mid(1) : text).toLatin1();
-    const char* const end = digits.constData() + digits.size();
-    SInt64 value = 0;
-    const auto [rest, error] = std::from_chars(digits.constData(), end, value);
-    if (error != std::errc() || rest != end)
-        return std::nullopt;
-    return Number::Index(value);
-}
-
-std::optional<Float64> MagnitudeFromText(QStringView text)
-{
-    if (text.compare(u"inf", Qt::CaseInsensitive) == 0 || text.compare(u"infinity", Qt::CaseInsensitive) == 0)
-        return std::numeric_limits<Float64>::infinity();
-    if (text.isEmpty() || !QStringView(u".0123456789").contains(text.front()))
-        return std::nullopt;
-    const QByteArray digits = text.toLatin1();
-    const char* const end = digits.constData() + digits.size();
-    Float64 value = 0;
-    const auto [rest, error] = std::from_chars(digits.constData(), end, value);
-    return error == std::errc() && rest == end ? std::optional(value) : std::nullopt;
-}
-
-std::optional<Number> RealFromText(QStringView text)
-{
-    text = text.trimmed();
-    if (text.compare(u"nan", Qt::CaseInsensitive) == 0)
-        return Number::Float64(std::numeric_limits<Float64>::quiet_NaN());
-    const bool isNegative = text.startsWith(u'-');
-    const std::optional<Float64> magnitude =
-        MagnitudeFromText(isNegative || text.startsWith(u'+') ? text.mid(1) : text);
-    if (!magnitude)
-        return std::nullopt;
-    return Number::Float64(isNegative ? -*magnitude : *magnitude);
 }
 
 // Reads one list; the first error stops it for good.

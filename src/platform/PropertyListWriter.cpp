@@ -1,12 +1,10 @@
 #include "platform/PropertyList.h"
 
 #include "platform/DateText.h"
+#include "platform/NumberText.h"
 
 #include <QXmlStreamWriter>
 
-#include <array>
-#include <charconv>
-#include <cmath>
 #include <map>
 
 namespace kesta {
@@ -29,17 +27,6 @@ QString LegalText(QString text)
             text[i] = QChar::ReplacementCharacter;
     }
     return text;
-}
-
-template <class Real> QString TextFromReal(Real value)
-{
-    if (std::isnan(value))
-        return QStringLiteral("nan");
-    if (std::isinf(value))
-        return value < 0 ? QStringLiteral("-infinity") : QStringLiteral("+infinity");
-    std::array<char, 32> digits{};
-    const auto [end, error] = std::to_chars(digits.begin(), digits.end(), value);
-    return QString::fromLatin1(digits.data(), end - digits.data());
 }
 
 void WriteText(QXmlStreamWriter& xml, const QString& text)
@@ -79,14 +66,8 @@ struct ValueWriter {
 
 void ValueWriter::operator()(const Number& number) const
 {
-    switch (number.type()) {
-    case Number::Type::kFloat32:
-        return WriteElement(xml, "real", TextFromReal(number.as<Float32>().value_or(0)));
-    case Number::Type::kFloat64:
-        return WriteElement(xml, "real", TextFromReal(number.as<Float64>().value_or(0)));
-    default:
-        return WriteElement(xml, "integer", QString::number(number.as<SInt64>().value_or(0)));
-    }
+    const bool isReal = number.type() == Number::Type::kFloat32 || number.type() == Number::Type::kFloat64;
+    WriteElement(xml, isReal ? "real" : "integer", TextFromNumber(number));
 }
 
 void ValueWriter::operator()(const Array& array) const

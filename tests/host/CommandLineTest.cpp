@@ -85,7 +85,7 @@ TEST(CommandLineTest, RefusesWhatMeansNothing)
         {{"-P", ""}, "-P ", "1-4,7,16-"},
         {{"-P", "1,"}, "-P 1,", "1-4,7,16-"},
         {{"-o", " "}, "-o", "NAME=VALUE"},
-        {{"-o", "a=b\rc"}, "\"a\"", "leave it out"},
+        {{"-o", "a=b\rc"}, "-o a=b c", "leave it out"},
         {{"-sx"}, "\"x\"", "--help"},
         {{"--nodialog"}, "\"--nodialog\"", "--help"},
         {{"--no-dialog=yes"}, "\"--no-dialog\"", ""},

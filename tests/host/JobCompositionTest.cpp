@@ -73,7 +73,9 @@ TEST(JobCompositionTest, OptionsStringsAreReadAsAFilterGetsThem)
                               {u"Name"_s, u"a b\"c\\d"_s},
                               {u"Path"_s, u"x y"_s},
                               {u"list"_s, u"1,2"_s}};
-    EXPECT_EQ(options, expected);
+    EXPECT_EQ(options.size(), expected.size());
+    for (const JobOption& option : expected)
+        EXPECT_EQ(FindJobOption(options, option.name), option.value) << option.name.toStdString();
 }
 
 } // namespace

@@ -34,8 +34,8 @@ public:
     bool hasJob(int number) const; // arrived so far
     // As the server has it now: 3 pending, 7 cancelled, 9 completed, and so on; 0 when it does not know the job.
     int jobState(int number) const;
-    // Runs an administrator's program with "-h ADDRESS" before its arguments; its standard output.
-    QByteArray run(const QString& program, const QStringList& arguments) const;
+    // Runs an administrator's program with "-h ADDRESS" before its arguments; throws when it fails.
+    void administer(const QString& program, const QStringList& arguments) const;
 
 private:
     QString folder() const { return directory_.path() + QStringLiteral("/cups"); }

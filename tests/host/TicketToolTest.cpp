@@ -30,25 +30,25 @@ QByteArray Options()
     return text;
 }
 
-Outcome Run(const QByteArrayList& arguments, const QByteArray& input = {})
+Outcome RunTool(const QByteArrayList& arguments, const QByteArray& input = {})
 {
     return RunTicketTool(arguments, [input] { return input; });
 }
 
 TEST(TicketToolTest, ShowsAndGets)
 {
-    EXPECT_EQ(Run({"show", Options()}).output, Settings());
-    EXPECT_EQ(Run({"show"}, Options()).output, Settings());
-    EXPECT_EQ(Run({"show", "-"}, Options()).output, Settings());
-    EXPECT_EQ(Run({"get", "com.kesta.print.JobType/JobType"}, Options()).output, "6\n");
-    EXPECT_EQ(Run({"get", "com.kesta.print.JobType/Name", Options()}).output, "Grüße <&>\n");
-    EXPECT_EQ(Run({"get", "com.kesta.print.Covers/0/StartPage"}, Options()).output, "3\n");
-    EXPECT_EQ(Run({"get", "with/slash"}, Options()).output, "true\n");
-    EXPECT_EQ(Run({"get", "Density"}, Options()).output, "0.25\n");
-    EXPECT_EQ(Run({"get", "Picture"}, Options()).output, "AQID\n");
-    EXPECT_EQ(Run({"get", "com.kesta.print.Covers/0"}, Options()).output,
+    EXPECT_EQ(RunTool({"show", Options()}).output, Settings());
+    EXPECT_EQ(RunTool({"show"}, Options()).output, Settings());
+    EXPECT_EQ(RunTool({"show", "-"}, Options()).output, Settings());
+    EXPECT_EQ(RunTool({"get", "com.kesta.print.JobType/JobType"}, Options()).output, "6\n");
+    EXPECT_EQ(RunTool({"get", "com.kesta.print.JobType/Name", Options()}).output, "Grüße <&>\n");
+    EXPECT_EQ(RunTool({"get", "com.kesta.print.Covers/0/StartPage"}, Options()).output, "3\n");
+    EXPECT_EQ(RunTool({"get", "with/slash"}, Options()).output, "true\n");
+    EXPECT_EQ(RunTool({"get", "Density"}, Options()).output, "0.25\n");
+    EXPECT_EQ(RunTool({"get", "Picture"}, Options()).output, "AQID\n");
+    EXPECT_EQ(RunTool({"get", "com.kesta.print.Covers/0"}, Options()).output,
               WritePropertyList(Dictionary{{"StartPage", Number::Index(3)}}));
-    EXPECT_TRUE(Run({"--help"}).output.startsWith("Usage: kesta-ticket"));
+    EXPECT_TRUE(RunTool({"--help"}).output.startsWith("Usage: kesta-ticket"));
 }
 
 TEST(TicketToolTest, SaysWhatIsWrong)
@@ -71,7 +71,7 @@ TEST(TicketToolTest, SaysWhatIsWrong)
         {{"get", QByteArray(100'000, '/')}, Options(), "have no"},
     };
     for (const Row& row : rows) {
-        const Outcome outcome = Run(row.arguments, row.input);
+        const Outcome outcome = RunTool(row.arguments, row.input);
         EXPECT_EQ(outcome.status, 1) << row.said;
         EXPECT_TRUE(outcome.output.isEmpty()) << row.said;
         EXPECT_TRUE(outcome.error.contains(QLatin1StringView(row.said))) << outcome.error.toStdString();

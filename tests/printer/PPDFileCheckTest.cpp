@@ -93,7 +93,7 @@ TEST(PPDFileCheck, ManyOfEverythingThatPassesOpensInTime)
     timer.start();
     const test::CurrentPrinter printer(ppd);
     EXPECT_NE(PPDGetCurrent(), nullptr);
-    EXPECT_LT(timer.elapsed(), 5000); // 0.1 s on an idle machine; a sanitizer's realloc takes most of it
+    EXPECT_LT(timer.elapsed(), 20000); // 0.2 s on an idle machine; a sanitizer makes it seconds, no limits minutes
 }
 
 TEST(PPDFileCheck, AHostilePPDIsNoCurrentPPD)

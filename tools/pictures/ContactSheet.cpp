@@ -1,6 +1,5 @@
 #include "ContactSheet.h"
 
-#include "GifFile.h"
 #include "Output.h"
 
 #include <QPainter>
@@ -52,7 +51,7 @@ QImage InColor(QImage image, QRgb ink)
 QImage Shown(const Picture& picture, double scale, QRgb ink, bool asRaster)
 {
     if (asRaster && picture.file.ends_with(".gif"))
-        return QImage::fromData(GifData(Render(picture.drawing, 1)));
+        return QImage::fromData(RasterData(picture));
     const bool isIcon = picture.drawing.width() == 16;
     const QImage image = Render(picture.drawing, asRaster ? 1 : scale);
     return isIcon ? InColor(image, ink) : image;

@@ -104,6 +104,7 @@ private:
 struct Picture {
     std::string file;
     Drawing drawing;
+    bool isOverlay = false; // drawn over another picture
 };
 using Pictures = std::vector<Picture>;
 

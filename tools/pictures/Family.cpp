@@ -6,6 +6,15 @@ Pictures AllPictures()
 {
     Pictures pictures;
     AddButtonIcons(pictures);
+    AddJobTypes(pictures);
+    AddSides(pictures);
+    AddFinishing(pictures);
+    AddPapers(pictures);
+    AddPaperOverlays(pictures);
+    AddPaperSetups(pictures);
+    AddSpecialPages(pictures);
+    AddImageOptions(pictures);
+    AddBooklets(pictures);
     AddDevices(pictures);
     return pictures;
 }

@@ -156,10 +156,11 @@ bool PutImage(GifFileType* gif, const QImage& image, const std::vector<QRgb>& co
 
 } // namespace
 
-QByteArray GifData(const QImage& premultiplied)
+QByteArray GifData(const QImage& premultiplied, Border border)
 {
     QImage image = WithoutHalfTones(premultiplied);
-    SettleBorder(image);
+    if (border == Border::settled)
+        SettleBorder(image);
     QByteArray data;
     int error = 0;
     GifFileType* gif = EGifOpen(&data, Append, &error);

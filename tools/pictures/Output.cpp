@@ -3,9 +3,9 @@
 #include "GifFile.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QFileInfo>
 #include <QPainter>
-#include <QSaveFile>
 #include <QSvgRenderer>
 #include <QtEndian>
 
@@ -16,8 +16,8 @@ namespace {
 
 std::optional<QString> WriteFile(const QString& name, const QByteArray& content)
 {
-    QSaveFile file(name);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+    QFile file(name);
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush())
         return {};
     return u"%1: %2"_s.arg(name, file.errorString());
 }
@@ -57,16 +57,6 @@ QByteArray IcnsData(const Drawing& drawing)
     return data + entries;
 }
 
-QByteArray RasterData(const Picture& picture)
-{
-    const QByteArrayView name = picture.file;
-    if (name.endsWith(".gif"))
-        return GifData(Render(picture.drawing, 1));
-    if (name.endsWith(".icns"))
-        return IcnsData(picture.drawing);
-    return PngData(Render(picture.drawing, 1));
-}
-
 } // namespace
 
 QImage Render(const Drawing& drawing, double scale)
@@ -79,6 +69,16 @@ QImage Render(const Drawing& drawing, double scale)
     painter.setRenderHint(QPainter::Antialiasing);
     renderer.render(&painter);
     return image;
+}
+
+QByteArray RasterData(const Picture& picture)
+{
+    const QByteArrayView name = picture.file;
+    if (name.endsWith(".gif"))
+        return GifData(Render(picture.drawing, 1), picture.isOverlay ? Border::kept : Border::settled);
+    if (name.endsWith(".icns"))
+        return IcnsData(picture.drawing);
+    return PngData(Render(picture.drawing, 1));
 }
 
 std::optional<QString> WritePicture(const Picture& picture, const QString& folder)

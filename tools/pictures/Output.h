@@ -10,7 +10,10 @@ namespace kesta::pictures {
 // The drawing at the given number of pixels a unit, on a transparent ground.
 QImage Render(const Drawing& drawing, double scale);
 
-// Writes NAME.svg into the folder and, made from it, the file itself: a GIF, PNG or ICNS as its name says.
+// The content of the picture's file, a GIF, PNG or ICNS as its name says. Empty when it can't be encoded.
+QByteArray RasterData(const Picture& picture);
+
+// Writes NAME.svg into the folder and, made from it, the file itself.
 // Nothing on success, otherwise what went wrong.
 std::optional<QString> WritePicture(const Picture& picture, const QString& folder);
 

@@ -129,6 +129,26 @@ void DrawCover(Drawing& drawing, const Box& box, const Paper& paper, Corner corn
     DrawLine(drawing, {box.x + 4, box.y + 13, std::round(box.width * 0.35), kLineHeight}, paper.line(), corner);
 }
 
+Path DiagonalBand(const Box& box, double from, double to)
+{
+    const auto lowerEnd = [&box](double at) {
+        const double down = std::min(at, box.height);
+        return Point{box.x + at - down, box.y + down};
+    };
+    const auto upperEnd = [&box](double at) {
+        const double across = std::min(at, box.width);
+        return Point{box.x + across, box.y + at - across};
+    };
+    Path band;
+    band.moveTo(lowerEnd(from)).lineTo(upperEnd(from));
+    if (from < box.width && box.width < to)
+        band.lineTo({box.right(), box.y});
+    band.lineTo(upperEnd(to)).lineTo(lowerEnd(to));
+    if (from < box.height && box.height < to)
+        band.lineTo({box.x, box.bottom()});
+    return band.close();
+}
+
 void DrawDashes(Drawing& drawing, Point from, Point to, Color color, double thickness, double dash, double gap)
 {
     const bool upright = from.x == to.x;

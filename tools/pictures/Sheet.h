@@ -53,6 +53,10 @@ void DrawTurnedSheet(Drawing& drawing, const Box& box, const Paper& paper, doubl
 // A cover: a sheet with a title block.
 void DrawCover(Drawing& drawing, const Box& box, const Paper& paper, Corner corner = Corner::square);
 
+// The part of the box between two lines that rise to the right; from and to are where they meet the box's left edge or
+// its continuation, from the top.
+Path DiagonalBand(const Box& box, double from, double to);
+
 // Dashes along a horizontal or vertical line, as small rectangles of the given thickness.
 void DrawDashes(Drawing& drawing, Point from, Point to, Color color, double thickness, double dash, double gap);
 
@@ -80,5 +84,8 @@ void DrawPanel(Drawing& drawing, const Panel& panel, const Paper& paper, Side si
 void DrawPanelPrint(Drawing& drawing, const Panel& panel, const Paper& paper, Side side, const PanelPrint& print = {});
 // The fold at the panel's right edge.
 void DrawFold(Drawing& drawing, const Panel& panel);
+
+// Precut tabs: a sheet with its own tab above those of the sheets behind.
+void DrawPreCutTab(Drawing& drawing, const Paper& paper);
 
 } // namespace kesta::pictures

@@ -25,10 +25,11 @@ struct Paper {
     std::string_view name;
     Color fill;
     Color edge;
+    Color print = edge; // what lines and headings tend to; on dark papers the edge would not be seen
 
     Color back() const { return Mix(fill, edge, 0.18); }
-    Color line() const { return Mix(fill, edge, 0.48); }
-    Color heading() const { return Mix(fill, edge, 0.85); }
+    Color line() const { return Mix(fill, print, 0.48); }
+    Color heading() const { return Mix(fill, print, 0.85); }
 };
 
 inline constexpr auto kPapers = std::to_array<Paper>({
@@ -39,11 +40,11 @@ inline constexpr auto kPapers = std::to_array<Paper>({
     {"Pink", 0xF8B8CC, 0xC9466F},
     {"Clear", 0xEAF4FA, 0x317CAA},
     {"Buff", 0xE9CFA0, 0x956F2B},
-    {"Goldenrod", 0xF0B53A, 0x92702A},
-    {"Red", 0xE8675F, 0xC94B44},
+    {"Goldenrod", 0xF0B53A, 0x92702A, 0x6B5010},
+    {"Red", 0xE8675F, 0xC94B44, 0x6E1A15},
     {"Ivory", 0xFBF2D3, 0x897428},
-    {"Gray", 0xBCC3CC, 0x687789},
-    {"Orange", 0xF7964A, 0xA96531},
+    {"Gray", 0xBCC3CC, 0x687789, 0x46525F},
+    {"Orange", 0xF7964A, 0xA96531, 0x7A3F12},
 });
 static_assert(kPapers.size() == 12);
 

@@ -8,8 +8,8 @@
 #include "Output.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDir>
-#include <QGuiApplication>
 
 #include <cstdio>
 
@@ -46,7 +46,7 @@ int WriteAll(const QString& folder)
     return 0;
 }
 
-int Run(const QGuiApplication& application)
+int Run(const QCoreApplication& application)
 {
     QCommandLineParser options;
     options.addOption({u"sheet"_s, u"Write one picture of all."_s, u"file"_s});
@@ -68,8 +68,6 @@ int Run(const QGuiApplication& application)
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("XDG_RUNTIME_DIR", "."); // not used; without one Qt says so
-    const QGuiApplication application(argc, argv);
+    const QCoreApplication application(argc, argv);
     return kesta::pictures::Run(application);
 }
