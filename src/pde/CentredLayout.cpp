@@ -63,7 +63,8 @@ void CentredLayout::setGeometry(const QRect& room)
     QLayout::setGeometry(room);
     for (const auto& item : items_) {
         const QSize size = room.size().expandedTo(item->minimumSize());
-        item->setGeometry(QRect(room.topLeft() + CentredPosition(room.size(), size), size));
+        if (QWidget* widget = item->widget()) // an item would not go above its parent
+            widget->setGeometry(QRect(room.topLeft() + CentredPosition(room.size(), size), size));
     }
 }
 

@@ -14,10 +14,10 @@ inline constexpr SInt32 kJobTypeSecurePrint = 6;
 // What the shell has to know before it lets OK through, answered by the panel in which the user chooses the job type.
 // All functions must be set; they are called on the dialog's thread while the registration lives.
 struct JobTypeCheck {
-    std::function<SInt32()> jobType;
-    std::function<bool()> hasPasscode;              // asked for secure jobs
-    std::function<bool()> hasFaxRecipients;         // asked for faxes
-    std::function<void(const Bundle&)> runFaxSetup; // lets the user name recipients, modally
+    std::function<SInt32()> jobType = {};
+    std::function<bool()> hasPasscode = {};              // asked for secure jobs
+    std::function<bool()> hasFaxRecipients = {};         // asked for faxes
+    std::function<void(const Bundle&)> runFaxSetup = {}; // lets the user name recipients, modally
 };
 
 // Holds the check of the panel that registered last; destroying it takes the check away, unless another panel has

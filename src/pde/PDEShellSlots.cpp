@@ -27,6 +27,16 @@ PDEShellContext*& CurrentShell()
     return shell;
 }
 
+// The print dialog may put another pane in the place. Later, since it may be an event of the pane's that ends it.
+void Discard(QWidget* control)
+{
+    if (!control)
+        return;
+    control->hide();
+    control->setParent(nullptr);
+    control->deleteLater();
+}
+
 PDEShellContext& ShellOf(KestaContextRef context)
 {
     return *static_cast<PDEShellContext*>(context);
@@ -137,6 +147,9 @@ OSStatus Terminate(KestaContextRef context, OSStatus status)
         const std::unique_ptr<PDEShellContext> shell(&ShellOf(context));
         for (PanelRecord& panel : shell->panels)
             panel.interface.Terminate(panel.context, status);
+        for (PanelRecord& panel : shell->panels)
+            Discard(panel.userPane);
+        Discard(shell->shellPane);
         if (CurrentShell() == shell.get())
             CurrentShell() = nullptr;
         PPDCloseCurrent();

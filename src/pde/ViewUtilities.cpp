@@ -28,13 +28,7 @@ void AppendViewFromWindowAndUnpack(QWidget& target, QWidget& window, ControlID i
     if (!target.layout())
         (new QVBoxLayout(&target))->setContentsMargins(0, 0, 0, 0);
     offset += view->sizeHint().height();
-    auto* rows = qobject_cast<QBoxLayout*>(target.layout());
-    if (QLayout* contents = view->layout(); contents && rows) {
-        contents->setParent(nullptr);
-        rows->addLayout(contents); // takes the widgets of the layout along
-    } else {
-        target.layout()->addWidget(view);
-    }
+    target.layout()->addWidget(view);
 }
 
 void TranslateView(QWidget* view, int dx, int dy)

@@ -16,8 +16,8 @@ struct ControlID;
 // the others. Null panes are passed over.
 void UpdateTabControl(TabControl* tabs, std::span<QWidget* const> panes);
 
-// Moves the contents of the window's view of that number into the target, below what it holds, and adds the view's
-// height to the offset. Nothing happens when there is no such view.
+// Moves the window's view of that number, with all that is in it, into the target, below what that holds, and adds the
+// view's height to the offset. Nothing happens when there is no such view.
 void AppendViewFromWindowAndUnpack(QWidget& target, QWidget& window, ControlID view, int& offset);
 
 void TranslateView(QWidget* view, int dx, int dy); // in pixels; for views that no layout places

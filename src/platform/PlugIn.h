@@ -19,12 +19,12 @@ struct UUID {
     auto operator<=>(const UUID&) const = default;
 };
 
-// Only the form "2469D08F-1C3C-4039-BE98-6ED74B921894", in either case.
+// Only the form "2469D08F-1C3C-4039-BE98-6ED74B921894", in either case, and not all zeros.
 std::optional<UUID> UUIDFromString(QAnyStringView text);
 QString StringFromUUID(const UUID& id); // upper case
 
-// Makes an instance of the type; null when it makes none of that type. The allocator is null.
-using PlugInFactory = void* (*)(const void* allocator, UUID type);
+// Makes an instance of a type. Its arguments and result are those of the plug-in's own C header, so the host casts it.
+using PlugInFactory = void (*)();
 
 // A factory and the type that it makes; a second registration of the factory adds the type to it.
 void RegisterFactory(const UUID& factory, const UUID& type, PlugInFactory function);

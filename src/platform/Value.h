@@ -10,6 +10,7 @@
 #include <initializer_list>
 #include <map>
 #include <type_traits>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -97,6 +98,12 @@ public:
     Array* array() { return std::get_if<Array>(&content_); }
     const Dictionary* dictionary() const { return std::get_if<Dictionary>(&content_); }
     Dictionary* dictionary() { return std::get_if<Dictionary>(&content_); }
+
+    // Calls the visitor with what the value is.
+    template <class Visitor> decltype(auto) visit(Visitor&& visitor) const
+    {
+        return std::visit(std::forward<Visitor>(visitor), content_);
+    }
 
     bool operator==(const Value&) const;
 

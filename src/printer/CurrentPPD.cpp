@@ -2,6 +2,7 @@
 
 #include "pde/TicketUtilities.h"
 #include "platform/PPDFileCheck.h"
+#include "printer/LocalizedPPD.h"
 
 #include <QFile>
 #include <QUrl>
@@ -57,8 +58,10 @@ ppd_file_t* PPDGetCurrent()
 {
     if (CurrentPPD())
         return CurrentPPD().get();
-    if (const std::optional<QString> path = CurrentPPDPath())
+    if (const std::optional<QString> path = CurrentPPDPath()) {
         CurrentPPD().reset(OpenPPD(*path));
+        LocalizePPD(CurrentPPD().get());
+    }
     return CurrentPPD().get();
 }
 

@@ -14,7 +14,7 @@ namespace kesta {
 namespace {
 
 constexpr int kSwatchInset = 6; // points between the outline of the button and its colour
-constexpr QSize kSwatchSize{64, 28};
+constexpr int kSwatchWidth = 64;
 
 } // namespace
 
@@ -56,9 +56,8 @@ QSize ColorSwatch::sizeHint() const
 {
     QStyleOptionButton option;
     option.initFrom(this);
-    return style()
-        ->sizeFromContents(QStyle::CT_PushButton, &option, QSize(0, fontMetrics().height()), this)
-        .boundedTo(QSize(kSwatchSize.width(), 4 * kSwatchSize.height()));
+    const QSize button = style()->sizeFromContents(QStyle::CT_PushButton, &option, fontMetrics().size(0, text()), this);
+    return {kSwatchWidth, button.height()};
 }
 
 void ColorSwatch::paintEvent(QPaintEvent*)

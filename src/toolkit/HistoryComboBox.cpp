@@ -17,6 +17,8 @@ HistoryComboBox::HistoryComboBox(QWidget* parent) : QComboBox(parent)
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
     setFocusPolicy(Qt::StrongFocus);
+    setMinimumContentsLength(12);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setCompleter(nullptr); // a completed text would enter unasked
     SendTextEvents(*this);
     // A combo box takes a typed text that reads like an item for the item: here it stays a text.

@@ -51,7 +51,7 @@ private:
 // The look property of a widget, empty without one.
 QByteArray LookOf(const QWidget* widget);
 
-void DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter, const QStyle& style);
+void DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter);
 QSize MenuItemSize(const QStyleOptionMenuItem& item, const QSize& contents);
 void DrawHeaderSection(const QStyleOptionHeader& section, QPainter& painter);
 void DrawTab(const QStyleOptionTab& tab, QPainter& painter);

@@ -2,6 +2,7 @@
 
 #include "toolkit/KestaProxyStyle.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QFrame>
 #include <QLabel>
@@ -87,6 +88,8 @@ void ApplyLook(QWidget& widget, const QByteArray& look)
         palette.setColor(QPalette::Window, colors.pane);
         widget.setPalette(palette);
         widget.setAutoFillBackground(true);
+        if (auto* frame = qobject_cast<QFrame*>(&widget))
+            frame->setFrameStyle(frame->frameStyle()); // takes up the frame width of its look
     }
 }
 
@@ -152,17 +155,20 @@ void SetLook(QWidget& widget, const char* look)
 
 void InstallKestaStyle(QApplication& application)
 {
-    if (application.style()->name().compare("fusion"_L1, Qt::CaseInsensitive) != 0)
+    const bool installed = dynamic_cast<KestaProxyStyle*>(application.style());
+    if (!installed && application.style()->name().compare("fusion"_L1, Qt::CaseInsensitive) != 0)
         return;
     const QByteArray scheme = qgetenv("KESTA_COLOR_SCHEME");
     const bool wished = scheme == "dark" || scheme == "light";
     const QPalette before = QApplication::palette();
     const bool own = wished || IsNobodysPalette(before, application.style()->standardPalette());
     const bool dark = wished ? scheme == "dark" : ColorsOf(before).dark;
-    QApplication::setStyle(new KestaProxyStyle(own));
+    if (!installed) {
+        QApplication::setStyle(new KestaProxyStyle(own));
+        application.installEventFilter(new PaletteFollower(application.style()));
+    }
     if (own)
         QApplication::setPalette(OwnPalette(dark));
-    application.installEventFilter(new PaletteFollower(application.style()));
 }
 
 KestaProxyStyle::KestaProxyStyle(bool ownPalette) : QProxyStyle(u"fusion"_s), ownPalette_(ownPalette) {}
@@ -237,8 +243,12 @@ int KestaProxyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
         return 24;
     case PM_TabBarTabVSpace:
         return 12;
+    case PM_DefaultFrameWidth:
+        if (LookOf(widget) == "pane")
+            return 0; // its hairlines lie on the edge
+        return qobject_cast<const QAbstractScrollArea*>(widget) ? 2 : 1;
     case PM_FocusFrameHMargin:
-        return kTextInset - 2;
+        return kTextInset - 1; // item views add one themselves
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -254,8 +264,11 @@ QSize KestaProxyStyle::sizeFromContents(ContentsType type, const QStyleOption* o
         break;
     case CT_ToolButton:
         return {std::max(size.width() + kTextInset, kIconButtonWidth), ControlHeight(option)};
-    case CT_ComboBox:
-        return {size.width() + kTextInset + kArrowWidth, ControlHeight(option)};
+    case CT_ComboBox: {
+        const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        const int cursorRoom = combo && combo->editable ? kTextInset : 0;
+        return {size.width() + kTextInset + kArrowWidth + cursorRoom, ControlHeight(option)};
+    }
     case CT_SpinBox:
         return {size.width() + kTextInset + kStepperWidth, ControlHeight(option)};
     case CT_LineEdit:

@@ -190,11 +190,6 @@ void KestaProxyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption
         const QRect base = option->rect;
         return painter->fillRect(QRect(base.bottomLeft(), QSize(base.width(), 1)), CurrentColors().hairline);
     }
-    case PE_IndicatorHeaderArrow: {
-        const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
-        const bool up = header && header->sortIndicator == QStyleOptionHeader::SortUp;
-        return DrawChevron(*painter, option->rect, up ? Direction::Up : Direction::Down, CurrentColors().text2, false);
-    }
     case PE_PanelMenu:
     case PE_FrameMenu:
         if (element == PE_PanelMenu)
@@ -270,11 +265,11 @@ void KestaProxyStyle::drawControl(ControlElement element, const QStyleOption* op
         break;
     case CE_MenuItem:
         if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
-            return DrawMenuItem(*item, *painter, *this);
+            return DrawMenuItem(*item, *painter);
         break;
     case CE_MenuEmptyArea:
         return;
-    case CE_HeaderSection:
+    case CE_Header:
         if (const auto* section = qstyleoption_cast<const QStyleOptionHeader*>(option))
             return DrawHeaderSection(*section, *painter);
         break;

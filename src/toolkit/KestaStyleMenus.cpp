@@ -13,6 +13,7 @@ constexpr int kMenuRow = 26; // points, as are all here
 constexpr int kSeparatorRow = 9;
 constexpr int kMarkColumn = 28;
 constexpr int kMenuEnd = 24;
+constexpr int kSortArrowWidth = 20;
 constexpr int kSelectionInset = 4;
 constexpr double kSelectionRadius = 4;
 
@@ -39,11 +40,11 @@ void DrawMenuText(const QStyleOptionMenuItem& item, QPainter& painter, const QCo
 QSize MenuItemSize(const QStyleOptionMenuItem& item, const QSize& contents)
 {
     if (item.menuItemType == QStyleOptionMenuItem::Separator)
-        return {0, kSeparatorRow};
+        return {kMarkColumn, kSeparatorRow}; // without a width a menu leaves it out
     return {contents.width() + kMarkColumn + kMenuEnd, std::max(kMenuRow, item.fontMetrics.height() + 8)};
 }
 
-void DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter, const QStyle&)
+void DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter)
 {
     const KestaColors colors = CurrentColors();
     if (item.menuItemType == QStyleOptionMenuItem::Separator) {
@@ -74,6 +75,17 @@ void DrawHeaderSection(const QStyleOptionHeader& section, QPainter& painter)
     const KestaColors colors = CurrentColors();
     painter.fillRect(section.rect, colors.base);
     painter.fillRect(QRect(section.rect.bottomLeft(), QSize(section.rect.width(), 1)), colors.hairline);
+    const bool sorts = section.sortIndicator != QStyleOptionHeader::None;
+    const QRect text = section.rect.adjusted(kTextInset, 0, sorts ? -kSortArrowWidth : -kTextInset, 0);
+    const int flags = static_cast<int>(QStyle::visualAlignment(section.direction, Qt::AlignLeft)) | Qt::AlignVCenter;
+    painter.setPen(section.state & QStyle::State_Enabled ? colors.text2 : colors.disabled);
+    painter.drawText(Mirrored(section, text), flags,
+                     section.fontMetrics.elidedText(section.text, Qt::ElideRight, text.width()));
+    if (sorts) {
+        const QRect arrow(text.right(), section.rect.top(), kSortArrowWidth, section.rect.height());
+        const bool up = section.sortIndicator == QStyleOptionHeader::SortUp;
+        DrawChevron(painter, Mirrored(section, arrow), up ? Direction::Up : Direction::Down, colors.text2, false);
+    }
 }
 
 // The shown tab stands on a line of the accent.

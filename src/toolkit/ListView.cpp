@@ -65,7 +65,7 @@ protected:
     }
 
 private:
-    static QLocale Language() { return QLocale() == QLocale::c() ? QLocale(QLocale::English) : QLocale(); }
+    static QLocale Language() { return QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale(); }
     QCollator collator_{Language()};
 };
 

@@ -7,8 +7,11 @@
 #include <QTabBar>
 #include <QTimer>
 
+#include <algorithm>
 #include <functional>
+#include <map>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace kesta {
@@ -69,31 +72,74 @@ bool CanBeTyped(QChar c)
            script != QChar::Script_Katakana && script != QChar::Script_Hangul;
 }
 
-// The best free letter: the beginning of a word, the first one before all, else any; -1 without one.
-qsizetype FreeLetter(const QString& text, const std::set<QChar>& taken)
+// Where a text can be marked, the best places first: the beginnings of words, then the rest.
+std::vector<qsizetype> Places(const QString& plain)
 {
-    qsizetype found = -1;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (!CanBeTyped(text[i]) || taken.contains(text[i].toLower()))
-            continue;
-        if (i == 0 || text[i - 1].isSpace())
-            return i;
-        if (found < 0)
-            found = i;
+    std::vector<qsizetype> places;
+    for (qsizetype i = 0; i < plain.size(); ++i) {
+        if (CanBeTyped(plain[i]))
+            places.push_back(i);
     }
-    return found;
+    std::ranges::stable_partition(places, [&plain](qsizetype i) { return i == 0 || plain[i - 1].isSpace(); });
+    return places;
 }
 
-void Assign(const MarkedText& one, std::set<QChar>& taken)
-{
-    const QString plain = WithoutMnemonic(one.text);
-    const qsizetype letter = FreeLetter(plain, taken);
-    QString marked = plain.left(letter < 0 ? plain.size() : letter);
-    marked.replace(QLatin1Char('&'), QLatin1String("&&"));
-    if (letter >= 0) {
-        taken.insert(plain[letter].toLower());
-        marked += QLatin1Char('&') + plain.sliced(letter).replace(QLatin1Char('&'), QLatin1String("&&"));
+// Gives every text a letter of its own as long as there is any way to do so; a text gives its letter away only when it
+// finds another.
+class Letters {
+public:
+    explicit Letters(std::set<QChar> taken) : tried_(std::move(taken)) {}
+
+    void add(const QString& plain)
+    {
+        texts_.push_back({plain, Places(plain), -1});
+        std::set<QChar> tried = tried_;
+        place(texts_.size() - 1, tried);
     }
+    qsizetype placeOf(std::size_t text) const { return texts_[text].chosen; }
+
+private:
+    struct Text {
+        QString plain;
+        std::vector<qsizetype> places;
+        qsizetype chosen;
+    };
+
+    bool place(std::size_t text, std::set<QChar>& tried)
+    {
+        for (const qsizetype at : texts_[text].places) {
+            const QChar letter = texts_[text].plain[at].toLower();
+            if (!owners_.contains(letter) && tried.insert(letter).second)
+                return own(text, at, letter);
+        }
+        for (const qsizetype at : texts_[text].places) {
+            const QChar letter = texts_[text].plain[at].toLower();
+            if (tried.insert(letter).second && place(owners_[letter], tried))
+                return own(text, at, letter);
+        }
+        return false;
+    }
+    bool own(std::size_t text, qsizetype at, QChar letter)
+    {
+        owners_[letter] = text;
+        texts_[text].chosen = at;
+        return true;
+    }
+
+    std::set<QChar> tried_; // letters that are not to be had
+    std::map<QChar, std::size_t> owners_;
+    std::vector<Text> texts_;
+};
+
+void Mark(const MarkedText& one, qsizetype place)
+{
+    QString marked = WithoutMnemonic(one.text);
+    QString rest = place < 0 ? QString() : marked.sliced(place);
+    marked.truncate(place < 0 ? marked.size() : place);
+    marked.replace(QLatin1Char('&'), QLatin1String("&&"));
+    rest.replace(QLatin1Char('&'), QLatin1String("&&"));
+    if (!rest.isEmpty())
+        marked += QLatin1Char('&') + rest;
     one.widget->setProperty(one.property.constData(), marked);
     if (marked != one.text)
         one.set(marked);
@@ -112,8 +158,11 @@ void AssignMnemonics(QWidget& window)
             taken.insert(one.text[mark + 1].toLower());
         return chosenByTranslator;
     });
+    Letters letters(taken);
     for (const MarkedText& one : texts)
-        Assign(one, taken);
+        letters.add(WithoutMnemonic(one.text));
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        Mark(texts[i], letters.placeOf(i));
 }
 
 void AssignMnemonicsSoon(QWidget& widget)

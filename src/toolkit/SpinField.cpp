@@ -10,6 +10,7 @@
 namespace kesta {
 namespace {
 
+constexpr int kUsualWidth = 88;  // points
 constexpr int kMostDecimals = 9; // more than a 32-bit number has digits for
 
 } // namespace
@@ -17,6 +18,7 @@ constexpr int kMostDecimals = 9; // more than a 32-bit number has digits for
 SpinField::SpinField(QWidget* parent) : QDoubleSpinBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setDecimals(0);
     setRange(0, 99);
     connect(this, &QDoubleSpinBox::valueChanged, this, &SpinField::sendHit);
@@ -69,6 +71,11 @@ void SpinField::setNumber(SInt32 number)
     ++settingByCode_;
     setValue(toShown(number));
     --settingByCode_;
+}
+
+QSize SpinField::sizeHint() const
+{
+    return QDoubleSpinBox::sizeHint().expandedTo({kUsualWidth, 0});
 }
 
 void SpinField::wheelEvent(QWheelEvent* event)

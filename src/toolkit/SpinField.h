@@ -21,6 +21,8 @@ public:
     SInt32 number() const;
     void setNumber(SInt32 number); // brought within the limits; sends nothing
 
+    QSize sizeHint() const override;
+
 protected:
     void wheelEvent(QWheelEvent* event) override; // only with the focus: panels scroll
 

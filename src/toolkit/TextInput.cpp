@@ -73,8 +73,9 @@ QLineEdit* LineEditOf(const QWidget* field)
 void ShowInvalid(QWidget& field, bool invalid)
 {
     field.setProperty("invalid", invalid);
-    if (QLineEdit* line = LineEditOf(&field); line && line == &field)
-        line->setTextMargins(0, 0, invalid ? kMarkRoom : 0, 0);
+    const int room = invalid ? kMarkRoom : 0;
+    if (auto* line = qobject_cast<QLineEdit*>(&field))
+        line->isRightToLeft() ? line->setTextMargins(room, 0, 0, 0) : line->setTextMargins(0, 0, room, 0);
     field.update();
 }
 

@@ -1,13 +1,22 @@
 #include "panels/advanced/AdvancedPanel.h"
 
+#include "panels/advanced/AboutDialog.h"
+#include "panels/advanced/AdvancedMaps.h"
 #include "pde/MenuUtilities.h"
 #include "pde/TicketKeys.h"
 #include "pde/TicketUtilities.h"
+#include "printer/InstallableOptions.h"
+#include "product/InstalledFeatures.h"
+#include "support/Accessories.h"
+#include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
 #include "support/User.h"
+#include "toolkit/PictureView.h"
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 
 namespace kesta::advanced {
@@ -18,22 +27,18 @@ class AdvancedPanelTest : public testing::Test {
 protected:
     AdvancedPanelTest()
     {
-        LoadBundle(kPlugInIdentifier, test::BundleWithTexts({"Advanced", "On", "Off", "Enabled", "Disabled",
-                                                             "Banner Sheet:", "OK Command"}));
+        Bundle bundle = test::BundleWithTexts({"Advanced", "On", "Off", "Enabled", "Disabled", "None"});
+        bundle.strings.dictionary("Localizable")->set("About Version", "Version %1");
+        bundle.info.set("CFBundleShortVersionString", "1.2.3");
+        LoadBundle(kPlugInIdentifier, std::move(bundle));
         PMSessionSetDataInSession(session, kPMPrintSettingsTicket, ticket.reference());
-        SetCurrentPrintSession(&session);
 
         const PanelInterfaceHolder* holder = nullptr;
         GetAdvancedPanelInterface(&holder);
         slots = holder->table;
         slots->Prologue(&prologue);
     }
-    ~AdvancedPanelTest() override
-    {
-        slots->Terminate(prologue.context, noErr);
-        PPDCloseCurrent();
-        SetCurrentPrintSession(nullptr);
-    }
+    ~AdvancedPanelTest() override { slots->Terminate(prologue.context, noErr); }
     void open()
     {
         ASSERT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session), noErr);
@@ -42,7 +47,8 @@ protected:
     PopupButton* popup(Control number) { return FindPopupButton(&pane, {kSignature, number}); }
     OSStatus sync(bool toControls) { return slots->Sync(prologue.context, &session, toControls); }
 
-    PrintSession session{.printer = PMPrinter{.ppdPath = QStringLiteral(TEST_DATA "/kesta.ppd")}};
+    test::CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
+    PrintSession& session = printer.session;
     Ticket ticket;
     QWidget pane;
     const PanelInterface* slots = nullptr;
@@ -127,32 +133,65 @@ TEST_F(AdvancedPanelTest, WhatIsMissingIsAnsweredWithItsStatus)
     EXPECT_STREQ(prologue.title, "Advanced");
 }
 
-TEST_F(AdvancedPanelTest, EveryControlOfTheCodeIsInTheInterfaceFileWithALabel)
+TEST_F(AdvancedPanelTest, WithoutADialogBehindItTheWebLinksButtonIsOutOfView)
 {
     open();
-    for (const SInt32 number : {kBookletOrderPopup, kOutputOptionsPopup, kBannerPopup, kRequestOffsetPopup,
-                                kMirrorPopup, kOptimizationPopup}) {
-        const PopupButton* control = FindPopupButton(&pane, {kSignature, number});
-        ASSERT_TRUE(control) << number;
-        const auto labels = pane.findChildren<QLabel*>();
-        EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [&](QLabel* label) { return label->buddy() == control; }))
-            << number;
-    }
-    for (const SInt32 number : {kRequestOffsetLabel, kAboutButton, kWebLinksButton})
-        EXPECT_TRUE(FindControl(&pane, {kSignature, number})) << number;
+    EXPECT_TRUE(FindControl(&pane, {kSignature, kWebLinksButton})->isHidden());
+    EXPECT_FALSE(FindControl(&pane, {kSignature, kAboutButton})->isHidden());
 }
 
-TEST_F(AdvancedPanelTest, TheAboutButtonRunsItsDialogModally)
+TEST_F(AdvancedPanelTest, TheHandlerPassesEveryEventOn)
 {
     open();
-    bool shown = false;
+    for (QWidget* control : {popup(kMirrorPopup), popup(kBannerPopup)})
+        EXPECT_EQ(SendControlEvent(*control, HitEvent{.value = 1, .ticketValue = 1}), EventResult::NotHandled);
+}
+
+TEST_F(AdvancedPanelTest, OpenedAgainItKeepsItsControls)
+{
+    open();
+    const PopupButton* before = popup(kMirrorPopup);
+    EXPECT_EQ(slots->Close(prologue.context), noErr);
+    EXPECT_EQ(slots->Open(prologue.context), noErr);
+    EXPECT_EQ(popup(kMirrorPopup), before);
+}
+
+TEST_F(AdvancedPanelTest, AboutNamesThePrinterAndWhatIsFitted)
+{
+    LoadInstallableOptions(PPDGetCurrent(), InstalledFeatures);
+    open();
+    const auto text = [](QWidget& window, SInt32 number) {
+        const auto* label = qobject_cast<QLabel*>(FindControl(&window, {about::kSignature, number}));
+        return label ? label->text() : QString();
+    };
     test::ModalUser user;
     user.then([&](QWidget& window) {
-        shown = window.isVisible();
+        EXPECT_EQ(text(window, about::kVersionText), QStringLiteral("Version 1.2.3"));
+        EXPECT_EQ(text(window, about::kModelText), QStringLiteral("Kesta Veltra 4100-4200-4300"));
+        EXPECT_EQ(text(window, about::kAccessoriesText),
+                  QStringLiteral("Paper feeder: High-capacity feeder\n"
+                                 "Finisher: Production finisher with booklet maker and folder\n"
+                                 "Punch unit: 2 and 3 holes\nFax\nJob storage"));
+        auto* picture = FindControlAs<PictureView>(&window, {about::kSignature, about::kPicture});
+        ASSERT_TRUE(picture);
+        EXPECT_EQ(picture->picture(), QStringLiteral("Mimic_ED_Westmarch_HiCap-LtProd+Fold.gif"));
         test::Press(window, kCommandOK);
     });
     ClickControl(FindControl(&pane, {kSignature, kAboutButton}));
-    EXPECT_TRUE(shown);
+    UnloadInstallableOptions();
+}
+
+TEST_F(AdvancedPanelTest, EscapeClosesAboutAndNothingFittedReadsSo)
+{
+    open();
+    test::ModalUser user;
+    user.then([](QWidget& window) {
+        const auto* label = qobject_cast<QLabel*>(FindControl(&window, {about::kSignature, about::kAccessoriesText}));
+        EXPECT_EQ(label->text(), QStringLiteral("None"));
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window, &escape);
+    });
+    ClickControl(FindControl(&pane, {kSignature, kAboutButton}));
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "pde/JobTypeCheck.h"
 #include "pde/ShellFixture.h"
 #include "pde/TicketKeys.h"
-#include "printer/PPDUtilities.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,3 +1,4 @@
+#include "pde/CentredLayout.h"
 #include "pde/ShellFixture.h"
 #include "pde/TicketUtilities.h"
 #include "printer/InstallableOptions.h"
@@ -24,9 +25,7 @@ TEST_F(PDEShellTest, APaneFromPrologueToTerminate)
     EXPECT_EQ(prologue.maximumWidth, 540u);
     EXPECT_EQ(prologue.maximumHeight, 491u);
 
-    const auto initialize = [&] {
-        return slots.Initialize(prologue.context, nullptr, nullptr, &pane, &session());
-    };
+    const auto initialize = [&] { return slots.Initialize(prologue.context, nullptr, nullptr, &pane, &session()); };
     EXPECT_EQ(CallsOf([&] { EXPECT_EQ(initialize(), noErr); }), "1I2I3I1>2>3>");
     EXPECT_EQ(GetCurrentPrintSession(), &session());
     EXPECT_EQ(GetPDEBundle(), FindBundle(kPlugInIdentifier));
@@ -155,6 +154,21 @@ TEST_F(PDEShellTest, TheLastShownPanelOutlivesAPaneButThePaneBeginsWithTheFirst)
     EXPECT_EQ(GetShownPanel()._lastTabIndex, 1);
 }
 
+TEST_F(PDEShellTest, ATerminatedPaneLeavesItsPlaceToTheNext)
+{
+    open();
+    terminate();
+    EXPECT_TRUE(pane.findChildren<QWidget*>().isEmpty());
+    open();
+    test::Pick(choice(), 2);
+    EXPECT_FALSE(userPane(2)->isHidden());
+    EXPECT_EQ(pane.findChildren<PopupButton*>().size(), 1);
+    terminate();
+    initialize();
+    terminate();
+    EXPECT_TRUE(pane.findChildren<QWidget*>().isEmpty()) << "never opened";
+}
+
 TEST_F(PDEShellTest, TheSummaryIsWhatTheLastPanelLeaves)
 {
     initialize();
@@ -174,7 +188,7 @@ TEST_F(PDEShellTest, AButtonWithoutItsPictureIsHidden)
     Bundle bundle = *FindBundle(kPlugInIdentifier);
     const QTemporaryDir bare;
     ASSERT_TRUE(QDir(bare.path()).mkdir(u"PDE_Shell"_s));
-    ASSERT_TRUE(QFile::copy(bundle.resourcesPath + u"/PDE_Shell/Window.ui", bare.filePath(u"PDE_Shell/Window.ui"_s)));
+    ASSERT_TRUE(QFile::copy(bundle.resourcesPath + u"/PDE_Shell/Window.ui"_s, bare.filePath(u"PDE_Shell/Window.ui"_s)));
     bundle.resourcesPath = bare.path();
     LoadBundle(kPlugInIdentifier, std::move(bundle));
     open();
@@ -188,6 +202,29 @@ TEST_F(PDEShellTest, TheButtonsSayWhereTheyLead)
     open();
     EXPECT_EQ(control(kPreviousButton)->accessibleName(), u"Previous");
     EXPECT_EQ(control(kNextButton)->toolTip(), u"Next");
+}
+
+TEST(CentredPosition, IsNeverLeftOfTheParentButMayBeAboveIt)
+{
+    EXPECT_EQ(CentredPosition({640, 500}, {540, 491}), QPoint(50, 5));
+    EXPECT_EQ(CentredPosition({500, 400}, {540, 491}), QPoint(0, -45));
+}
+
+TEST(CentredLayout, FillsTheParentAndKeepsRoomForWhatIsHidden)
+{
+    QWidget parent;
+    auto* layout = new CentredLayout(parent);
+    QWidget small, large;
+    small.setMinimumSize(50, 20);
+    large.setMinimumSize(200, 100);
+    layout->addWidget(&small);
+    layout->addWidget(&large);
+    large.hide();
+    EXPECT_EQ(layout->minimumSize(), QSize(200, 100));
+    layout->setGeometry({0, 0, 300, 150});
+    EXPECT_EQ(small.geometry(), QRect(0, 0, 300, 150));
+    layout->setGeometry({0, 0, 100, 60});
+    EXPECT_EQ(large.geometry(), QRect(0, -20, 200, 100));
 }
 
 TEST(SelectItemOfTabControl, ShowsOnePaneOfTheList)

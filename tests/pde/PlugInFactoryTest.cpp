@@ -1,7 +1,7 @@
 #include "pde/FakePanels.h"
+#include "pde/PDEShell.h"
 #include "pde/PanelLoading.h"
 #include "pde/PanelOperations.h"
-#include "pde/PDEShell.h"
 #include "pde/PlugInInterface.h"
 #include "platform/PlugIn.h"
 #include "support/TestTexts.h"

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "pde/PDEShell.h"
 #include "pde/FakePanels.h"
+#include "pde/PDEShell.h"
 #include "pde/PlugInInterface.h"
 #include "pde/SystemUtilities.h"
 #include "platform/Notices.h"
+#include "platform/Ticket.h"
+#include "printer/PPDUtilities.h"
 #include "support/CurrentPrinter.h"
 #include "support/FakeSystem.h"
 #include "support/TestTexts.h"
@@ -12,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QPushButton>
 
 namespace kesta::test {
@@ -39,7 +42,7 @@ protected:
     ~ShellTest() override
     {
         if (prologue.context)
-            slots.Terminate(prologue.context, noErr);
+            terminate();
         KestaPDEUsePanels(nullptr);
         ForgetSystemVersion();
     }
@@ -60,7 +63,12 @@ protected:
             initialize();
         ASSERT_EQ(slots.Open(prologue.context), noErr);
     }
-    OSStatus terminate() { return slots.Terminate(std::exchange(prologue.context, nullptr), noErr); }
+    OSStatus terminate()
+    {
+        const OSStatus status = slots.Terminate(std::exchange(prologue.context, nullptr), noErr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return status;
+    }
 
     PrintSession& session() { return printer.session; }
     shell::PDEShellContext& context() { return *static_cast<shell::PDEShellContext*>(prologue.context); }
@@ -71,7 +79,7 @@ protected:
 
     FakeSystem system;
     WhileInstalled<SystemConfiguration> systemInstalled{system};
-    CurrentPrinter printer;
+    CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
     Ticket ticket;
     QWidget dialog;
     QWidget pane{&dialog};

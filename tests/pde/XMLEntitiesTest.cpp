@@ -38,9 +38,9 @@ TEST(XMLEntities, Unescapes)
 
 TEST(XMLEntities, WhatIsNoCharacterStaysAsItWasWritten)
 {
-    for (const QString& text : {u"&#0;"_s, u"&#x0;"_s, u"&#;"_s, u"&#x;"_s, u"&#xD800;"_s, u"&#57343;"_s, u"&#x110000;"_s,
-                                u"&#4294967361;"_s /* 2^32 + 65 */, u"&#18446744073709551681;"_s, u"&#6a;"_s,
-                                u"&#X41;"_s, u"&#xG;"_s, u"&#-65;"_s, u"&# 65;"_s})
+    for (const QString& text : {u"&#0;"_s, u"&#x0;"_s, u"&#;"_s, u"&#x;"_s, u"&#xD800;"_s, u"&#57343;"_s,
+                                u"&#x110000;"_s, u"&#4294967361;"_s /* 2^32 + 65 */, u"&#18446744073709551681;"_s,
+                                u"&#6a;"_s, u"&#X41;"_s, u"&#xG;"_s, u"&#-65;"_s, u"&# 65;"_s})
         EXPECT_EQ(XMLCreateStringByUnescapingEntities(text), text);
     EXPECT_EQ(XMLCreateStringByUnescapingEntities(u"&#x10FFFF;&#xFFFF;"), QString::fromUcs4(U"\U0010FFFF\xFFFF", 2));
 }

@@ -1132,6 +1132,47 @@
         <source>Next</source>
         <translation>Next panel</translation>
     </message>
+    <message>
+        <source>Panel Choice</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>Help Command</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>About Title</source>
+        <translation>About Kesta Print</translation>
+    </message>
+    <message>
+        <source>About Product</source>
+        <translation>Kesta Print</translation>
+    </message>
+    <message>
+        <source>About Version</source>
+        <extracomment>%1: the version number</extracomment>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>About Printer:</source>
+        <translation>Printer</translation>
+    </message>
+    <message>
+        <source>About Accessories:</source>
+        <translation>Accessories</translation>
+    </message>
+    <message>
+        <source>About Licence</source>
+        <translation>Uses Qt, under the GNU Lesser General Public License 3, and CUPS, under the Apache License 2.0.</translation>
+    </message>
+    <message>
+        <source>Custom Value Title</source>
+        <translation>Custom Value</translation>
+    </message>
+    <message>
+        <source>Custom Value:</source>
+        <translation>Value</translation>
+    </message>
 </context>
 <context>
     <name>LANFax</name>

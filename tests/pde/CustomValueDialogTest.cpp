@@ -1,6 +1,9 @@
-#include "pde/MenuUtilities.h"
+#include "pde/TextFieldUtilities.h"
+
+#include "platform/HelpViewer.h"
 #include "support/TestTexts.h"
 #include "support/User.h"
+#include "toolkit/TextInput.h"
 
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
@@ -17,7 +20,7 @@ protected:
     OSStatus run(TextLimits limits = {}) { return RunModalCustomValueDialog(bundle, limits, text, result); }
     static QLineEdit& field(QWidget& window) { return *FindTextField(&window, {"Util"_code, 1}); }
 
-    Bundle bundle = test::BundleWithTexts({"OK Command", "Cancel Command"});
+    Bundle bundle = test::BundleWithTexts({"OK Command", "Cancel Command", "Custom Value:", "Custom Value Title"});
     std::optional<QString> text = QStringLiteral("before");
     ModalResult result{};
 };
@@ -45,30 +48,28 @@ TEST_F(CustomValueDialogTest, OKTakesTheTextAndCancelTakesItAway)
     EXPECT_EQ(result, ModalResult::Cancel);
 }
 
-TEST_F(CustomValueDialogTest, WhatDoesNotFitIsRefusedAsAWhole)
+TEST_F(CustomValueDialogTest, TheFieldKeepsToTheLimitsAndHelpIsOnOffer)
 {
+    struct RecordingHelp : HelpViewer {
+        int shown = 0;
+        OSStatus show(const QString&, const QString&) override
+        {
+            ++shown;
+            return noErr;
+        }
+    } help;
+    const WhileInstalled installed(help);
+    bundle.info.set(kCFBundleHelpBookName, "Kesta Help");
     text = QStringLiteral("1234");
     ModalUser user;
     user.then([](QWidget& window) {
-        std::vector<EventKind> kinds;
-        const EventHandler handler =
-            InstallEventHandler(window, {EventKind::TextEmpty, EventKind::TextTooShort, EventKind::TextLongEnough},
-                                [&](const ControlEvent& event) {
-                                    kinds.push_back(event.kind);
-                                    return EventResult::Handled;
-                                });
-        field(window).setSelection(1, 2);
-        field(window).insert(QStringLiteral("xyz"));
+        TypeIntoField(&field(window), QStringLiteral("56789")); // all is selected
         EXPECT_EQ(field(window).text(), QStringLiteral("1234"));
-        field(window).insert(QStringLiteral("xy"));
-        EXPECT_EQ(field(window).text(), QStringLiteral("1xy4"));
-        field(window).setSelection(0, 3);
-        field(window).del();
-        field(window).del();
-        EXPECT_EQ(kinds, (std::vector{EventKind::TextLongEnough, EventKind::TextTooShort, EventKind::TextEmpty}));
-        test::Press(window, kCommandCancel);
+        test::Press(window, kCommandHelp);
     });
+    user.then([](QWidget& window) { test::Press(window, kCommandCancel); });
     run({.minimumLength = 4, .maximumLength = 4});
+    EXPECT_EQ(help.shown, 1);
 }
 
 TEST_F(CustomValueDialogTest, WithoutItsWindowNothingChanges)

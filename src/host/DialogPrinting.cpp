@@ -1,0 +1,203 @@
+// What Print and Save Settings do.
+
+#include "host/Console.h"
+#include "host/Constraints.h"
+#include "host/DialogOptions.h"
+#include "host/JobComposition.h"
+#include "host/PrintDialog.h"
+#include "host/PrintDialogControls.h"
+#include "host/PrintTexts.h"
+#include "platform/FileChooser.h"
+#include "platform/Notices.h"
+#include "platform/PropertyList.h"
+#include "platform/SafeFile.h"
+#include "toolkit/InterfaceFile.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::host {
+namespace {
+
+constexpr int kAccept = 0; // of the buttons of the question about conflicts
+
+// The sentences, and the changes of all conflicts, one a line each.
+Alert ConflictQuestion(const ConflictReport& report, const Bundle& texts)
+{
+    QStringList sentences;
+    QStringList changes;
+    bool canResolve = true;
+    for (const ChoiceConflict& conflict : report.conflicts) {
+        sentences << conflict.sentence;
+        canResolve = canResolve && !conflict.changes.empty();
+        for (const ChoiceChange& change : conflict.changes) {
+            if (!changes.contains(change.text))
+                changes << change.text;
+        }
+    }
+    const QString title = PrintText(texts, "Conflict Title");
+    const QString goBack = PrintText(texts, "Go Back");
+    if (!canResolve)
+        return {title, PrintText(texts, "Conflict No Way Out").arg(sentences.join(u'\n')), {goBack}, 0};
+    return {title,
+            PrintText(texts, "Conflict Message").arg(sentences.join(u'\n'), changes.join(u'\n')),
+            {PrintText(texts, "Accept Changes"), goBack},
+            1};
+}
+
+} // namespace
+
+EventResult PrintDialog::print()
+{
+    if (isBusy() || !printer_)
+        return EventResult::Handled;
+    if (!fields_->checkPages())
+        return EventResult::Swallowed;
+    storeInTickets();
+    if (!settleConflicts() || !saveAfterPrint())
+        return EventResult::Swallowed;
+    fields_->rememberPages();
+    pane_.reset();
+    if (printer_->isQueue())
+        send();
+    else
+        end(0);
+    return EventResult::Handled;
+}
+
+void PrintDialog::storeInTickets()
+{
+    WriteTickets(fields_->settings(), tickets_.printSettings, tickets_.pageFormat);
+    if (pane_)
+        pane_->syncToTickets();
+}
+
+// False: the user goes back to the dialog.
+bool PrintDialog::settleConflicts()
+{
+    Dictionary& choices = tickets_.printSettings.ppdDict();
+    const ConflictReport report = FindConflicts(printer_->ppd.path, choices);
+    for (const QString& unknown : report.unknown) // of another printer that was chosen before
+        choices.remove(unknown.section(u'=', 0, 0));
+    if (report.conflicts.empty())
+        return true;
+    const Alert question = ConflictQuestion(report, *start_.texts);
+    const bool accepted = GetNotices().ask(question) == kAccept && question.buttons.size() > 1;
+    if (!accepted)
+        return false;
+    choices = ApplyChanges(report, choices);
+    if (pane_) { // the panels keep each option under a key of their own too
+        pane_->syncToControls();
+        pane_->syncToTickets();
+    }
+    choices = ApplyChanges(report, choices);
+    return true;
+}
+
+bool PrintDialog::saveSettingsTo(const QString& path)
+{
+    const std::optional<FileError> error = WriteFile(path, jobSettings(), FileAccess::OwnerOnly);
+    if (!error)
+        return true;
+    PrintFailure(error->text);
+    status_ = 1;
+    GetNotices().show({.title = PrintText(*start_.texts, "Saving Failed Title"), .message = error->text});
+    return false;
+}
+
+void PrintDialog::saveSettings()
+{
+    if (!fields_->checkPages())
+        return;
+    QString path = start_.commandLine.saveSettingsPath;
+    if (path.isEmpty()) {
+        const std::optional<QString> chosen =
+            GetFileChooser().save({.title = PrintText(*start_.texts, "Save Settings Title"),
+                                   .name = PrintText(*start_.texts, "Settings File Name"),
+                                   .patterns = {u"*.plist"_s}});
+        if (!chosen)
+            return;
+        path = *chosen;
+    }
+    storeInTickets();
+    saveSettingsTo(path);
+}
+
+// Where there is no queue, saving is all that Print does.
+bool PrintDialog::saveAfterPrint()
+{
+    const QString& path = start_.commandLine.saveSettingsPath;
+    if (!path.isEmpty())
+        return saveSettingsTo(path);
+    if (printer_->isQueue())
+        return true;
+    if (start_.scripted) {
+        PrintNote(u"the settings are not saved: no --save-settings FILE was given"_s);
+        return true;
+    }
+    const std::optional<QString> chosen =
+        GetFileChooser().save({.title = PrintText(*start_.texts, "Save Settings Title"),
+                               .name = PrintText(*start_.texts, "Settings File Name"),
+                               .patterns = {u"*.plist"_s}});
+    return chosen && saveSettingsTo(*chosen);
+}
+
+void PrintDialog::send()
+{
+    const HostSettings settings = fields_->settings();
+    const ComposedOptions composed =
+        ComposeJobOptions({.queueDefaults = printer_->defaults,
+                           .ppdChoices = tickets_.printSettings.ppdDict(),
+                           .commandLine = OptionsOutsideDialog(start_.commandLine.options, facts_),
+                           .fields = {.copies = settings.copies,
+                                      .pageRanges = settings.pageRanges,
+                                      .orientation = settings.orientation,
+                                      .pagesPerSheet = settings.pagesPerSheet},
+                           .ticket = WritePropertyList(tickets_.printSettings.values())});
+    if (!composed.problem.isEmpty()) {
+        failedToPrint(composed.problem);
+        return;
+    }
+    const Bundle& texts = *start_.texts;
+    const PaneMessage word{PrintText(texts, "Sending Title").arg(PrinterTitle(printer_->queue, texts)),
+                           PrintText(texts, "Sending Message").arg(documentName())};
+    paneArea_->showProgress(word, 0, 0);
+    SetControlEnabled(FindControl(window_.get(), {kPrintSignature, kPrintButton}), false);
+    sending_.emplace(SubmitJobAside(
+        {.address = start_.commandLine.server},
+        {.queue = printer_->queue.name,
+         .title = start_.commandLine.title,
+         .files = start_.commandLine.files,
+         .options = composed.options},
+        [this, word](const SubmissionProgress& progress) {
+            paneArea_->showProgress(word, progress.sent, progress.total);
+        },
+        [this](const SubmissionResult& result) { sent(result); }));
+}
+
+void PrintDialog::sent(const SubmissionResult& result)
+{
+    sending_.reset();
+    SetControlEnabled(FindControl(window_.get(), {kPrintSignature, kPrintButton}), true);
+    if (result.sent()) {
+        if (!start_.commandLine.silent)
+            PrintLine(result.message);
+        end(0);
+    } else if (result.cancelled) {
+        openPane();
+    } else {
+        failedToPrint(result.message);
+    }
+}
+
+// Everything stays as it was set, to try again.
+void PrintDialog::failedToPrint(const QString& reason)
+{
+    PrintFailure(reason);
+    status_ = 1;
+    const Bundle& texts = *start_.texts;
+    openPane();
+    GetNotices().show({.title = PrintText(texts, "Sending Failed Title").arg(PrinterTitle(printer_->queue, texts)),
+                       .message = reason});
+}
+
+} // namespace kesta::host

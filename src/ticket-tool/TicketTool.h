@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/Value.h"
+
+#include <QByteArray>
+#include <QByteArrayList>
+
+#include <functional>
+
+namespace kesta::ticket_tool {
+
+struct Outcome {
+    int status = 0;    // the program's exit status: 0 or 1
+    QByteArray output; // for standard output, as it is
+    QString error;     // one line; empty on success
+};
+
+// Runs the program without its name among the arguments. "readInput" gives standard input whole; it is called only when
+// the options are to come from there.
+Outcome RunTicketTool(const QByteArrayList& arguments, const std::function<QByteArray()>& readInput);
+
+// The entry at a path of keys with "/" between them; in an array a position from 0 takes the place of a key. A key that
+// itself has a "/" is found too. Null when there is none.
+const Value* FindEntry(const Value& root, const QString& path);
+
+// As a filter's author wants it: strings, numbers and "true" or "false" bare, data as base64, a date as in a property
+// list, arrays and dictionaries as XML property lists.
+QByteArray WriteEntry(const Value& value);
+
+} // namespace kesta::ticket_tool

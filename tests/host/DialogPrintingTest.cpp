@@ -1,0 +1,98 @@
+// The dialog on a print server of the tests' own.
+
+#include "host/PrintDialogControls.h"
+#include "host/PrintDialogFixture.h"
+#include "host/PrivateServer.h"
+#include "toolkit/Controls.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <csignal>
+
+namespace kesta::host {
+namespace {
+
+using kesta::test::PrivateServer;
+using namespace Qt::StringLiterals;
+
+using test::PrintDialogTest;
+
+class DialogPrintingTest : public PrintDialogTest {
+protected:
+    DialogPrintingTest()
+    {
+        options.ppdPath.clear();
+        options.saveSettingsPath.clear();
+        options.server = server.address();
+        options.files = {SAMPLE};
+    }
+
+    PrivateServer server;
+};
+
+TEST_F(DialogPrintingTest, TheJobArrivesAsItWasSet)
+{
+    EXPECT_EQ(run("type Copies 2\ntype Pages 1\nchoose \"Per Sheet\" 4\nprint"), 0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_EQ(calls(), u"Prologue, Initialize, Open, Sync out, Close, Terminate 0"_s);
+    const auto job = server.job(1);
+    ASSERT_TRUE(job);
+    for (const char* option : {"page-ranges=1", "number-up=4", "com.kesta.print.ticket.1="})
+        EXPECT_TRUE(job->options.contains(option)) << option << " in " << job->options.toStdString();
+    EXPECT_TRUE(job->argv.contains("3: sample.pdf\n4: 2\n")) << job->argv.toStdString();
+}
+
+TEST_F(DialogPrintingTest, AServerThatDiesKeepsEverythingToTryAgain)
+{
+    int attempts = 0;
+    fake.atSyncOut = [&] { ++attempts == 1 ? server.signal(SIGKILL) : server.restart(); };
+    EXPECT_EQ(run("type Copies 3\nprint\nexpect \"Sending Failed Title\"\npress OK\nexpect-value Copies 3\nprint"), 0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_EQ(calls(), u"Prologue, Initialize, Open, Sync out, Close, Terminate 0, "
+                       "Prologue, Initialize, Open, Sync out, Close, Terminate 0"_s);
+    ASSERT_TRUE(server.job(1));
+    EXPECT_FALSE(server.hasJob(2)); // nothing is sent twice
+
+    fake.atSyncOut = [&] { server.signal(SIGKILL); };
+    EXPECT_EQ(run("print\npress OK\ncancel"), 1);
+    EXPECT_EQ(fault, QString());
+}
+
+TEST_F(DialogPrintingTest, SendingCanBeStopped)
+{
+    fake.atSyncOut = [&] { server.signal(SIGSTOP); };
+    bool stopped = false;
+    QTimer person;
+    QObject::connect(&person, &QTimer::timeout, [&] {
+        QWidget* window = QApplication::activeModalWidget();
+        QWidget* stop = window ? FindControl(window, {kPrintSignature, kStopButton}) : nullptr;
+        if (stop && stop->isVisible()) {
+            stopped = true;
+            ClickControl(stop);
+        }
+    });
+    person.start(20);
+    EXPECT_EQ(run("type Copies 3\nprint\nexpect-value Copies 3\ncancel"), 0);
+    server.signal(SIGCONT);
+    EXPECT_EQ(fault, QString());
+    EXPECT_TRUE(stopped);
+    EXPECT_FALSE(server.hasJob(1));
+}
+
+TEST_F(DialogPrintingTest, AnotherPrinterGetsAPaneOfItsOwn)
+{
+    EXPECT_EQ(run("choose Printer #2\nexpect \"No Description Message\"\nexpect-enabled Help no\nchoose Printer #1\n"
+                  "expect-enabled Help yes\ncancel"),
+              0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_EQ(calls(), u"Prologue, Initialize, Open, Sync out, Close, Terminate 0, "
+                       "Prologue, Initialize, Open, Close, Terminate 0"_s);
+    options.queue = u"Nowhere"_s;
+    EXPECT_EQ(run("expect \"Unknown Printer Title\"\nchoose Printer #1\nexpect-enabled Help yes\nprint"), 0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_TRUE(server.job(1));
+}
+
+} // namespace
+} // namespace kesta::host

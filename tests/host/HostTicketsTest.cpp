@@ -1,0 +1,129 @@
+#include "host/HostTickets.h"
+#include "host/PageRanges.h"
+#include "support/TestTexts.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::host {
+namespace {
+
+TEST(PageRanges, ReadsWhatPeopleType)
+{
+    const auto cases = std::to_array<std::pair<const char*, const char*>>({
+        {"", ""},
+        {"  ", ""},
+        {"7", "7"},
+        {"1-4, 7", "1-4,7"},
+        {" 1 - 4 ; 7 ", "1-4,7"},
+        {"7,1-4", "1-4,7"},
+        {"1-4,3-6,7", "1-7"},
+        {"3-", "3-"},
+        {"-3", "1-3"},
+        {"5-,2", "2,5-"},
+        {"2,5-,8", "2,5-"},
+        {"99999", "99999"},
+        {"1\xe2\x80\x93"
+         "4",
+         "1-4"},
+    });
+    for (const auto& [typed, written] : cases) {
+        const PageRanges read = ParsePageRanges(QString::fromUtf8(typed));
+        EXPECT_EQ(read.problem, PageRangesProblem::None) << typed;
+        EXPECT_EQ(WritePageRanges(read.ranges, u","_s), QString::fromLatin1(written)) << typed;
+    }
+    EXPECT_EQ(WritePageRanges(ParsePageRanges(u"1-4,7"_s).ranges, u", "_s), u"1-4, 7"_s);
+}
+
+TEST(PageRanges, SaysWhatIsWrong)
+{
+    using enum PageRangesProblem;
+    const auto cases = std::to_array<std::pair<QString, PageRangesProblem>>({
+        {u"a"_s, NotANumber},
+        {u"1,"_s, NotANumber},
+        {u","_s, NotANumber},
+        {u"-"_s, NotANumber},
+        {u"1-2-3"_s, NotANumber},
+        {u"1 2"_s, NotANumber},
+        {u"+1"_s, NotANumber},
+        {u"1.5"_s, NotANumber},
+        {u"\u0663"_s, NotANumber},
+        {u"0"_s, NoSuchPage},
+        {u"0-3"_s, NoSuchPage},
+        {u"100000"_s, NoSuchPage},
+        {u"99999999999999999999"_s, NoSuchPage},
+        {u"7-3"_s, Backwards},
+        {u"1,"_s.repeated(kMostRanges) + u"1"_s, TooMany},
+    });
+    for (const auto& [typed, problem] : cases) {
+        const PageRanges read = ParsePageRanges(typed);
+        EXPECT_EQ(read.problem, problem) << typed.left(20).toStdString();
+        EXPECT_TRUE(read.ranges.empty());
+    }
+}
+
+TEST(HostTickets, EveryFieldComesBack)
+{
+    const HostSettings settings{.jobName = u"Report"_s,
+                                .copies = 25,
+                                .pageRanges = u"1-4,7"_s,
+                                .orientation = Orientation::ReverseLandscape,
+                                .pagesPerSheet = 6};
+    Ticket printSettings;
+    Ticket pageFormat;
+    WriteTickets(settings, printSettings, pageFormat);
+
+    EXPECT_TRUE(ReadTickets(printSettings, pageFormat) == settings);
+    EXPECT_TRUE(printSettings.values() == (Dictionary{{key::JobName, u"Report"_s},
+                                                      {key::Copies, Number::Index(25)},
+                                                      {key::LayoutNUp, true},
+                                                      {key::PagesPerSheet, Number::Index(6)},
+                                                      {key::PageRanges, u"1-4,7"_s}}));
+    EXPECT_TRUE(pageFormat.values() == (Dictionary{{key::Orientation, Number::Index(4)}}));
+    EXPECT_EQ(printSettings.client(key::LayoutNUp), QString::fromLatin1(kHostClient));
+
+    WriteTickets({}, printSettings, pageFormat);
+    EXPECT_TRUE(ReadTickets(printSettings, pageFormat) == HostSettings{});
+    EXPECT_EQ(printSettings.values().boolean(key::LayoutNUp), false);
+    EXPECT_FALSE(printSettings.values().find(key::PageRanges));
+}
+
+TEST(HostTickets, ForeignValuesGiveDefaults)
+{
+    Ticket printSettings;
+    Ticket pageFormat;
+    EXPECT_TRUE(ReadTickets(printSettings, pageFormat) == HostSettings{});
+
+    printSettings.set("x", key::JobName, true);
+    printSettings.set("x", key::Copies, Number::Index(-3));
+    printSettings.set("x", key::PagesPerSheet, Number::Index(3));
+    printSettings.set("x", key::PageRanges, "seven");
+    pageFormat.set("x", key::Orientation, Number::Index(5));
+    EXPECT_TRUE(ReadTickets(printSettings, pageFormat) == HostSettings{});
+
+    printSettings.set("x", key::Copies, Number::SInt64(1LL << 40));
+    EXPECT_EQ(ReadTickets(printSettings, pageFormat).copies, 1);
+    printSettings.set("x", key::Copies, Number::Index(1'000'000));
+    EXPECT_EQ(ReadTickets(printSettings, pageFormat).copies, kMostCopies);
+}
+
+TEST(HostTickets, PaperAndSides)
+{
+    Ticket printSettings;
+    Ticket pageFormat;
+    const PaperRect a4{.top = 0, .left = 0, .bottom = 842, .right = 595};
+    EXPECT_FALSE(ReadPaperRect(pageFormat));
+    WritePaperRect(a4, pageFormat);
+    EXPECT_TRUE(ReadPaperRect(pageFormat) == a4);
+    pageFormat.set("x", key::UnadjustedPaperRect, Array{Number::Index(1)});
+    EXPECT_FALSE(ReadPaperRect(pageFormat));
+
+    WriteInitialDuplexing(DuplexingOfChoice("DuplexTumble"), printSettings);
+    WriteInitialDuplexing(DuplexingOfChoice("DuplexNoTumble"), printSettings); // the first stays
+    EXPECT_TRUE(*printSettings.values().find(key::Duplexing) == Value(Number::Index(3)));
+    EXPECT_EQ(DuplexingOfChoice("None"), 1);
+}
+
+} // namespace
+} // namespace kesta::host

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "host/FakePlugIn.h"
+#include "host/PrintDialog.h"
+#include "platform/Bundle.h"
+#include "platform/SafeFile.h"
+#include "toolkit/ToolkitServices.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include <stdexcept>
+
+namespace kesta::host::test {
+
+using namespace Qt::StringLiterals;
+
+inline const Bundle& PrintBundle()
+{
+    const auto [bundle, error] = LoadBundleAt(QStringLiteral(KESTA_PRINT_BUNDLE));
+    if (!bundle)
+        throw std::runtime_error(error.toStdString());
+    return *bundle;
+}
+
+class PrintDialogTest : public testing::Test {
+protected:
+    PrintDialogTest()
+    {
+        InstallToolkitServices();
+        qputenv("XDG_CONFIG_HOME", folder.path().toLocal8Bit());
+        options.ppdPath = QStringLiteral(KESTA_PPD);
+        options.saveSettingsPath = folder.filePath(u"saved.plist"_s);
+    }
+
+    // The exit status of the dialog with the script played in it; the script's fault goes to `fault`.
+    int run(const QByteArray& script)
+    {
+        PrintDialog dialog({.commandLine = options,
+                            .texts = &PrintBundle(),
+                            .plugIn = {plugIn, u"The plug-in is missing."_s},
+                            .scripted = true});
+        problem = dialog.prepare().value_or(QString());
+        if (!problem.isEmpty())
+            return 1;
+        const DialogScript parsed = ParseDialogScript(script);
+        EXPECT_EQ(parsed.error, QString());
+        const ScriptPlayer player(parsed, dialog, [](const QString& key) {
+            const QString text = LocalizedString(PrintBundle(), key);
+            return text == QLatin1StringView(kStringNotFound) ? QStringList() : QStringList{text};
+        });
+        const int status = dialog.run();
+        fault = player.fault().value_or(QString());
+        return status;
+    }
+
+    QString calls() const { return fake.calls.join(u", "_s); }
+
+    // What Print saved.
+    void readSaved(JobTickets& tickets) const
+    {
+        const FileContent content = ReadFile(options.saveSettingsPath, 1 << 20);
+        ASSERT_TRUE(content.bytes) << content.error.text.toStdString();
+        ASSERT_FALSE(ReadJobSettings(*content.bytes, tickets));
+    }
+
+    // Job settings to start from, with these choices of the printer's options.
+    void startFrom(const Dictionary& choices)
+    {
+        JobTickets tickets;
+        tickets.printSettings.ppdDict() = choices;
+        options.settingsPath = folder.filePath(u"start.plist"_s);
+        ASSERT_FALSE(WriteFile(options.settingsPath, WriteJobSettings(tickets)));
+    }
+
+    QTemporaryDir folder;
+    FakePlugIn fake;
+    std::optional<PlugIn> plugIn = FakePlugIn::door();
+    CommandLine options;
+    QString problem;
+    QString fault;
+};
+
+} // namespace kesta::host::test

@@ -1,0 +1,189 @@
+#include "host/PrintDialog.h"
+
+#include "host/DialogSummary.h"
+#include "host/PrintDialogControls.h"
+#include "host/PrintDialogFixture.h"
+#include "platform/SafeFile.h"
+#include "support/PPDVariant.h"
+#include "support/TestTexts.h"
+#include "toolkit/Controls.h"
+#include "toolkit/ToolkitServices.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::host {
+namespace {
+
+using kesta::test::PPDVariant;
+using test::FakePlugIn;
+using test::PrintBundle;
+using test::PrintDialogTest;
+
+TEST_F(PrintDialogTest, PrintSyncsClosesAndTerminatesThenSaves)
+{
+    options.title = u"Report"_s;
+    EXPECT_EQ(run("type Copies: 25\ntype Pages: \"7, 1-4\"\nchoose \"Pages per Sheet\" 4\n"
+                  "choose Orientation: Landscape\nprint"),
+              0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_EQ(calls(), u"Prologue, Initialize, Open, Sync out, Close, Terminate 0"_s);
+    JobTickets saved;
+    readSaved(saved);
+    const HostSettings expected{.jobName = u"Report"_s,
+                                .copies = 25,
+                                .pageRanges = u"1-4,7"_s,
+                                .orientation = Orientation::Landscape,
+                                .pagesPerSheet = 4};
+    EXPECT_TRUE(ReadTickets(saved.printSettings, saved.pageFormat) == expected);
+    EXPECT_TRUE(ReadPaperRect(saved.pageFormat) == (PaperRect{.bottom = 792, .right = 612}));
+}
+
+TEST_F(PrintDialogTest, CancelWritesNothing)
+{
+    EXPECT_EQ(run("type Copies 25\ncancel"), 0);
+    EXPECT_EQ(calls(), u"Prologue, Initialize, Open, Close, Terminate 0"_s);
+    EXPECT_FALSE(QFile::exists(options.saveSettingsPath));
+    EXPECT_EQ(run("key Escape"), 0);
+    EXPECT_EQ(fault, QString());
+}
+
+TEST_F(PrintDialogTest, StaysOpenWhenThePaneSwallowsOK)
+{
+    fake.swallowsOK = true;
+    EXPECT_EQ(run("print\nexpect-value Copies 1\nkey Return\nexpect-value Copies 1\ncancel"), 0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_FALSE(QFile::exists(options.saveSettingsPath));
+}
+
+TEST_F(PrintDialogTest, WrongPagesKeepTheDialogOpenWithTheFieldMarked)
+{
+    EXPECT_EQ(run("type Pages \"7-3\"\nprint\nexpect \"Pages Backwards Title\"\npress \"OK\"\nkey 2\n"
+                  "expect-value Pages 2\nprint"),
+              0);
+    EXPECT_EQ(fault, QString()); // the text was selected: the key replaced it
+    JobTickets saved;
+    readSaved(saved);
+    EXPECT_EQ(ReadTickets(saved.printSettings, saved.pageFormat).pageRanges, u"2"_s);
+}
+
+TEST_F(PrintDialogTest, StartsFromTheCommandLineOverSavedSettings)
+{
+    JobTickets tickets;
+    WriteTickets({.copies = 3, .pageRanges = u"2"_s, .pagesPerSheet = 6}, tickets.printSettings, tickets.pageFormat);
+    options.settingsPath = folder.filePath(u"start.plist"_s);
+    ASSERT_FALSE(WriteFile(options.settingsPath, WriteJobSettings(tickets)));
+    options.copies = 5;
+    SetJobOption(options.options, u"number-up", u"2"_s);
+    SetJobOption(options.options, u"landscape", u"true"_s);
+    EXPECT_EQ(run("expect-value Copies 5\nexpect-value Pages 2\nexpect-value \"Per Sheet:\" =2\n"
+                  "expect-value Orientation Landscape\nexpect \"5 copies, pages 2 \xc2\xb7 2 pages per sheet\""),
+              0);
+    EXPECT_EQ(fault, QString());
+
+    ASSERT_FALSE(WriteFile(options.settingsPath, "<plist"));
+    EXPECT_EQ(run(""), 1);
+    EXPECT_TRUE(problem.contains(options.settingsPath)) << problem.toStdString();
+}
+
+TEST_F(PrintDialogTest, SaysWhyThereIsNoPaneAndPrintsAllTheSame)
+{
+    fake.initialize = kInvalidContext;
+    EXPECT_EQ(run("expect \"Pane Failed Message\"\nexpect-enabled Help no\ntype Copies 2\nprint"), 0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_EQ(calls(), u"Prologue, Initialize, Terminate -9530"_s);
+    EXPECT_TRUE(QFile::exists(options.saveSettingsPath));
+
+    PPDVariant ppd;
+    ppd.replaceLines("*Manufacturer:", "*Manufacturer: \"KESTA\"");
+    options.ppdPath = ppd.path();
+    EXPECT_EQ(run("expect \"Other Maker Message\"\nexpect KESTA\ncancel"), 0);
+    EXPECT_EQ(fault, QString());
+
+    plugIn.reset();
+    EXPECT_EQ(run("expect \"The plug-in is missing.\"\nprint"), 0);
+    EXPECT_EQ(fault, QString());
+
+    plugIn = FakePlugIn::door();
+    options.ppdPath = folder.filePath(u"none.ppd"_s);
+    EXPECT_EQ(run("expect \"No Description Message\"\ncancel"), 0);
+    EXPECT_EQ(fault, QString());
+}
+
+TEST_F(PrintDialogTest, ConflictingChoicesAreAskedAbout)
+{
+    PPDVariant ppd;
+    ppd.setDefault("Option4", "None");
+    options.ppdPath = ppd.path();
+    startFrom({{"KSPunch", "2HolePunch"}});
+    EXPECT_EQ(run("print\nexpect \"Conflict Title\"\npress \"Go Back\"\nexpect-value Copies 1\ncancel"), 0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_FALSE(QFile::exists(options.saveSettingsPath));
+
+    EXPECT_EQ(run("print\npress \"Accept Changes\""), 0);
+    EXPECT_EQ(fault, QString());
+    JobTickets saved;
+    readSaved(saved);
+    EXPECT_TRUE(saved.printSettings.ppdDict() == (Dictionary{{"KSPunch", "None"}}));
+}
+
+TEST_F(PrintDialogTest, AFileThatCantBeWrittenKeepsTheDialogOpen)
+{
+    options.saveSettingsPath = u"/nowhere/saved.plist"_s;
+    EXPECT_EQ(run("type Copies 4\nprint\nexpect \"Saving Failed Title\"\npress OK\nexpect-value Copies 4\ncancel"), 1);
+    EXPECT_EQ(fault, QString());
+}
+
+TEST_F(PrintDialogTest, AMissingServerIsSaidInTheWindow)
+{
+    options.ppdPath.clear();
+    options.server = folder.filePath(u"no-server"_s);
+    EXPECT_EQ(run("expect \"No Server Title\"\npress \"Try Again\"\nexpect \"No Server Title\"\nprint\ncancel"), 0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_EQ(calls(), QString());
+}
+
+TEST_F(PrintDialogTest, TheFocusGoesInReadingOrder)
+{
+    PrintDialog dialog({.commandLine = options, .texts = &PrintBundle(), .plugIn = {plugIn, {}}, .scripted = true});
+    ASSERT_FALSE(dialog.prepare());
+    ASSERT_FALSE(ParseDialogScript("cancel").steps.empty());
+    const ScriptPlayer player(ParseDialogScript("cancel"), dialog, [](const QString&) { return QStringList(); });
+    dialog.run();
+
+    const QWidget& window = dialog.window();
+    std::vector<SInt32> order;
+    for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
+        const SInt32 number = GetControlID(*next).number;
+        const bool isReached = next->focusPolicy() & Qt::TabFocus && next->isVisibleTo(&window);
+        if (number && isReached && !next->accessibleName().isEmpty())
+            order.push_back(number);
+    }
+    const std::vector<SInt32> expected{kPrinterChoice,  kCopiesField,     kPagesField,
+                                       kPerSheetChoice, kPortraitSegment, kLandscapeSegment};
+    ASSERT_GE(order.size(), expected.size());
+    EXPECT_TRUE(std::equal(expected.begin(), expected.end(), order.begin()));
+    for (const QWidget* control : window.findChildren<QWidget*>()) {
+        const bool isReached = control->focusPolicy() & Qt::TabFocus;
+        const bool isOurs = GetControlID(*control).signature == kPrintSignature;
+        EXPECT_FALSE(isOurs && isReached && ControlName(*control).isEmpty()) << control->objectName().toStdString();
+    }
+}
+
+TEST(DialogSummary, LeavesOutWhatIsUsual)
+{
+    const Bundle& texts = PrintBundle();
+    EXPECT_EQ(SummaryLine({}, {}, texts), u"1 copy, all pages"_s);
+    EXPECT_EQ(SummaryLine({}, {QString(), u"- Blue\n- Hole punched\n"_s}, texts), u"Blue, Hole punched"_s);
+    EXPECT_EQ(
+        SummaryLine(
+            {.copies = 25, .pageRanges = u"1-4,7"_s, .orientation = Orientation::ReverseLandscape, .pagesPerSheet = 2},
+            {u"Secure Print"_s}, texts),
+        u"25 copies, pages 1-4, 7 \u00B7 2 pages per sheet \u00B7 landscape \u00B7 Secure Print"_s);
+}
+
+} // namespace
+} // namespace kesta::host

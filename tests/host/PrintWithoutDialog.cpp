@@ -1,0 +1,19 @@
+// The host's window-less half as a program: PATIENCE (milliseconds), then kesta-print's arguments.
+
+#include "host/CommandLine.h"
+#include "host/Console.h"
+#include "host/NoDialog.h"
+
+#include <cstdlib>
+
+int main(int argc, char* argv[])
+{
+    using namespace kesta::host;
+    const std::span<const char* const> arguments(argv, std::size_t(argc));
+    const CommandLineResult parsed = ParseCommandLine(arguments.subspan(2));
+    if (!parsed.error.isEmpty()) {
+        PrintFailure(parsed.error);
+        return 1;
+    }
+    return RunWithoutDialog(parsed.commandLine, std::chrono::milliseconds(std::atoi(argv[1])));
+}

@@ -1,0 +1,112 @@
+#include "host/PrivateServer.h"
+
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QProcess>
+#include <QStringList>
+#include <QThread>
+
+#include <cups/cups.h>
+
+#include <csignal>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::test {
+namespace {
+
+constexpr char kScript[] = PRIVATE_CUPS;
+
+QByteArray Content(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool RunScript(const QStringList& arguments)
+{
+    // With files for its output: the server it leaves behind would hold a pipe open.
+    QProcess script;
+    script.setStandardOutputFile(QProcess::nullDevice());
+    script.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    script.start(QLatin1StringView(kScript), arguments);
+    return script.waitForFinished(30'000) && script.exitCode() == 0;
+}
+
+} // namespace
+
+PrivateServer::PrivateServer()
+{
+    // The server's own user looks into it.
+    QFile::setPermissions(directory_.path(), QFile::permissions(directory_.path()) | QFile::ExeGroup | QFile::ExeOther |
+                                                 QFile::ReadGroup | QFile::ReadOther);
+    restart();
+}
+
+PrivateServer::~PrivateServer()
+{
+    signal(SIGKILL); // quicker, and nobody needs what it would save
+    stop();
+}
+
+void PrivateServer::restart()
+{
+    stop();
+    if (!RunScript({u"start"_s, folder(), u"Kesta=%1"_s.arg(QLatin1StringView(KESTA_PPD)), u"Plain="_s}))
+        throw std::runtime_error("the private print server does not start");
+    pid_ = Content(folder() + u"/pid"_s).trimmed().toLongLong();
+}
+
+void PrivateServer::stop()
+{
+    RunScript({u"stop"_s, folder()});
+}
+
+void PrivateServer::signal(int number) const
+{
+    ::kill(static_cast<pid_t>(pid_), number);
+}
+
+QByteArray PrivateServer::content(int job, const char* suffix) const
+{
+    return Content(u"%1/jobs/%2.%3"_s.arg(folder()).arg(job).arg(QLatin1StringView(suffix)));
+}
+
+bool PrivateServer::hasJob(int number) const
+{
+    return QFile::exists(u"%1/jobs/%2.done"_s.arg(folder()).arg(number));
+}
+
+std::optional<CapturedJob> PrivateServer::job(int number) const
+{
+    for (QDeadlineTimer deadline(10'000); !deadline.hasExpired(); QThread::msleep(10)) {
+        if (hasJob(number))
+            return CapturedJob{content(number, "options"), content(number, "argv"), content(number, "data")};
+    }
+    return std::nullopt;
+}
+
+int PrivateServer::jobState(int number) const
+{
+    http_t* http =
+        httpConnect2(address().toUtf8().constData(), 631, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_NEVER, 1, 5000, nullptr);
+    cups_job_t* jobs = nullptr;
+    const int count = cupsGetJobs2(http, &jobs, nullptr, 0, CUPS_WHICHJOBS_ALL);
+    int state = 0;
+    for (int i = 0; i < count; ++i) {
+        if (jobs[i].id == number)
+            state = jobs[i].state;
+    }
+    cupsFreeJobs(count, jobs);
+    httpClose(http);
+    return state;
+}
+
+void PrivateServer::administer(const QString& program, const QStringList& arguments) const
+{
+    if (QProcess::execute(program, QStringList{u"-h"_s, address()} + arguments) != 0)
+        throw std::runtime_error("the private print server can't be administered");
+}
+
+} // namespace kesta::test

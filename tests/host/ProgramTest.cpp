@@ -1,0 +1,116 @@
+// The program as its users start it.
+
+#include "support/TestTexts.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Ended {
+    int status = -1;
+    QString output;
+    QString errors;
+};
+
+class ProgramTest : public testing::Test {
+protected:
+    ProgramTest()
+    {
+        for (const char* screen : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(QLatin1StringView(screen));
+        environment.insert(u"XDG_CONFIG_HOME"_s, folder.path());
+        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    }
+
+    Ended run(const QStringList& arguments, const QByteArray& input = {}) const
+    {
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.setWorkingDirectory(folder.path());
+        program.start(QStringLiteral(KESTA_PRINT), arguments);
+        program.write(input);
+        program.closeWriteChannel();
+        const bool ended = program.waitForFinished(30'000) && program.exitStatus() == QProcess::NormalExit;
+        return {.status = ended ? program.exitCode() : -1,
+                .output = QString::fromUtf8(program.readAllStandardOutput()),
+                .errors = QString::fromUtf8(program.readAllStandardError())};
+    }
+
+    // Of a script for the product's printer without a queue.
+    Ended play(const QByteArray& script, const QStringList& more = {}) const
+    {
+        return run(QStringList{u"--ppd"_s, QStringLiteral(KESTA_PPD), u"--script"_s, u"-"_s} + more, script);
+    }
+
+    QTemporaryDir folder;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+};
+
+TEST_F(ProgramTest, PlaysAScriptWithoutADisplayAndSavesTheSame)
+{
+    const Ended first = play("choose \"Mirrored Output:\" Enabled\nsync to-tickets\ndump dump.plist\nsummary\nprint",
+                             {u"--save-settings"_s, u"saved.plist"_s, u"-n"_s, u"2"_s});
+    EXPECT_EQ(first.status, 0) << first.errors.toStdString();
+    EXPECT_EQ(first.output, u"2 copies\n"_s);
+    EXPECT_EQ(first.errors, QString());
+    QFile saved(folder.filePath(u"saved.plist"_s));
+    QFile dump(folder.filePath(u"dump.plist"_s));
+    ASSERT_TRUE(saved.open(QIODevice::ReadOnly) && dump.open(QIODevice::ReadOnly));
+    const QByteArray settings = saved.readAll();
+    EXPECT_EQ(settings, dump.readAll());
+    EXPECT_TRUE(settings.contains("com.kesta.print.InvertImageOptions"));
+
+    const Ended again = play("expect-value Copies 2\nexpect-value \"Mirrored Output:\" Enabled\nprint",
+                             {u"--settings"_s, u"saved.plist"_s, u"--save-settings"_s, u"again.plist"_s});
+    EXPECT_EQ(again.status, 0) << again.errors.toStdString();
+    QFile second(folder.filePath(u"again.plist"_s));
+    ASSERT_TRUE(second.open(QIODevice::ReadOnly));
+    EXPECT_EQ(second.readAll(), settings);
+}
+
+TEST_F(ProgramTest, FailuresSayWhereAndEndWithOne)
+{
+    const Ended syntax = play("summary\nfly");
+    EXPECT_EQ(syntax.status, 1);
+    EXPECT_EQ(syntax.errors, u"script line 2: \"fly\" is not an action\n"_s);
+    EXPECT_EQ(syntax.output, QString()); // nothing of it was played
+
+    const Ended step = play("summary\n\npress \"Fly\"");
+    EXPECT_EQ(step.status, 1);
+    EXPECT_TRUE(step.errors.startsWith(u"script line 3: there is no \"Fly\""_s)) << step.errors.toStdString();
+
+    const Ended file = run({u"--script"_s, u"missing.script"_s});
+    EXPECT_EQ(file.status, 1);
+    EXPECT_TRUE(file.errors.contains(u"missing.script"_s)) << file.errors.toStdString();
+
+    const Ended display = run({u"--ppd"_s, QStringLiteral(KESTA_PPD)});
+    EXPECT_EQ(display.status, 1);
+    EXPECT_TRUE(display.errors.contains(u"--script"_s)) << display.errors.toStdString();
+
+    const Ended panels = play("cancel", {u"--panels"_s, u"GetNonePanelInterface"_s});
+    EXPECT_EQ(panels.status, 1);
+    EXPECT_TRUE(panels.errors.contains(u"GetNonePanelInterface"_s)) << panels.errors.toStdString();
+
+    const Ended settings = play("cancel", {u"--settings"_s, QStringLiteral(KESTA_PPD)});
+    EXPECT_EQ(settings.status, 1);
+    EXPECT_EQ(settings.errors.count(u'\n'), 1) << settings.errors.toStdString();
+}
+
+TEST_F(ProgramTest, WorksWithoutItsPlugIn)
+{
+    environment.insert(u"KESTA_PLUGIN_PATH"_s, folder.path()); // nothing there: the places beside the program count
+    EXPECT_EQ(play("expect-enabled Help yes").status, 0);
+
+    ASSERT_TRUE(QDir(folder.path()).mkpath(u"KestaFeatures.plugin/Contents"_s));
+    const Ended broken = play("expect \"No Plug-in Title\"\ncancel");
+    EXPECT_EQ(broken.status, 0) << broken.errors.toStdString();
+    EXPECT_TRUE(broken.errors.contains(folder.path())) << broken.errors.toStdString();
+}
+
+} // namespace

@@ -1,0 +1,157 @@
+#include "host/Submission.h"
+#include "host/Queues.h"
+
+#include "host/PrivateServer.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryFile>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::host {
+namespace {
+
+using namespace std::chrono_literals;
+using test::PrivateServer;
+
+class SubmissionTest : public testing::Test {
+protected:
+    int argc = 0;
+    QCoreApplication application{argc, nullptr};
+    PrivateServer cups;
+    PrintServer server{.address = cups.address(), .patience = 600ms};
+    Cancellation cancellation;
+    QTemporaryFile document;
+
+    // A document large enough to be interrupted; the server stores it without a look inside.
+    PrintJob largeJob(qint64 size = 64 << 20)
+    {
+        EXPECT_TRUE(document.open());
+        EXPECT_TRUE(document.resize(size));
+        return {
+            .queue = u"Plain"_s, .files = {QFile::encodeName(document.fileName())}, .options = {{u"raw"_s, u"true"_s}}};
+    }
+    // Does something once, when a part of the document was sent.
+    static ProgressFunction midway(std::function<void()> action)
+    {
+        return [action, done = std::make_shared<bool>(false)](const SubmissionProgress& progress) {
+            if (progress.sent > (1 << 20) && !std::exchange(*done, true))
+                action();
+        };
+    }
+};
+
+TEST_F(SubmissionTest, FindsQueuesAndTheirPPDs)
+{
+    const QueueList list = FetchQueues(server, cancellation);
+    ASSERT_EQ(list.problem, QString());
+    ASSERT_EQ(list.queues.size(), 2u);
+    const Queue& kesta = list.queues[0];
+    EXPECT_EQ(kesta.name, u"Kesta"_s);
+    EXPECT_TRUE(kesta.isDefault && kesta.isAccepting && !kesta.isStopped);
+    EXPECT_FALSE(list.queues[1].isDefault);
+    EXPECT_EQ(kesta.deviceURI, u"capture:/jobs"_s);
+    EXPECT_EQ(kesta.displayName, u"Kesta"_s);
+
+    const QueuePPD ppd = FetchQueuePPD(server, u"Kesta"_s, cancellation);
+    ASSERT_EQ(ppd.problem, QString());
+    QFile fetched(ppd.path);
+    QFile original(QLatin1StringView(KESTA_PPD));
+    ASSERT_TRUE(fetched.open(QIODevice::ReadOnly) && original.open(QIODevice::ReadOnly));
+    EXPECT_EQ(fetched.readAll(), original.readAll());
+    EXPECT_EQ(fetched.permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+
+    const QueuePPD none = FetchQueuePPD(server, u"Plain"_s, cancellation);
+    EXPECT_TRUE(none.hasNone && none.path.isEmpty() && none.problem.contains(u"Plain"_s));
+    EXPECT_EQ(FindQueue(server, {}, cancellation).queue.name, u"Kesta"_s);
+    EXPECT_EQ(FindQueue(server, u"Plain"_s, cancellation).queue.name, u"Plain"_s);
+    EXPECT_TRUE(FindQueue(server, u"Nowhere"_s, cancellation).problem.contains(u"does not exist"_s));
+}
+
+TEST_F(SubmissionTest, ReportsProgressAndSendsEveryByte)
+{
+    const PrintJob job = largeJob(3 << 20);
+    std::vector<std::int64_t> sent;
+    const SubmissionResult result = SubmitJob(server, job, cancellation, [&](const SubmissionProgress& progress) {
+        EXPECT_EQ(progress.total, 3 << 20);
+        sent.push_back(progress.sent);
+    });
+    EXPECT_EQ(result.message, u"request id is Plain-1 (1 file(s))"_s);
+    ASSERT_GT(sent.size(), 10u);
+    EXPECT_TRUE(std::ranges::is_sorted(sent));
+    EXPECT_EQ(sent.back(), 3 << 20);
+    EXPECT_EQ(cups.job(1).value().data, QByteArray(3 << 20, '\0'));
+}
+
+TEST_F(SubmissionTest, InterruptedJobsAreCancelledAndNeverSentTwice)
+{
+    const PrintJob job = largeJob();
+    const SubmissionResult shortened =
+        SubmitJob(server, job, cancellation, midway([this] { document.resize(2 << 20); }));
+    EXPECT_FALSE(shortened.sent());
+    EXPECT_TRUE(shortened.message.contains(u"Plain-1 was cancelled"_s)) << shortened.message.toStdString();
+    EXPECT_EQ(cups.jobState(1), 7);
+
+    document.resize(64 << 20);
+    const SubmissionResult cancelled = SubmitJob(server, job, cancellation, midway([this] { cancellation.request(); }));
+    EXPECT_TRUE(cancelled.cancelled && !cancelled.sent());
+    EXPECT_EQ(cups.jobState(2), 7);
+    EXPECT_EQ(cups.jobState(3), 0);
+    EXPECT_FALSE(cups.hasJob(1) || cups.hasJob(2));
+}
+
+TEST_F(SubmissionTest, SaysSoWhenTheServerDiesWhileSending)
+{
+    const PrintJob job = largeJob();
+    const SubmissionResult result = SubmitJob(server, job, cancellation, midway([this] { cups.signal(SIGKILL); }));
+    EXPECT_FALSE(result.sent());
+    EXPECT_TRUE(result.message.contains(cups.address()) && result.message.contains(u"went away"_s) &&
+                result.message.contains(u"Plain-1 could not be cancelled"_s))
+        << result.message.toStdString();
+    const SubmissionResult again = SubmitJob(server, job, cancellation);
+    EXPECT_TRUE(again.message.contains(u"does not answer"_s) && again.message.contains(u"Plain"_s))
+        << again.message.toStdString();
+    cups.restart();
+    EXPECT_TRUE(SubmitJob(server, largeJob(1000), cancellation).sent());
+    EXPECT_FALSE(cups.hasJob(1));
+}
+
+TEST_F(SubmissionTest, ASilentServerEndsEveryWait)
+{
+    const PrintJob job = largeJob();
+    QElapsedTimer timer;
+    timer.start();
+    const SubmissionResult halfway = SubmitJob(server, job, cancellation, midway([this] { cups.signal(SIGSTOP); }));
+    EXPECT_TRUE(halfway.message.contains(u"went away"_s)) << halfway.message.toStdString();
+    EXPECT_TRUE(SubmitJob(server, job, cancellation).message.contains(u"does not answer"_s));
+    EXPECT_TRUE(FetchQueues(server, cancellation).problem.contains(u"does not answer"_s));
+    EXPECT_TRUE(FetchQueuePPD(server, u"Kesta"_s, cancellation).problem.contains(u"does not answer"_s));
+    EXPECT_TRUE(FindQueue(server, u"Kesta"_s, cancellation).problem.contains(u"does not answer"_s));
+    EXPECT_LT(timer.elapsed(), 15'000);
+
+    bool called = false;
+    server.patience = 60s;
+    {
+        const BackgroundTask hanging = FetchQueuesAside(server, [&](const QueueList&) { called = true; });
+        const BackgroundTask sending = SubmitJobAside(server, job, {}, [&](const SubmissionResult&) { called = true; });
+        QCoreApplication::processEvents();
+        timer.restart();
+    }
+    EXPECT_LT(timer.elapsed(), 3000) << "leaving does not wait for the server";
+    server.patience = 300ms;
+    QString problem;
+    const BackgroundTask asked = FindQueueAside(server, {}, [&](const NamedQueue& queue) { problem = queue.problem; });
+    while (problem.isEmpty() && timer.elapsed() < 10'000)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    EXPECT_TRUE(problem.contains(u"does not answer"_s));
+    EXPECT_FALSE(called);
+}
+
+} // namespace
+} // namespace kesta::host

@@ -1,0 +1,200 @@
+#include "panels/advanced/AboutDialog.h"
+#include "panels/advanced/AdvancedPanel.h"
+#include "pde/PDEShell.h"
+#include "platform/Bundle.h"
+#include "support/TestTexts.h"
+#include "toolkit/InterfaceFile.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDirIterator>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QTabBar>
+#include <QXmlStreamReader>
+
+#include <memory>
+#include <set>
+
+using namespace Qt::StringLiterals;
+
+// What holds for every interface file below resources/, and what the code asks of each.
+namespace kesta {
+namespace {
+
+struct ExpectedControls {
+    const char* interfaceFile;
+    const char* window;
+    FourCharCode signature;
+    std::vector<SInt32> numbers;
+};
+
+// A panel or dialog that comes adds its line.
+const ExpectedControls kExpectedControls[] = {
+    {"PDE_Shell",
+     "Window",
+     shell::kSignature,
+     {shell::kShellPane, shell::kPanelFrame, shell::kPanelArea, shell::kPanelChoice, shell::kPreviousButton,
+      shell::kNextButton}},
+    {"AdvancedPanel",
+     "Advanced",
+     advanced::kSignature,
+     {advanced::kBookletOrderPopup, advanced::kOutputOptionsPopup, advanced::kBannerPopup,
+      advanced::kRequestOffsetLabel, advanced::kRequestOffsetPopup, advanced::kMirrorPopup,
+      advanced::kOptimizationPopup, advanced::kAboutButton, advanced::kWebLinksButton}},
+    {"About",
+     "About",
+     about::kSignature,
+     {about::kPicture, about::kVersionText, about::kModelText, about::kAccessoriesText}},
+    {"Utilities", "CustomValue", "Util"_code, {1}},
+};
+
+QByteArray ContentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// The English texts of a catalogue's source, by table.
+Dictionary TextsOf(const QString& catalogue)
+{
+    Dictionary tables;
+    QXmlStreamReader xml(ContentOf(catalogue));
+    QString table, key;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == u"name") {
+            table = xml.readElementText();
+            tables.set(table, Dictionary());
+        } else if (xml.name() == u"source") {
+            key = xml.readElementText();
+        } else if (xml.name() == u"translation") {
+            tables.dictionary(table)->set(key, xml.readElementText(QXmlStreamReader::IncludeChildElements));
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << catalogue.toStdString() << ": " << xml.errorString().toStdString();
+    return tables;
+}
+
+// A bundle of the resources with its English texts.
+Bundle BundleOf(const QString& folder)
+{
+    const QString name = QFileInfo(folder).fileName();
+    return {.resourcesPath = folder, .strings = TextsOf(u"%1/translations/%2_en.ts"_s.arg(folder, name))};
+}
+
+QStringList InterfaceFiles()
+{
+    QStringList files;
+    for (QDirIterator all(QStringLiteral(TEST_RESOURCES "/.."), {u"*.ui"_s}, QDir::Files, QDirIterator::Subdirectories);
+         all.hasNext();)
+        files << QFileInfo(all.next()).canonicalFilePath();
+    return files;
+}
+
+bool IsInput(const QWidget& widget)
+{
+    const bool isPartOfAnother = qobject_cast<const QDialogButtonBox*>(widget.parentWidget()) ||
+                                 qobject_cast<const QComboBox*>(widget.parentWidget()) ||
+                                 qobject_cast<const QAbstractSpinBox*>(widget.parentWidget()) ||
+                                 qobject_cast<const QTabBar*>(widget.parentWidget());
+    return !isPartOfAnother &&
+           (qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QLineEdit*>(&widget) ||
+            qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QAbstractSpinBox*>(&widget) ||
+            qobject_cast<const QAbstractItemView*>(&widget) || qobject_cast<const QPlainTextEdit*>(&widget));
+}
+
+class InterfaceFileTest : public testing::TestWithParam<QString> {
+protected:
+    // .../<bundle>/<interface file>/<window>.ui
+    QFileInfo window{GetParam()};
+    QFileInfo interfaceFile{window.path()};
+    const Bundle bundle = BundleOf(interfaceFile.path());
+    const std::unique_ptr<QWidget> root =
+        CreateWindowFromNib(bundle, interfaceFile.fileName(), window.completeBaseName());
+};
+
+TEST_P(InterfaceFileTest, KeepsToTheSpacings)
+{
+    const std::set<int> scale{0, 4, 8, 12, 16, 24};
+    const std::set<QString> spacings{u"spacing"_s, u"horizontalSpacing"_s, u"verticalSpacing"_s};
+    QXmlStreamReader xml(ContentOf(GetParam()));
+    int looked = 0;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != u"property")
+            continue;
+        const QString name = xml.attributes().value(u"name"_s).toString();
+        if (!name.endsWith(u"Margin") && !spacings.contains(name))
+            continue;
+        xml.readNextStartElement();
+        const int value = xml.readElementText().toInt();
+        EXPECT_TRUE(scale.contains(value)) << name.toStdString() << ' ' << value << " in line " << xml.lineNumber();
+        ++looked;
+    }
+    EXPECT_FALSE(xml.hasError());
+    EXPECT_GT(looked, 0) << "spacings are said, not left to the style";
+}
+
+TEST_P(InterfaceFileTest, HasAllItsTexts)
+{
+    ASSERT_TRUE(root);
+    QList<QWidget*> widgets = root->findChildren<QWidget*>();
+    widgets.push_front(root.get());
+    const QString missing = QString::fromLatin1(kStringNotFound);
+    for (const QWidget* widget : widgets) {
+        const auto* label = qobject_cast<const QLabel*>(widget);
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        const QString text = label ? label->text() : button ? button->text() : QString();
+        for (const QString& shown : {text, widget->toolTip(), widget->accessibleName(), widget->windowTitle()})
+            EXPECT_NE(shown, missing) << widget->objectName().toStdString() << " ("
+                                      << widget->property("localizableKey").toString().toStdString() << ')';
+    }
+}
+
+TEST_P(InterfaceFileTest, NamesEveryInputAndLetsTheKeyboardReachIt)
+{
+    ASSERT_TRUE(root);
+    std::set<const QWidget*> reached;
+    for (const QWidget* widget = root->nextInFocusChain(); widget != root.get(); widget = widget->nextInFocusChain())
+        reached.insert(widget);
+    for (const QWidget* widget : root->findChildren<QWidget*>()) {
+        if (!IsInput(*widget) || widget->window() != root.get()) // lists of combo boxes are windows of their own
+            continue;
+        const std::string name = widget->objectName().toStdString() + ' ' + widget->metaObject()->className();
+        EXPECT_FALSE(ControlName(*widget).isEmpty()) << name;
+        EXPECT_TRUE(widget->focusPolicy() & Qt::TabFocus) << name;
+        EXPECT_TRUE(reached.contains(widget)) << name;
+    }
+}
+
+std::string NameOfFile(const testing::TestParamInfo<QString>& info)
+{
+    const QFileInfo window(info.param);
+    const QFileInfo interfaceFile(window.path());
+    std::string name =
+        (QFileInfo(interfaceFile.path()).fileName() + interfaceFile.fileName() + u'_' + window.completeBaseName())
+            .toStdString();
+    std::erase_if(name, [](unsigned char c) { return !std::isalnum(c) && c != '_'; });
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, InterfaceFileTest, testing::ValuesIn(InterfaceFiles()), NameOfFile);
+
+TEST(InterfaceFiles, HoldEveryControlThatTheCodeAsksFor)
+{
+    const Bundle bundle = BundleOf(QStringLiteral(TEST_RESOURCES));
+    for (const ExpectedControls& expected : kExpectedControls) {
+        const auto root = CreateWindowFromNib(bundle, expected.interfaceFile, expected.window);
+        ASSERT_TRUE(root) << expected.interfaceFile;
+        for (const SInt32 number : expected.numbers)
+            EXPECT_TRUE(FindControl(root.get(), {expected.signature, number})) << expected.window << ' ' << number;
+    }
+}
+
+} // namespace
+} // namespace kesta

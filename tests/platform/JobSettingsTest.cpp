@@ -1,0 +1,92 @@
+#include "platform/JobSettings.h"
+
+#include "platform/PropertyList.h"
+#include "support/TestTexts.h"
+
+#include <gtest/gtest.h>
+
+namespace kesta {
+namespace {
+
+void FillTickets(JobTickets& tickets)
+{
+    tickets.printSettings.set("com.kesta.print", "stock", Dictionary{{"Size", Number::SInt32(204)}});
+    tickets.printSettings.set("K", "options", Array{Value(true)}, Ticket::Lock::Locked);
+    tickets.printSettings.set("", "nobody's", "text");
+    tickets.printSettings.ppdDict().set("Duplex", "DuplexTumble");
+    tickets.pageFormat.set("com.kesta.print", "orientation", Number::Float32(0.1f));
+    tickets.printerInfo.set("K", "seen", Date{0});
+}
+
+TEST(JobSettings, AreReadWholeAndWrittenAsTheSameBytes)
+{
+    JobTickets saved, restored;
+    FillTickets(saved);
+    restored.printSettings.set("other", "options", false, Ticket::Lock::Locked);
+    restored.printerInfo.set("other", "goes", true);
+    const TicketReference reference = restored.printSettings.reference();
+
+    const QByteArray bytes = WriteJobSettings(saved);
+    ASSERT_EQ(ReadJobSettings(bytes, restored), std::nullopt);
+    EXPECT_EQ(WriteJobSettings(restored), bytes);
+    EXPECT_EQ(restored.printSettings.client("options"), QStringLiteral("K"));
+    EXPECT_EQ(restored.printSettings.client("nobody's"), QString());
+    EXPECT_EQ(restored.printSettings.values().dictionary("stock")->number("Size")->as<SInt32>(), 204);
+    EXPECT_EQ(restored.printSettings.ppdDict(), saved.printSettings.ppdDict());
+    EXPECT_FALSE(restored.printerInfo.values().find("goes"));
+    EXPECT_EQ(restored.printSettings.set("anybody", "options", true), noErr) << "locks are not saved";
+    EXPECT_EQ(TicketFromReference(reference), &restored.printSettings);
+
+    PrintSession session;
+    AddToSession(restored, session);
+    EXPECT_EQ(PMSessionGetDataFromSession(session, kPMPageFormatTicket), restored.pageFormat.reference());
+}
+
+TEST(JobSettings, AMissingEntryCountsAsEmpty)
+{
+    JobTickets tickets;
+    FillTickets(tickets);
+    EXPECT_EQ(ReadJobSettings(WritePropertyList(Dictionary()), tickets), std::nullopt);
+    EXPECT_EQ(WriteJobSettings(tickets), WriteJobSettings(JobTickets()));
+}
+
+TEST(JobSettings, WhatIsNotOursIsRefusedAndNothingOfItUsed)
+{
+    const Dictionary settings{{"PMPrintSettingsTicket", Dictionary{{"key", true}}}};
+    const auto with = [&settings](const char* name, Value value) {
+        Dictionary root = settings;
+        root.set(name, std::move(value));
+        return root;
+    };
+    const Value wrong[] = {
+        Value("text"),
+        with("Other", Dictionary()),
+        with("PMPageFormatTicket", Array()),
+        with("PPD", Dictionary{{"Duplex", Number::Index(1)}}),
+        with("PPD", "Duplex"),
+        with("Clients", Array()),
+        with("Clients", Dictionary{{"PMPrintSettingsTicket", "K"}}),
+        with("Clients", Dictionary{{"Unheard", Dictionary{{"key", "K"}}}}),
+        with("Clients", Dictionary{{"PMPrintSettingsTicket", Dictionary{{"key", true}}}}),
+        with("Clients", Dictionary{{"PMPrintSettingsTicket", Dictionary{{"absent", "K"}}}}),
+        with("Clients", Dictionary{{"PMPageFormatTicket", Dictionary{{"key", "K"}}}}),
+        with("two\nlines", true),
+    };
+    JobTickets tickets;
+    FillTickets(tickets);
+    const QByteArray before = WriteJobSettings(tickets);
+    const auto expectRefusal = [&](const QByteArray& bytes, QStringView beginning) {
+        const std::optional<QString> problem = ReadJobSettings(bytes, tickets);
+        ASSERT_TRUE(problem) << bytes.toStdString();
+        EXPECT_TRUE(problem->startsWith(beginning)) << problem->toStdString();
+        EXPECT_FALSE(problem->contains(u'\n'));
+        EXPECT_EQ(WriteJobSettings(tickets), before);
+    };
+    for (const Value& root : wrong)
+        expectRefusal(WritePropertyList(root), u"not a job settings file: ");
+    expectRefusal(before.first(before.size() / 2), u"line ");
+    expectRefusal(QByteArray(5 * 1024 * 1024, ' '), u"line 1, column 1: larger than");
+}
+
+} // namespace
+} // namespace kesta

@@ -1,0 +1,100 @@
+#include "platform/Bundle.h"
+#include "platform/PlugIn.h"
+#include "plugin/PaneLifecycle.h"
+#include "support/User.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+// The plug-in as it is built, seen from a host that knows nothing but its door.
+namespace kesta {
+namespace {
+
+using test::FakeDialog;
+
+class PlugInBundleTest : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(factory); }
+
+    template <class Widget> static std::vector<Widget*> Visible(QWidget& root)
+    {
+        std::vector<Widget*> visible;
+        for (Widget* widget : root.findChildren<Widget*>()) {
+            if (widget->isVisibleTo(&root))
+                visible.push_back(widget);
+        }
+        return visible;
+    }
+
+    const KestaPlugInFactory factory = test::FindBuiltFactory();
+};
+
+TEST_F(PlugInBundleTest, TwoPanesOneAfterTheOtherWriteTheirTickets)
+{
+    for (int run = 0; run < 2; ++run) {
+        FakeDialog dialog;
+        const auto mirror = [&](const PanelInterface&, KestaContextRef) {
+            auto* popup = FindPopupButton(&dialog.window, {"Advn"_code, 106});
+            return test::Pick(popup, 1) ? noErr : OSStatus{-1};
+        };
+        ASSERT_EQ(test::RunPane(factory, dialog, mirror), noErr);
+        const Ticket& settings = dialog.tickets.printSettings;
+        EXPECT_EQ(*settings.values().dictionary("com.kesta.print.InvertImageOptions"),
+                  (Dictionary{{"MirrorImage", Number::Index(1)}}));
+        EXPECT_EQ(*settings.values().string("com.kesta.print.ControllerInformation.ControllerFamily"), u"Discovery");
+        EXPECT_EQ(*settings.ppdDict().string("Jog"), u"None");
+        EXPECT_EQ(InstanceCount(*UUIDFromString("2469D08F-1C3C-4039-BE98-6ED74B921894")), 0);
+    }
+}
+
+TEST_F(PlugInBundleTest, ASecondPaneShowsWhatTheFirstOneWrote)
+{
+    FakeDialog first, second;
+    const auto choose = [&](const PanelInterface&, KestaContextRef) {
+        test::Pick(FindPopupButton(&first.window, {"Advn"_code, 107}), 1);
+        test::Pick(FindPopupButton(&first.window, {"Advn"_code, 105}), 1);
+        return noErr;
+    };
+    ASSERT_EQ(test::RunPane(factory, first, choose), noErr);
+    second.tickets.printSettings.swapContents(first.tickets.printSettings);
+    const auto look = [&](const PanelInterface&, KestaContextRef) {
+        EXPECT_EQ(FindPopupButton(&second.window, {"Advn"_code, 107})->selectedItem()->value, 1);
+        EXPECT_EQ(FindPopupButton(&second.window, {"Advn"_code, 105})->selectedItem()->value, 1);
+        return noErr;
+    };
+    EXPECT_EQ(test::RunPane(factory, second, look), noErr);
+}
+
+TEST_F(PlugInBundleTest, NothingThatAPersonSeesLacksItsText)
+{
+    FakeDialog dialog;
+    const auto look = [&](const PanelInterface&, KestaContextRef) {
+        for (const QLabel* label : Visible<QLabel>(dialog.pane))
+            EXPECT_NE(label->text(), QLatin1StringView(kStringNotFound)) << label->objectName().toStdString();
+        for (const QAbstractButton* button : Visible<QAbstractButton>(dialog.pane)) {
+            EXPECT_NE(button->text(), QLatin1StringView(kStringNotFound)) << button->objectName().toStdString();
+            EXPECT_FALSE(ControlName(*button).isEmpty()) << button->objectName().toStdString();
+            EXPECT_NE(ControlName(*button), QLatin1StringView(kStringNotFound)) << button->objectName().toStdString();
+        }
+        EXPECT_GE(Visible<PopupButton>(dialog.pane).size(), 6u);
+        return noErr;
+    };
+    EXPECT_EQ(test::RunPane(factory, dialog, look), noErr);
+}
+
+TEST_F(PlugInBundleTest, EveryPanelOfTheTableIsExported)
+{
+    const Bundle* bundle = LoadBundleAt(QStringLiteral(KESTA_PLUGIN)).bundle;
+    ASSERT_TRUE(bundle);
+    const char* problem = "";
+    const auto find = reinterpret_cast<KestaPDEFindPanelsFunction>(FunctionNamed(*bundle, "KestaPDEFindPanels"));
+    ASSERT_TRUE(find);
+    EXPECT_EQ(find(&problem), noErr) << problem;
+    EXPECT_EQ(FunctionNamed(*bundle, "KestaPDEProlog"), nullptr) << "not an entry";
+}
+
+} // namespace
+} // namespace kesta

@@ -1,0 +1,144 @@
+#include "toolkit/KestaStyle.h"
+
+#include "support/TestTexts.h"
+#include "toolkit/Controls.h"
+#include "toolkit/GalleryWindow.h"
+#include "toolkit/MenuButton.h"
+#include "toolkit/TextInput.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QPalette>
+#include <QPushButton>
+#include <QStyle>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta {
+namespace {
+
+class StyleTest : public testing::Test {
+protected:
+    StyleTest() { QApplication::setStyle(u"fusion"_s); }
+    ~StyleTest() override
+    {
+        qunsetenv("KESTA_COLOR_SCHEME");
+        QApplication::setStyle(u"fusion"_s);
+        QApplication::setPalette(QPalette());
+    }
+    static void install(const char* scheme)
+    {
+        qputenv("KESTA_COLOR_SCHEME", scheme);
+        InstallKestaStyle(*qApp);
+    }
+    static QColor pixel(QWidget& widget, QPoint at) { return widget.grab().toImage().pixelColor(at); }
+};
+
+TEST_F(StyleTest, AnotherStyleAndADesktopsColoursStayAsTheyAre)
+{
+    QApplication::setStyle(u"windows"_s);
+    install("dark");
+    EXPECT_EQ(QApplication::style()->name(), u"windows"_s);
+    EXPECT_NE(QApplication::palette().color(QPalette::Window), QColor(0x1F2226));
+
+    QApplication::setStyle(u"fusion"_s);
+    QPalette desktops = QApplication::palette();
+    desktops.setColor(QPalette::Window, QColor(0xD0E0D0));
+    QApplication::setPalette(desktops);
+    install("");
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), QColor(0xD0E0D0));
+    EXPECT_NE(QApplication::style()->metaObject()->className(), std::string("QFusionStyle"));
+}
+
+TEST_F(StyleTest, WithoutADesktopThePaletteIsOurs)
+{
+    install("");
+    EXPECT_EQ(QApplication::palette().color(QPalette::Highlight), QColor(0x4A5EE4));
+    install("dark");
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), QColor(0x1F2226));
+}
+
+TEST_F(StyleTest, ControlsHaveTheSizesOfTheLook)
+{
+    install("light");
+    const auto window = test::MakeGalleryWindow();
+    const auto size = [&](SInt32 number) {
+        QWidget& control = *FindControl(window.get(), {test::kGallery, number});
+        control.ensurePolished();
+        return control.sizeHint();
+    };
+    const int height = std::max(28, window->fontMetrics().height() + 10);
+    for (const SInt32 number : {1, 2, 3, 4, 101, 102, 104})
+        EXPECT_EQ(size(number).height(), height) << number;
+    EXPECT_EQ(size(4).width(), 32) << "an icon button";
+    EXPECT_EQ(size(2).width(), 88) << "a spin field";
+    EXPECT_EQ(GetWindowCancelButton(*window)->sizeHint().width(), 84);
+}
+
+TEST_F(StyleTest, LooksTakeTheirColoursFromThePalette)
+{
+    install("light");
+    const auto window = test::MakeGalleryWindow();
+    const QFont plain = window->font();
+    window->resize(640, 650);
+    window->show();
+    QLabel* label = LabelOf(*FindControl(window.get(), {test::kGallery, 101}));
+    EXPECT_EQ(label->palette().color(QPalette::WindowText), CurrentColors().text2);
+    EXPECT_EQ(FindControl(window.get(), {test::kGallery, 16})->font().weight(), QFont::DemiBold);
+    QWidget* pane = window->findChild<QWidget*>(u"pane"_s);
+    EXPECT_EQ(pixel(*pane, {8, 8}), CurrentColors().pane);
+    EXPECT_EQ(pixel(*pane, {8, 0}), CurrentColors().hairline);
+    EXPECT_EQ(pixel(*pane, {0, 8}), CurrentColors().pane) << "no hairline at the side";
+    QPushButton* print = GetWindowDefaultButton(*window);
+    EXPECT_EQ(pixel(*print, {10, 10}), CurrentColors().accent);
+    print->setEnabled(false);
+    EXPECT_NE(pixel(*print, {10, 10}), CurrentColors().accent);
+
+    install("dark");
+    ASSERT_TRUE(CurrentColors().dark);
+    EXPECT_EQ(pixel(*pane, {8, 8}), CurrentColors().pane) << "follows the palette";
+    EXPECT_EQ(label->palette().color(QPalette::WindowText), CurrentColors().text2);
+    SetLook(*label, "title");
+    EXPECT_EQ(label->palette().color(QPalette::WindowText), CurrentColors().text);
+    EXPECT_EQ(label->font().weight(), QFont::DemiBold);
+    SetLook(*label, "");
+    EXPECT_EQ(label->font(), plain);
+}
+
+TEST_F(StyleTest, AnInvalidFieldHasARingAndAMark)
+{
+    install("light");
+    const auto controls = test::MakeGalleryControls();
+    controls->show();
+    QWidget& field = *FindControl(controls.get(), {test::kGallery, 24});
+    const QPoint edge(field.width() / 2, 1);
+    EXPECT_NE(pixel(field, edge), CurrentColors().error);
+    SetInvalid(&field, true);
+    EXPECT_EQ(pixel(field, edge), CurrentColors().error);
+    const QRect mark(field.width() - 8 - 16, field.height() / 2 - 8, 16, 16);
+    const QImage picture = field.grab(mark).toImage();
+    int marked = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            marked += picture.pixelColor(x, y) == CurrentColors().error;
+    }
+    EXPECT_GT(marked, 10);
+    SetFieldText(&field, u"5"_s);
+    EXPECT_NE(pixel(field, edge), CurrentColors().error);
+}
+
+TEST_F(StyleTest, LabelsStayBesideTheirControlsFromRightToLeft)
+{
+    install("light");
+    QWidget window;
+    window.setLayoutDirection(Qt::RightToLeft);
+    auto* label = new QLabel(u"Latin"_s, &window);
+    window.show();
+    EXPECT_EQ(label->alignment() & Qt::AlignHorizontal_Mask, Qt::AlignRight | Qt::AlignAbsolute);
+}
+
+} // namespace
+} // namespace kesta
