@@ -17,7 +17,7 @@
 #include <functional>
 #include <thread>
 
-namespace kesta::multicastdns_test {
+namespace kesta::multicast_dns_test {
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -240,4 +240,4 @@ TEST(PrinterAddress, TakesTheFormThatTheRulesKnow)
 }
 
 } // namespace
-} // namespace kesta::multicastdns_test
+} // namespace kesta::multicast_dns_test
