@@ -1,17 +1,14 @@
-#include "host/DialogScript.h"
+// A dialog script: steps in their order, or one error and no step.
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
+#include "Input.h"
+#include "host/DialogScript.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
-    const QByteArray input(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size));
-    const kesta::host::DialogScript script = kesta::host::ParseDialogScript(input);
+    const kesta::host::DialogScript script = kesta::host::ParseDialogScript(kesta::fuzz::Bytes(bytes, size));
     int line = 0;
     for (const kesta::host::ScriptStep& step : script.steps) {
-        if (step.line <= line || !script.error.isEmpty()) // steps in order, and none beside an error
-            std::abort();
+        kesta::fuzz::Require(step.line > line && script.error.isEmpty());
         line = step.line;
         kesta::host::ComparableName(step.target.text);
     }

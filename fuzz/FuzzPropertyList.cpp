@@ -1,21 +1,14 @@
 // Whatever bytes: no crash, an answer that is either a value or one line, and a list that was read is written in a form
 // that reads back as the same bytes. Job settings are all or nothing.
 
+#include "Input.h"
 #include "platform/JobSettings.h"
 #include "platform/PropertyList.h"
 
-#include <cstdint>
-#include <cstdlib>
-
 using namespace kesta;
+using fuzz::Require;
 
 namespace {
-
-void Require(bool truth)
-{
-    if (!truth)
-        std::abort();
-}
 
 void CheckList(const QByteArray& bytes)
 {
@@ -43,7 +36,7 @@ void CheckSettings(const QByteArray& bytes)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+    const QByteArray bytes = fuzz::Bytes(data, size);
     CheckList(bytes);
     CheckSettings(bytes);
     return 0;

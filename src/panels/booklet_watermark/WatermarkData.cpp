@@ -114,7 +114,8 @@ void ReadGlyphs(std::vector<std::uint16_t>& glyphs, const Dictionary& stored)
     const qsizetype room = bytes->size() / static_cast<qsizetype>(sizeof(std::uint16_t));
     const SInt64 counted = CFDictionaryGetNumber<SInt64>(stored, kGlyphCountKey).value_or(room);
     glyphs.resize(static_cast<std::size_t>(std::clamp<SInt64>(counted, 0, room)));
-    qFromLittleEndian<std::uint16_t>(bytes->constData(), static_cast<qsizetype>(glyphs.size()), glyphs.data());
+    if (!glyphs.empty()) // null is no place to copy to, not even nothing
+        qFromLittleEndian<std::uint16_t>(bytes->constData(), static_cast<qsizetype>(glyphs.size()), glyphs.data());
 }
 
 } // namespace
