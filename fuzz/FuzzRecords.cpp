@@ -19,6 +19,25 @@ template <class Record> void CheckRecord(const Dictionary& input)
     Require(Record(written).asTicket() == written);
 }
 
+// Setters and copies keep what belongs together, together.
+void CheckStock(const Dictionary& input)
+{
+    const Stock read(input);
+    const Stock consistent(read);
+    Require(Stock(consistent) == consistent && (consistent.width() == kUnset || consistent.size() == kStockSizeCustom));
+    Stock set;
+    DefaultStock(set, read.source() == 1 ? JobContext::Job : JobContext::Insert);
+    set = read;
+    set.setSize(read.type());
+    set.setWidth(read.length());
+    set.setLength(read.width());
+    set.setType(read.color());
+    Require((set.width() == kUnset && set.length() == kUnset) || set.size() == kStockSizeCustom);
+    Require(set.type() != kStockTypeTransparency || set.color() == kStockColorClear);
+    const Cover cover = *static_cast<const Cover*>(Cover(input).clone().get());
+    Require(*static_cast<const Cover*>(cover.clone().get()) == cover);
+}
+
 // The offsets are rounded to the record's units once.
 void CheckImageShift(const Dictionary& input)
 {
@@ -44,13 +63,32 @@ void CheckWatermark(const Dictionary& input)
     _WatermarkData read, again;
     ReadWatermark(input, read);
     ReadWatermark(DictionaryFromWatermark(read), again);
-    Require(again == read);
+    Require(again == read && NameOf(read) == read.fileName.get());
+}
+
+void CheckFaxRecipients(const Array& input)
+{
+    FaxRecipientList list(input);
+    Require(FaxRecipientList(list.toTicket()).toTicket() == list.toTicket() && !list.recipientAtIndex(list.count()));
+    const std::size_t count = list.count();
+    for (std::size_t i = 0; i < count; ++i)
+        list.append(list.recipientAtIndex(i));
+    for (std::size_t i = 0; i < count; ++i) {
+        const FaxRecipientRef first(list.recipientAtIndex(0));
+        Require(list.containsRecipient(*first));
+        list.remove(first.get());
+    }
+    list.removeAll();
+    Require(list.count() == 0);
 }
 
 void CheckFaxRecipient(const Dictionary& input)
 {
     const FaxRecipient recipient(input);
     Require(FaxRecipient(recipient.toTicket()).toTicket() == recipient.toTicket());
+    FaxRecipient assigned;
+    assigned = recipient;
+    Require(assigned.toTicket() == recipient.toTicket());
     const QString number = recipient.faxNumber().value_or(QString());
     const QString dialed = CopyDialingStringFromFaxNumber(number);
     Require(CopyDialingStringFromFaxNumber(dialed) == dialed);
@@ -63,6 +101,7 @@ void CheckEveryRecord(const Dictionary& input)
     CheckRecord<Stock>(input);
     CheckRecord<Cover>(input);
     CheckRecord<Insert>(input);
+    CheckStock(input);
     CheckRecord<FullColorOptions>(input);
     const ExceptionPage exception(input);
     Require(ExceptionPage(exception.asTicket()).startPage() == exception.startPage());
@@ -81,6 +120,10 @@ void CheckExceptions(const Array& input)
             const ExceptionPage page(*ticket);
             Require(list.add({&page}) == noErr && list.indexOfPage(&page) == -1);
         }
+    Require(list.clone()->asTicket() == list.asTicket());
+    const Cover cover;
+    Require(list.add({&cover}) == kMissingArgument && InsertList().add({&cover}) == kMissingArgument);
+    Require(list.update(list.pageAtIndex(0), {&cover}) == (list.count() == 0 ? noErr : kMissingArgument));
     SInt64 last = std::numeric_limits<SInt64>::min();
     for (CFIndex i = 0; const SpecialPage* page = list.pageAtIndex(i); ++i) {
         Require(page->startPage() > last);
@@ -100,7 +143,9 @@ void CheckInserts(const Array& input)
     for (CFIndex i = 0; const SpecialPage* page = list.pageAtIndex(i); ++i)
         static_cast<const Insert*>(page)->quantity() % 2 ? list.promote(page) : list.demote(page);
     const std::size_t count = list.count();
-    Require(list.clone()->asTicket() == list.asTicket() && (count == 0) == !list.asTicket());
+    const auto copy = list.clone();
+    Require(copy->asTicket() == list.asTicket() && (count == 0) == !list.asTicket());
+    Require(copy->update(nullptr, {}) == noErr && copy->remove(nullptr) == -1 && copy->count() == count);
     if (SpecialPage* first = list.pageAtIndex(0)) {
         const Insert insert;
         Require(list.update(first, {&insert, &insert}) == noErr && list.count() == count + 1);
@@ -113,8 +158,7 @@ void CheckArray(const Array& input)
 {
     CheckExceptions(input);
     CheckInserts(input);
-    const FaxRecipientList list(input);
-    Require(FaxRecipientList(list.toTicket()).toTicket() == list.toTicket());
+    CheckFaxRecipients(input);
     for (const Value& entry : input)
         if (const Dictionary* ticket = entry.dictionary())
             CheckEveryRecord(*ticket);

@@ -13,8 +13,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ParseJobOptions(bytes, options);
     const DecodedTicket decoded = DecodeTicket(options);
     Require(decoded.propertyList.isEmpty() != decoded.problem.isEmpty());
-    for (const JobOption& option : options)
+    for (const JobOption& option : JobOptions(options)) {
         JobOptionFault(option);
+        Require(FindJobOption(options, option.name) == option.value);
+        SetJobOption(options, option.name, {});
+        RemoveJobOption(options, option.name);
+    }
+    Require(options.empty());
 
     const EncodedTicket sent = EncodeTicket(bytes);
     Require(sent.options.empty() != sent.problem.isEmpty());
