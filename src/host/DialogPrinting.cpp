@@ -69,6 +69,9 @@ void PrintDialog::storeInTickets()
     WriteTickets(fields_->settings(), tickets_.printSettings, tickets_.pageFormat);
     if (pane_)
         pane_->syncToTickets();
+    const PPDFacts facts = ReadPPDFacts(printer_ ? printer_->ppd.path : QString(), tickets_.printSettings.ppdDict());
+    if (facts.paper) // a panel may have chosen another page size
+        WritePaperRect(*facts.paper, tickets_.pageFormat);
 }
 
 // False: the user goes back to the dialog.

@@ -28,9 +28,9 @@ void SetJobOption(JobOptions& options, QAnyStringView name, const QString& value
 
 void RemoveJobOption(JobOptions& options, QAnyStringView name);
 
-// Adds what "name=value name2='a value' flag noflag" holds, as lp's -o does; a later value replaces an earlier one; otherwise
-// the order of one text's options is the library's.
-// The form is also that of the options string that the print server hands to a filter.
+// Adds what "name=value name2='a value' flag noflag" holds, as lp's -o does; a later value replaces an earlier one;
+// otherwise the order of one text's options is the library's. The form is also that of the options string that the
+// print server hands to a filter.
 void ParseJobOptions(const QByteArray& text, JobOptions& options);
 
 // Why a name or value can't travel to the print server unharmed; nothing when it can.

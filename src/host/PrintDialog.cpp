@@ -187,14 +187,14 @@ EventResult PrintDialog::handleCommand(const CommandEvent& command)
 
 bool PrintDialog::syncPane(bool toControls)
 {
-    if (toControls)
-        fields_->show(ReadTickets(tickets_.printSettings, tickets_.pageFormat));
-    else
-        WriteTickets(fields_->settings(), tickets_.printSettings, tickets_.pageFormat);
-    if (!pane_)
-        return false;
-    toControls ? pane_->syncToControls() : pane_->syncToTickets();
-    return true;
+    if (!toControls) {
+        storeInTickets();
+        return pane_.has_value();
+    }
+    fields_->show(ReadTickets(tickets_.printSettings, tickets_.pageFormat));
+    if (pane_)
+        pane_->syncToControls();
+    return pane_.has_value();
 }
 
 QByteArray PrintDialog::jobSettings() const

@@ -14,18 +14,19 @@ constexpr QLatin1String kPPD("PPD");
 constexpr QLatin1String kClients("Clients");
 
 struct NamedTicket {
-    QLatin1String name;
+    const char* name;
     Ticket JobTickets::*ticket;
 };
 constexpr auto kTickets = std::to_array<NamedTicket>({
-    {QLatin1String(kPMPrintSettingsTicket), &JobTickets::printSettings},
-    {QLatin1String(kPMPageFormatTicket), &JobTickets::pageFormat},
-    {QLatin1String(kPMPrinterInfoTicket), &JobTickets::printerInfo},
+    {kPMPrintSettingsTicket, &JobTickets::printSettings},
+    {kPMPageFormatTicket, &JobTickets::pageFormat},
+    {kPMPrinterInfoTicket, &JobTickets::printerInfo},
 });
 
 bool IsTicketName(const QString& name)
 {
-    return std::any_of(kTickets.begin(), kTickets.end(), [&name](const NamedTicket& row) { return name == row.name; });
+    return std::any_of(kTickets.begin(), kTickets.end(),
+                       [&name](const NamedTicket& row) { return name == QLatin1String(row.name); });
 }
 
 Dictionary ClientsOf(const Ticket& ticket)
@@ -102,7 +103,7 @@ Problem Check(const Dictionary& root)
 }
 
 // From a list that has been checked.
-void Fill(Ticket& ticket, QLatin1String name, const Dictionary& root)
+void Fill(Ticket& ticket, QAnyStringView name, const Dictionary& root)
 {
     const Dictionary* entries = root.dictionary(name);
     const Dictionary* allClients = root.dictionary(kClients);

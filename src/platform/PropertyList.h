@@ -20,8 +20,8 @@ struct PropertyListResult {
 
 // Reads an XML property list in UTF-8. An <integer> becomes a number of index type, a <real> one of type Float64, a
 // <date> whole seconds. Nothing is guessed: numbers out of range, dates that are none, bad base64, duplicate keys and
-// unknown elements refuse the whole list. So do entity declarations and any DOCTYPE but a plain one named plist;
-// nothing that a DOCTYPE points to is ever read.
+// unknown elements and attributes refuse the whole list. So do entity declarations and any DOCTYPE but a plain one
+// named plist; nothing that a DOCTYPE points to is ever read.
 PropertyListResult ParsePropertyList(const QByteArray& xml, const PropertyListLimits& limits = {});
 
 // The same value always gives the same bytes: keys in order of their UTF-16 units, reals with the fewest digits that

@@ -41,6 +41,22 @@ std::optional<QString> ForeignDoctype(const QString& text)
                          QStringLiteral("only a plain DOCTYPE named plist is accepted"));
 }
 
+// Any attribute but the version of plist is refused likewise: the XML reader's time grows with their square.
+std::optional<QString> ForeignAttribute(const QString& text)
+{
+    static const QRegularExpression withAttributes(QStringLiteral(R"(<[^\s<>/!?]++\s++[^\s/>])"));
+    static const QRegularExpression plain(QStringLiteral(R"(<plist\s++version\s*+=\s*+["'][0-9.]{1,10}["']\s*+>)"));
+    QRegularExpressionMatch match;
+    for (qsizetype at = 0; (at = text.indexOf(withAttributes, at, &match)) >= 0; at += match.capturedLength()) {
+        const bool isPlain =
+            plain.match(text, at, QRegularExpression::NormalMatch, QRegularExpression::AnchorAtOffsetMatchOption)
+                .hasMatch();
+        if (!isPlain)
+            return ErrorAtOffset(text, at, QStringLiteral("an element with attributes"));
+    }
+    return std::nullopt;
+}
+
 std::optional<QString> TextItself(QStringView text)
 {
     return text.toString();
@@ -275,6 +291,8 @@ PropertyListResult ParsePropertyList(const QByteArray& xml, const PropertyListLi
     if (decoder.hasError())
         return {std::nullopt, ErrorAt(1, 1, QStringLiteral("not UTF-8"))};
     if (const std::optional<QString> foreign = ForeignDoctype(text))
+        return {std::nullopt, *foreign};
+    if (const std::optional<QString> foreign = ForeignAttribute(text))
         return {std::nullopt, *foreign};
     return Reader(text, limits).read();
 }

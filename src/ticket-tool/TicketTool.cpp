@@ -30,6 +30,7 @@ The exit status is 0, or 1 after an error.
 // The print server stops a job whose options are longer than 128 KiB.
 constexpr qsizetype kLongestOptions = 1 << 20;
 constexpr int kDeepestPath = 64;
+constexpr qsizetype kLongestPath = 1000; // characters
 
 Outcome Fail(const QString& reason)
 {
@@ -105,7 +106,7 @@ QByteArray ElementText(const Value& value)
 
 const Value* FindEntry(const Value& root, const QString& path)
 {
-    return FindWithin(root, path, 0);
+    return path.size() <= kLongestPath ? FindWithin(root, path, 0) : nullptr;
 }
 
 QByteArray WriteEntry(const Value& value)

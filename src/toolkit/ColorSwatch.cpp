@@ -4,6 +4,7 @@
 #include "toolkit/ControlEvent.h"
 #include "toolkit/KestaColors.h"
 #include "toolkit/ModalLoop.h"
+#include "toolkit/Pictures.h"
 
 #include <QColorDialog>
 #include <QPointer>
@@ -69,7 +70,7 @@ void ColorSwatch::paintEvent(QPaintEvent*)
     painter.drawControl(QStyle::CE_PushButtonBevel, option);
     const KestaColors colors = ColorsOf(palette());
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setOpacity(isEnabled() ? 1 : 0.4);
+    painter.setOpacity(isEnabled() ? 1 : kDisabledPictureOpacity);
     painter.setPen(colors.field);
     painter.setBrush(color_);
     const int inset = kSwatchInset;

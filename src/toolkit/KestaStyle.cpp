@@ -68,7 +68,7 @@ bool IsNobodysPalette(const QPalette& palette, const QPalette& defaults)
 
 void SetTextColor(QWidget& widget, const QColor& color, const QColor& disabled)
 {
-    QPalette palette = widget.palette();
+    QPalette palette; // of these roles alone, so that the others follow the application's
     palette.setColor(QPalette::WindowText, color);
     palette.setColor(QPalette::Disabled, QPalette::WindowText, disabled);
     widget.setPalette(palette);
@@ -84,7 +84,7 @@ void ApplyLook(QWidget& widget, const QByteArray& look)
         font.setWeight(QFont::DemiBold);
         widget.setFont(font);
     } else if (look == "pane") {
-        QPalette palette = widget.palette();
+        QPalette palette;
         palette.setColor(QPalette::Window, colors.pane);
         widget.setPalette(palette);
         widget.setAutoFillBackground(true);

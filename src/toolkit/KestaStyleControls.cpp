@@ -1,5 +1,6 @@
 #include "toolkit/KestaProxyStyle.h"
 #include "toolkit/KestaStyleDrawing.h"
+#include "toolkit/Pictures.h"
 
 #include <QAbstractScrollArea>
 #include <QFrame>
@@ -9,9 +10,8 @@
 namespace kesta {
 namespace {
 
-constexpr int kMarkSize = 16; // points, of the mark inside an invalid field
+constexpr int kInvalidMarkSize = 16; // points, of the mark inside an invalid field
 constexpr double kBoxRadius = 4;
-constexpr double kDisabledOpacity = 0.4; // of pictures
 
 bool IsEnabled(const QStyleOption& option)
 {
@@ -61,6 +61,17 @@ void DrawPressable(const QStyleOption& option, QPainter& painter)
         DrawRing(painter, option.rect, colors.accent);
 }
 
+void DrawBevel(const QStyleOptionButton& button, QPainter& painter)
+{
+    DrawPressable(button, painter);
+    if (!(button.features & QStyleOptionButton::HasMenu))
+        return;
+    const KestaColors colors = CurrentColors();
+    const QRect arrow = button.rect.adjusted(button.rect.width() - kArrowWidth, 0, 0, 0);
+    DrawChevron(painter, QStyle::visualRect(button.direction, button.rect, arrow), Direction::Down,
+                IsEnabled(button) ? colors.text : colors.disabled, false);
+}
+
 // Anything that is typed into.
 void DrawField(const QStyleOption& option, QPainter& painter, const QWidget* widget)
 {
@@ -70,8 +81,8 @@ void DrawField(const QStyleOption& option, QPainter& painter, const QWidget* wid
     DrawOutlined(painter, option.rect, fill, IsEnabled(option) ? colors.field : colors.hairline);
     if (invalid) {
         DrawRing(painter, option.rect, colors.error);
-        const QRect mark(option.rect.right() - kTextInset - kMarkSize + 1, option.rect.center().y() - kMarkSize / 2 + 1,
-                         kMarkSize, kMarkSize);
+        const QRect mark(option.rect.right() - kTextInset - kInvalidMarkSize + 1,
+                         option.rect.center().y() - kInvalidMarkSize / 2 + 1, kInvalidMarkSize, kInvalidMarkSize);
         if (qstyleoption_cast<const QStyleOptionFrame*>(&option)) // others have their arrows there
             DrawCautionMark(painter, QStyle::visualRect(option.direction, option.rect, mark), colors.error);
     } else if (option.state & QStyle::State_HasFocus) {
@@ -220,7 +231,7 @@ void KestaProxyStyle::drawButtonLabel(const QStyleOptionButton& button, QPainter
         const QRect inner = button.rect.adjusted(kGap - 2, 0, -kGap, 0);
         const QRect icon = alignedRect(button.direction, Qt::AlignLeft | Qt::AlignVCenter, {48, 48}, inner);
         painter.save();
-        painter.setOpacity(IsEnabled(button) ? 1 : kDisabledOpacity);
+        painter.setOpacity(IsEnabled(button) ? 1 : kDisabledPictureOpacity);
         button.icon.paint(&painter, icon);
         painter.restore();
         const QRect text = visualRect(button.direction, inner, inner.adjusted(48 + kGap - 4, 0, 0, 0));
@@ -241,16 +252,9 @@ void KestaProxyStyle::drawControl(ControlElement element, const QStyleOption* op
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
     switch (element) {
     case CE_PushButtonBevel:
-        if (!button)
-            break;
-        DrawPressable(*button, *painter);
-        if (button->features & QStyleOptionButton::HasMenu) {
-            const QRect arrow(option->rect.right() - kArrowWidth + 1, option->rect.top(), kArrowWidth,
-                              option->rect.height());
-            DrawChevron(*painter, visualRect(option->direction, option->rect, arrow), Direction::Down,
-                        IsEnabled(*option) ? CurrentColors().text : CurrentColors().disabled, false);
-        }
-        return;
+        if (button)
+            return DrawBevel(*button, *painter);
+        break;
     case CE_PushButtonLabel:
         if (button)
             return drawButtonLabel(*button, *painter, widget);

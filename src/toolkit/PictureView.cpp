@@ -11,7 +11,6 @@ namespace kesta {
 namespace {
 
 constexpr QSize kPictureSize{48, 48};
-constexpr qreal kDisabledOpacity = 0.4;
 
 } // namespace
 
@@ -52,7 +51,7 @@ void PictureView::paintEvent(QPaintEvent*)
     QPainter painter(this);
     if (SendControlEvent(*this, DrawEvent{.painter = &painter, .bounds = rect()}) != EventResult::NotHandled)
         return;
-    painter.setOpacity(isEnabled() ? 1 : kDisabledOpacity);
+    painter.setOpacity(isEnabled() ? 1 : kDisabledPictureOpacity);
     for (const QString& name : names_) {
         const QPixmap picture = PictureNamed(QDir(folder_).filePath(name), devicePixelRatioF());
         const QSizeF size = picture.deviceIndependentSize();

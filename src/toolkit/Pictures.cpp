@@ -22,7 +22,6 @@ constexpr char kInkPlaceholder[] = "#010203";
 constexpr QRgb kInk = qRgb(1, 2, 3);
 constexpr qint64 kLargestFile = 8 << 20; // bytes
 constexpr int kLargestSide = 4096;       // pixels
-constexpr qreal kDisabledOpacity = 0.4;
 
 QByteArray Contents(const QString& name)
 {
@@ -131,7 +130,7 @@ private:
         pale.setDevicePixelRatio(picture.devicePixelRatio());
         pale.fill(Qt::transparent);
         QPainter painter(&pale);
-        painter.setOpacity(kDisabledOpacity);
+        painter.setOpacity(kDisabledPictureOpacity);
         painter.drawPixmap(0, 0, picture);
         return pale;
     }

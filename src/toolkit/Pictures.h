@@ -8,6 +8,8 @@ namespace kesta {
 
 struct Bundle;
 
+inline constexpr double kDisabledPictureOpacity = 0.4;
+
 // The folder of a bundle's pictures.
 QString PictureFolder(const Bundle& bundle);
 

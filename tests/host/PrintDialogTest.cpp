@@ -3,6 +3,7 @@
 #include "host/DialogSummary.h"
 #include "host/PrintDialogControls.h"
 #include "host/PrintDialogFixture.h"
+#include "platform/FileChooser.h"
 #include "platform/SafeFile.h"
 #include "support/PPDVariant.h"
 #include "support/TestTexts.h"
@@ -134,6 +135,53 @@ TEST_F(PrintDialogTest, AFileThatCantBeWrittenKeepsTheDialogOpen)
 {
     options.saveSettingsPath = u"/nowhere/saved.plist"_s;
     EXPECT_EQ(run("type Copies 4\nprint\nexpect \"Saving Failed Title\"\npress OK\nexpect-value Copies 4\ncancel"), 1);
+    EXPECT_EQ(fault, QString());
+}
+
+class FakeChooser : public FileChooser {
+public:
+    std::optional<QString> open(const FileQuestion&) override { return std::nullopt; }
+    std::optional<QString> save(const FileQuestion&) override
+    {
+        ++questions;
+        return answer;
+    }
+
+    std::optional<QString> answer;
+    int questions = 0;
+};
+
+TEST_F(PrintDialogTest, AsksForAFileWhenNoneWasNamed)
+{
+    FakeChooser chooser;
+    const WhileInstalled installed(chooser);
+    const QString chosen = folder.filePath(u"chosen.plist"_s);
+    options.ppdPath.clear(); // with a queue there are both buttons
+    options.server = folder.filePath(u"no-server"_s);
+    options.saveSettingsPath.clear();
+    EXPECT_EQ(run("type Copies 9\npress \"Save Settings\"\ncancel"), 0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_EQ(chooser.questions, 1);
+    EXPECT_FALSE(QFile::exists(chosen)); // the question was cancelled
+
+    chooser.answer = chosen;
+    EXPECT_EQ(run("type Copies 9\ntype Pages 0\npress \"Save Settings\"\npress OK\n"
+                  "type Pages 4\npress \"Save Settings\"\ncancel"),
+              0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_EQ(chooser.questions, 2);
+    options.saveSettingsPath = chosen;
+    JobTickets saved;
+    readSaved(saved);
+    const HostSettings settings = ReadTickets(saved.printSettings, saved.pageFormat);
+    EXPECT_EQ(settings.copies, 9);
+    EXPECT_EQ(settings.pageRanges, u"4"_s);
+}
+
+TEST_F(PrintDialogTest, TypedPagesAreOfferedNextTime)
+{
+    EXPECT_EQ(run("type Pages \"2-5\"\nprint"), 0);
+    EXPECT_EQ(run("expect-value Pages All\nchoose Pages \"2-5\"\nexpect-value Pages \"2-5\"\ncancel"), 0);
     EXPECT_EQ(fault, QString());
 }
 

@@ -116,6 +116,7 @@ TEST(PropertyList, RefusalsSayWhereAndWhy)
         {"<true/>\n<true/>", "more than one value"},
         {"words", "text outside of a value"},
         {"<set/>", "unknown element set"},
+        {"<string\nid='1'>a</string>", "an element with attributes"},
         {"<dict><key>a</key></dict>", "a key without a value"},
         {"<dict><key>a</key><key>b</key></dict>", "a key without a value"},
         {"<dict><string>a</string></dict>", "a value without a key"},
@@ -183,6 +184,12 @@ TEST(PropertyList, WorkIsBounded)
     EXPECT_TRUE(ParsePropertyList(nested(100)).value);
     EXPECT_TRUE(ParsePropertyList(nested(101)).error.endsWith(u"nested too deeply"));
     EXPECT_FALSE(ParsePropertyList(List(QByteArray("<array>").repeated(1'000'000))).value);
+
+    QByteArray attributes;
+    for (int i = 0; i < 200'000; ++i)
+        attributes += " a" + QByteArray::number(i) + "='>'"; // minutes for the XML reader
+    EXPECT_EQ(ParsePropertyList("<plist" + attributes + "><true/></plist>").error,
+              QStringLiteral("line 1, column 1: an element with attributes"));
 
     const QByteArray three = List("<array><true/><true/></array>");
     EXPECT_TRUE(ParsePropertyList(three, {.values = 3}).value);

@@ -5,6 +5,7 @@
 #include "toolkit/ColorSwatch.h"
 #include "toolkit/ControlProperties.h"
 #include "toolkit/GalleryWindow.h"
+#include "toolkit/Keys.h"
 #include "toolkit/ListView.h"
 #include "toolkit/Mnemonics.h"
 #include "toolkit/SummaryTextView.h"
@@ -14,7 +15,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -126,8 +126,7 @@ TEST_F(GalleryTest, HandlersSeeKeysBeforeTheControl)
         return key.key == Qt::Key_Return ? EventResult::Handled : EventResult::NotHandled;
     });
     for (const auto& [key, text] : {std::pair{Qt::Key_A, u"a"_s}, std::pair{Qt::Key_Return, u"\r"_s}}) {
-        QKeyEvent press(QEvent::KeyPress, key, {}, text);
-        QApplication::sendEvent(&notes, &press);
+        test::PressKey(notes, key, text);
     }
     EXPECT_EQ(keys, (std::vector<int>{Qt::Key_A, Qt::Key_Return}));
     EXPECT_EQ(notes.toPlainText(), u"a"_s);
@@ -226,13 +225,6 @@ TEST(InterfaceFile, SaysWhatIsWrongWithAFile)
     EXPECT_NE(testing::internal::GetCapturedStderr().find("Missing.ui"), std::string::npos);
 }
 
-void PressKey(QWidget& window, int key)
-{
-    QWidget* target = window.focusWidget() ? window.focusWidget() : &window;
-    QKeyEvent press(QEvent::KeyPress, key, {});
-    QApplication::sendEvent(target, &press);
-}
-
 TEST_F(GalleryTest, ReturnAndEscapePressTheWindowsButtons)
 {
     QStringList pressed;
@@ -246,11 +238,11 @@ TEST_F(GalleryTest, ReturnAndEscapePressTheWindowsButtons)
     test::ModalUser user;
     user.then([&](QWidget& front) {
         get<QWidget>(window, 101).setFocus();
-        PressKey(front, Qt::Key_Return);
+        test::PressKeyInWindow(front, Qt::Key_Return);
         window->findChild<QPushButton*>(u"help"_s)->setFocus();
-        PressKey(front, Qt::Key_Return);
+        test::PressKeyInWindow(front, Qt::Key_Return);
         EXPECT_EQ(FrontModalWindow(), &front);
-        PressKey(front, Qt::Key_Escape);
+        test::PressKeyInWindow(front, Qt::Key_Escape);
     });
     EXPECT_EQ(RunModalLoop(*window), ModalResult::Cancel);
     EXPECT_EQ(pressed, (QStringList{u"ok"_s, u"help"_s, u"cancel"_s}));

@@ -98,6 +98,7 @@ TEST_F(StyleTest, LooksTakeTheirColoursFromThePalette)
     EXPECT_NE(pixel(*print, {10, 10}), CurrentColors().accent);
 
     install("dark");
+    QApplication::processEvents(); // windows are told later
     ASSERT_TRUE(CurrentColors().dark);
     EXPECT_EQ(pixel(*pane, {8, 8}), CurrentColors().pane) << "follows the palette";
     EXPECT_EQ(label->palette().color(QPalette::WindowText), CurrentColors().text2);

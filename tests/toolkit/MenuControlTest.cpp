@@ -1,5 +1,6 @@
 #include "support/TestTexts.h"
 #include "support/User.h"
+#include "toolkit/Keys.h"
 #include "toolkit/MenuButton.h"
 #include "toolkit/Mnemonics.h"
 
@@ -7,7 +8,6 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QTimer>
@@ -16,12 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace kesta {
 namespace {
-
-void Key(QWidget& widget, int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {})
-{
-    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
-    QApplication::sendEvent(&widget, &press);
-}
 
 Menu PaperMenu()
 {
@@ -48,24 +42,24 @@ protected:
 
 TEST_F(PopupKeys, ArrowsGoToTheNextItemThatCanBeChosen)
 {
-    Key(popup, Qt::Key_Down);
-    Key(popup, Qt::Key_Down);
-    Key(popup, Qt::Key_Down);
+    test::PressKey(popup, Qt::Key_Down);
+    test::PressKey(popup, Qt::Key_Down);
+    test::PressKey(popup, Qt::Key_Down);
     EXPECT_EQ(chosen, (std::vector<SInt32>{2, 5})) << "then only a submenu and an item above the maximum are left";
-    Key(popup, Qt::Key_Home);
-    Key(popup, Qt::Key_Up);
-    Key(popup, Qt::Key_End);
+    test::PressKey(popup, Qt::Key_Home);
+    test::PressKey(popup, Qt::Key_Up);
+    test::PressKey(popup, Qt::Key_End);
     EXPECT_EQ(chosen, (std::vector<SInt32>{2, 5, 1, 5}));
 }
 
 TEST_F(PopupKeys, TypingTheBeginningOfATitleChoosesIt)
 {
-    Key(popup, Qt::Key_L, u"l"_s);
+    test::PressKey(popup, Qt::Key_L, u"l"_s);
     EXPECT_EQ(popup.value(), 2) << "the next one with that letter";
-    Key(popup, Qt::Key_E, u"e"_s);
-    Key(popup, Qt::Key_D, u"d"_s);
+    test::PressKey(popup, Qt::Key_E, u"e"_s);
+    test::PressKey(popup, Qt::Key_D, u"d"_s);
     EXPECT_EQ(popup.text(), u"Ledger"_s);
-    Key(popup, Qt::Key_X, u"x"_s);
+    test::PressKey(popup, Qt::Key_X, u"x"_s);
     EXPECT_EQ(popup.text(), u"Ledger"_s);
     popup.setEnabled(false);
     EXPECT_FALSE(popup.chooseItem(1));
@@ -101,12 +95,12 @@ TEST_F(PopupKeys, SpaceF4AndAltDownOpenTheMenu)
         EXPECT_FALSE(menu.actions()[6]->isEnabled()) << "above the maximum";
         menu.actions()[4]->trigger();
     });
-    Key(popup, Qt::Key_Space, u" "_s);
+    test::PressKey(popup, Qt::Key_Space, u" "_s);
     EXPECT_EQ(chosen, std::vector<SInt32>{5});
     WhileOpen([](QMenu&) {});
-    Key(popup, Qt::Key_F4);
+    test::PressKey(popup, Qt::Key_F4);
     WhileOpen([](QMenu&) {});
-    Key(popup, Qt::Key_Down, {}, Qt::AltModifier);
+    test::PressKey(popup, Qt::Key_Down, {}, Qt::AltModifier);
     EXPECT_EQ(opened, 3);
 }
 

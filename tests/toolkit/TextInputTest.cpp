@@ -3,6 +3,7 @@
 #include "support/TestTexts.h"
 #include "toolkit/ControlEvent.h"
 #include "toolkit/HistoryComboBox.h"
+#include "toolkit/Keys.h"
 #include "toolkit/SpinField.h"
 #include "toolkit/TextArea.h"
 
@@ -10,7 +11,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QKeyEvent>
 #include <QLineEdit>
 
 #include <functional>
@@ -19,18 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace kesta {
 namespace {
-
-void Key(QWidget& widget, int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {})
-{
-    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
-    QApplication::sendEvent(&widget, &press);
-}
-
-void TypeKeys(QWidget& widget, const QString& text)
-{
-    for (const QChar c : text)
-        Key(widget, c.toUpper().unicode(), c);
-}
 
 // Lets in what fits into four characters.
 class FourCharacters {
@@ -103,7 +91,6 @@ protected:
     FourCharacters limit{*field};
 
     void select(int first, int count) { GetParam().select(*field, first, count); }
-    QWidget& keys() { return qobject_cast<QComboBox*>(field.get()) ? *field : *field; }
 };
 
 TEST_P(EveryTextField, AChunkThatIsRefusedLeavesTheFieldAsItWas)
@@ -125,17 +112,17 @@ TEST_P(EveryTextField, AChunkThatIsRefusedLeavesTheFieldAsItWas)
 
 TEST_P(EveryTextField, KeysAndTheClipboardAreAskedForAlike)
 {
-    TypeKeys(keys(), u"abcde"_s);
+    test::TypeKeys(*field, u"abcde"_s);
     EXPECT_EQ(FieldText(field.get()), u"abcd"_s);
-    Key(keys(), Qt::Key_Backspace, u"\b"_s);
+    test::PressKey(*field, Qt::Key_Backspace, u"\b"_s);
     EXPECT_EQ(FieldText(field.get()), u"abc"_s);
     EXPECT_EQ(limit.edits.size(), 5);
 
     QApplication::clipboard()->setText(u"yz"_s);
-    Key(keys(), Qt::Key_V, u"\x16"_s, Qt::ControlModifier);
+    test::PressKey(*field, Qt::Key_V, u"\x16"_s, Qt::ControlModifier);
     EXPECT_EQ(FieldText(field.get()), u"abc"_s) << "two do not fit";
     QApplication::clipboard()->setText(u"z"_s);
-    Key(keys(), Qt::Key_V, u"\x16"_s, Qt::ControlModifier);
+    test::PressKey(*field, Qt::Key_V, u"\x16"_s, Qt::ControlModifier);
     EXPECT_EQ(FieldText(field.get()), u"abcz"_s);
 }
 
@@ -146,9 +133,9 @@ TEST_P(EveryTextField, ATextFromCodeOverTheLimitDoesNotOpenTheGate)
     TypeIntoField(field.get(), u"7"_s);
     EXPECT_EQ(FieldText(field.get()), u"123456"_s);
     select(0, 6);
-    Key(keys(), Qt::Key_Backspace, u"\b"_s);
+    test::PressKey(*field, Qt::Key_Backspace, u"\b"_s);
     EXPECT_EQ(FieldText(field.get()), QString());
-    TypeKeys(keys(), u"ab"_s);
+    test::TypeKeys(*field, u"ab"_s);
     EXPECT_EQ(FieldText(field.get()), u"ab"_s);
 }
 
@@ -173,7 +160,7 @@ TEST(Invalid, GoesAwayWithTheNextEdit)
     SetInvalid(&field, true);
     EXPECT_TRUE(field.property("invalid").toBool());
     EXPECT_EQ(field.selectedText(), u"12"_s);
-    TypeKeys(field, u"3"_s);
+    test::TypeKeys(field, u"3"_s);
     EXPECT_FALSE(field.property("invalid").toBool());
     SetInvalid(nullptr, true);
 }
@@ -200,8 +187,8 @@ TEST(HistoryComboBox, KeepsAFixedEntryAndATextThatReadsLikeItApart)
     EXPECT_EQ(combo.fixedValue(), 4);
     EXPECT_TRUE(combo.typedText().isNull());
     combo.lineEdit()->selectAll();
-    TypeKeys(combo, u"None"_s);
-    Key(combo, Qt::Key_Return, u"\r"_s);
+    test::TypeKeys(combo, u"None"_s);
+    test::PressKey(combo, Qt::Key_Return, u"\r"_s);
     EXPECT_EQ(combo.fixedValue(), std::nullopt);
     EXPECT_EQ(combo.typedText(), u"None"_s);
     EXPECT_TRUE(events.isEmpty());
@@ -238,7 +225,7 @@ TEST(SpinField, CountsInTheUnitsOfItsDecimals)
         EXPECT_EQ(spin.number(), 10);
         EXPECT_TRUE(hits.empty()) << "only the user sends events";
         spin.stepDown();
-        Key(spin, Qt::Key_Down);
+        test::PressKey(spin, Qt::Key_Down);
         EXPECT_EQ(hits, (std::vector<SInt32>{9, 8}));
 
         spin.setLimits(1, 9999999);

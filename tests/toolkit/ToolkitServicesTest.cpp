@@ -6,13 +6,13 @@
 #include "support/TestTexts.h"
 #include "support/User.h"
 #include "toolkit/HelpWindow.h"
+#include "toolkit/Keys.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -22,13 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace kesta {
 namespace {
-
-void PressKey(QWidget& window, int key)
-{
-    QWidget* target = window.focusWidget() ? window.focusWidget() : &window;
-    QKeyEvent press(QEvent::KeyPress, key, {});
-    QApplication::sendEvent(target, &press);
-}
 
 class ServicesTest : public testing::Test {
 protected:
@@ -54,10 +47,10 @@ TEST_F(ServicesTest, ANoticeIsReadAndClosed)
         EXPECT_EQ(texts(window), (QStringList{u"No paper <b>"_s, u"Fill tray 1."_s}));
         ASSERT_EQ(window.findChildren<QPushButton*>().size(), 1);
         EXPECT_EQ(window.focusWidget(), GetWindowDefaultButton(window));
-        PressKey(window, Qt::Key_Return);
+        test::PressKeyInWindow(window, Qt::Key_Return);
     });
     GetNotices().show({.title = u"No paper <b>"_s, .message = u"Fill tray 1."_s});
-    user.then([](QWidget& window) { PressKey(window, Qt::Key_Escape); });
+    user.then([](QWidget& window) { test::PressKeyInWindow(window, Qt::Key_Escape); });
     GetNotices().show({.title = u"No paper"_s, .message = {}, .button = u"Go on"_s});
 }
 
@@ -67,7 +60,7 @@ TEST_F(ServicesTest, AnAlertAnswersWithTheButtonThatWasPressed)
                       .message = u"All leave the list."_s,
                       .buttons = {u"No"_s, u"Yes"_s, u"Later"_s},
                       .cancelButton = 0};
-    user.then([](QWidget& window) { PressKey(window, Qt::Key_Return); });
+    user.then([](QWidget& window) { test::PressKeyInWindow(window, Qt::Key_Return); });
     EXPECT_EQ(GetNotices().ask(alert), 0);
     user.then([](QWidget& window) {
         for (QPushButton* button : window.findChildren<QPushButton*>()) {
@@ -77,7 +70,7 @@ TEST_F(ServicesTest, AnAlertAnswersWithTheButtonThatWasPressed)
         ADD_FAILURE() << "no such button";
     });
     EXPECT_EQ(GetNotices().ask(alert), 1);
-    user.then([](QWidget& window) { PressKey(window, Qt::Key_Escape); });
+    user.then([](QWidget& window) { test::PressKeyInWindow(window, Qt::Key_Escape); });
     EXPECT_EQ(GetNotices().ask(alert), 0);
     user.then([](QWidget& window) { window.close(); });
     Alert lastCancels = alert;
@@ -134,7 +127,7 @@ TEST_F(HelpTest, StaysUsableBesideAModalDialogAndClosesWithEscape)
         EXPECT_EQ(help->browser().source().fragment(), u"more"_s);
         GetHelpViewer().show(book.filePath(u"index.htm"_s), {});
         EXPECT_EQ(shown(), help) << "one window for all pages";
-        PressKey(*help, Qt::Key_Escape);
+        test::PressKeyInWindow(*help, Qt::Key_Escape);
         EXPECT_EQ(shown(), nullptr);
         EndModalLoop(front, ModalResult::OK);
     });

@@ -1,7 +1,7 @@
 #include "Families.h"
 #include "Sheet.h"
 
-namespace kesta::pictures {
+namespace kesta::pictures::booklets {
 namespace {
 
 // Scenes of 144 x 96.
@@ -9,10 +9,10 @@ namespace {
 constexpr int kWidth = 144;
 constexpr int kHeight = 96;
 constexpr double kMiddle = 72;
-constexpr double kTop = 12.5; // of the fold
-constexpr double kRise = 22;  // from the outer edge to the fold
-constexpr double kPageWidth = 52;
-constexpr double kPageHeight = 60;
+constexpr double kTop = 9.5; // of the fold
+constexpr double kRise = 22; // from the outer edge to the fold
+constexpr double kPageWidth = 51.5;
+constexpr double kPageHeight = 56;
 constexpr Panel kLeft = {kMiddle - kPageWidth, kTop + kRise, kMiddle, kTop, kPageHeight};
 constexpr Panel kRight = {kMiddle, kTop, kMiddle + kPageWidth, kTop + kRise, kPageHeight};
 constexpr PanelPrint kPagePrint = {.leftInset = 0.14, .rightInset = 0.14, .topInset = 11, .lines = 6, .step = 6};
@@ -67,7 +67,7 @@ void DrawFoldedPage(Drawing& drawing)
 // Several leaves, one within the other; each page has its own print.
 void DrawFoldedPages(Drawing& drawing, bool hasOutlines)
 {
-    for (const double out : {7.0, 3.5}) {
+    for (const double out : {8.0, 4.0}) {
         // In line with the front leaf, so that the leaves show at the outer edges only.
         const double leftTop = kLeft.topAt(kLeft.left - out);
         DrawPanel(drawing, {kLeft.left - out, leftTop, kMiddle, kTop, kPageHeight}, kWhitePaper, Side::back);
@@ -86,7 +86,7 @@ void DrawSpine(Drawing& drawing, bool hasStaples)
     drawing.path(Polyline({{kMiddle, kTop}, {kMiddle, kTop + kPageHeight}}), Stroked(kAction, hasStaples ? 1.5 : 4));
     if (!hasStaples)
         return;
-    for (const double middle : {kTop + 15, kTop + 45})
+    for (const double middle : {kTop + 14, kTop + 42})
         drawing.path(Polyline({{kMiddle, middle - 5}, {kMiddle, middle + 5}}), Stroked(kAction, 5));
 }
 
@@ -104,7 +104,7 @@ Drawing Scene(Layout layout, Finishing finishing)
 
 } // namespace
 
-void AddBooklets(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     const auto add = [&pictures](const char* name, Layout layout, Finishing finishing) {
         pictures.push_back({std::string("BookletCreation_") + name + ".gif", Scene(layout, finishing)});
@@ -120,4 +120,4 @@ void AddBooklets(Pictures& pictures)
     add("Booklet-Fold-Staple-Outlines", Layout::outlinedPages, Finishing::foldAndStaple);
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::booklets

@@ -1,6 +1,6 @@
 #include "Families.h"
 
-namespace kesta::pictures {
+namespace kesta::pictures::button_icons {
 namespace {
 
 constexpr Style kLine = {.stroke = kIconInk, .width = 1.5};
@@ -72,7 +72,7 @@ Drawing Caution()
 
 } // namespace
 
-void AddButtonIcons(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     pictures.push_back({"ButtonGraphic_MacUp.png", Lines({Polyline({{3.5, 10.25}, {8, 5.75}, {12.5, 10.25}})})});
     pictures.push_back({"ButtonGraphic_MacDown.png", Lines({Polyline({{3.5, 5.75}, {8, 10.25}, {12.5, 5.75}})})});
@@ -93,4 +93,4 @@ void AddButtonIcons(Pictures& pictures)
     pictures.push_back({"ButtonGraphic_Caution.png", Caution()});
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::button_icons

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-namespace kesta::pictures {
+namespace kesta::pictures::devices {
 namespace {
 
 // A scene of 192 x 96: feeder at the left, printer in the middle, finisher at the right, all on one floor. The
@@ -177,7 +177,7 @@ Drawing Device(Feeder feeder, Finisher finisher)
 
 } // namespace
 
-void AddDevices(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     for (const FeederRow& feeder : kFeeders) {
         for (const FinisherRow& finisher : kFinishers)
@@ -186,4 +186,4 @@ void AddDevices(Pictures& pictures)
     }
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::devices

@@ -5,17 +5,41 @@
 namespace kesta::pictures {
 
 // Each adds the pictures of one family.
-void AddButtonIcons(Pictures& pictures);
-void AddJobTypes(Pictures& pictures);
-void AddSides(Pictures& pictures); // two-sided printing, output colour
-void AddFinishing(Pictures& pictures);
-void AddPapers(Pictures& pictures);
-void AddPaperOverlays(Pictures& pictures);
-void AddPaperSetups(Pictures& pictures); // tabs and separators
-void AddSpecialPages(Pictures& pictures);
-void AddBooklets(Pictures& pictures);
-void AddImageOptions(Pictures& pictures);
-void AddDevices(Pictures& pictures);
+namespace button_icons {
+void AddTo(Pictures& pictures);
+}
+namespace job_types {
+void AddTo(Pictures& pictures);
+}
+namespace sides {
+void AddTo(Pictures& pictures);
+}
+namespace finishing {
+void AddTo(Pictures& pictures);
+}
+namespace papers {
+void AddTo(Pictures& pictures);
+// Precut tabs: a sheet with its own tab above those of the sheets behind.
+void DrawPreCutTab(Drawing& drawing, const Paper& paper);
+} // namespace papers
+namespace overlays {
+void AddTo(Pictures& pictures);
+}
+namespace paper_setups {
+void AddTo(Pictures& pictures);
+}
+namespace special_pages {
+void AddTo(Pictures& pictures);
+}
+namespace image_options {
+void AddTo(Pictures& pictures);
+}
+namespace booklets {
+void AddTo(Pictures& pictures);
+}
+namespace devices {
+void AddTo(Pictures& pictures);
+}
 
 // The whole family.
 Pictures AllPictures();

@@ -1,7 +1,7 @@
 #include "Families.h"
 #include "Sheet.h"
 
-namespace kesta::pictures {
+namespace kesta::pictures::finishing {
 namespace {
 
 constexpr int kSize = 48;
@@ -27,12 +27,16 @@ constexpr Places kTwoHolesUnderStaple = {16, 28};
 constexpr Places kThreeHolesUnderStaple = {14, 22, 30};
 constexpr Places kFourHolesUnderStaple = {13, 19.33, 25.67, 32};
 
-void DrawSet(Drawing& drawing, double printLeft)
+// The insets are those from the left edge; the heading makes room for a staple in the corner.
+void DrawSet(Drawing& drawing, double printInset, double headingInset)
 {
+    constexpr double kRightMargin = 4;
+    const Print print = PrintOn(kWhitePaper);
     DrawStackBehind(drawing, kSet, 2, {2, -2}, kWhitePaper);
     DrawSheet(drawing, kSet, kWhitePaper);
-    const double right = kSet.right() - 4;
-    DrawPrint(drawing, {kSet.x + printLeft, kSet.y + 6, right - kSet.x - printLeft, 28}, PrintOn(kWhitePaper));
+    drawing.rect({kSet.x + headingInset, kSet.y + 6, 8, 3}, Filled(print.heading));
+    const double left = kSet.x + printInset;
+    DrawPrint(drawing, {left, kSet.y + 12, kSet.right() - kRightMargin - left, 22}, {print.heading, print.line, false});
 }
 
 void DrawStaples(Drawing& drawing, Places middles, double length)
@@ -66,7 +70,8 @@ Drawing Set(Staples staples, Places holes)
     const bool hasEdgeStaples = staples == Staples::two || staples == Staples::four;
     const bool hasHoles = holes.size() != 0;
     const double holeInset = hasEdgeStaples ? kHoleInsetBesideStaples : kHoleInset;
-    DrawSet(drawing, hasHoles ? holeInset + 4 : hasEdgeStaples ? 8 : 5);
+    const double printInset = hasHoles ? holeInset + 4 : hasEdgeStaples ? 8 : 5;
+    DrawSet(drawing, printInset, staples == Staples::one ? 12 : printInset);
     if (staples == Staples::one)
         DrawCornerStaple(drawing);
     if (staples == Staples::two)
@@ -163,7 +168,7 @@ Drawing Booklet(bool hasLayout, bool hasStaples)
 
 } // namespace
 
-void AddFinishing(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     pictures.push_back({"OfficeFinishing_1St.gif", Set(Staples::one, {})});
     pictures.push_back({"OfficeFinishing_2St.gif", Set(Staples::two, {})});
@@ -190,4 +195,4 @@ void AddFinishing(Pictures& pictures)
     pictures.push_back({"OfficeFinishing_Bklt_Fold&Stpl_Layout.gif", Booklet(true, true)});
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::finishing

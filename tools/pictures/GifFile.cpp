@@ -52,33 +52,43 @@ bool IsBorder(const QImage& image, int x, int y)
 
 std::vector<QRgb> EdgeColors()
 {
-    std::vector<QRgb> colors = {0xFF000000U | kAction, 0xFF000000U | kInk};
+    std::vector<QRgb> colors = {0xFF000000U | kAction};
     for (const Paper& paper : kPapers)
         colors.push_back(0xFF000000U | paper.edge);
     return colors;
 }
 
-// A border pixel that is half edge and half fill becomes all edge.
+std::vector<QRgb> EdgeColorsIn(const QImage& image, const QRect& area)
+{
+    static const std::vector<QRgb> kEdges = EdgeColors();
+    std::vector<QRgb> found;
+    const QRect inside = area.intersected(image.rect());
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        for (int x = inside.left(); x <= inside.right(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            if (std::find(kEdges.begin(), kEdges.end(), pixel) != kEdges.end())
+                found.push_back(pixel);
+        }
+    }
+    return found;
+}
+
+// A border pixel that is half edge and half fill becomes all edge: in the nearest of the edge colours beside it, or,
+// where a slanting line leaves none pure, of the whole picture.
 void SettleBorder(QImage& image)
 {
-    const std::vector<QRgb> edges = EdgeColors();
+    constexpr QRect kBeside(-2, -2, 5, 5);
     const QImage before = image;
-    const auto isEdge = [&edges](QRgb color) { return std::find(edges.begin(), edges.end(), color) != edges.end(); };
+    const std::vector<QRgb> anywhere = EdgeColorsIn(before, before.rect());
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
             const QRgb pixel = before.pixel(x, y);
-            if (pixel == kTransparent || isEdge(pixel) || !IsBorder(before, x, y))
+            if (pixel == kTransparent || !IsBorder(before, x, y))
                 continue;
-            // Of the edges that this picture draws beside the pixel, the nearest in colour.
-            std::vector<QRgb> beside;
-            for (int row = std::max(0, y - 2); row <= std::min(image.height() - 1, y + 2); ++row) {
-                for (int column = std::max(0, x - 2); column <= std::min(image.width() - 1, x + 2); ++column) {
-                    if (isEdge(before.pixel(column, row)))
-                        beside.push_back(before.pixel(column, row));
-                }
-            }
-            if (!beside.empty())
-                image.setPixel(x, y, Nearest(pixel, beside));
+            const std::vector<QRgb> beside = EdgeColorsIn(before, kBeside.translated(x, y));
+            const std::vector<QRgb>& edges = beside.empty() ? anywhere : beside;
+            if (!edges.empty())
+                image.setPixel(x, y, Nearest(pixel, edges));
         }
     }
 }

@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-namespace kesta::pictures {
+namespace kesta::pictures::image_options {
 namespace {
 
 constexpr int kSize = 48;
@@ -97,7 +97,7 @@ Drawing BannerMessage()
 
 } // namespace
 
-void AddImageOptions(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     pictures.push_back({"ImageOptions_ImageShift.gif", ImageShift()});
     pictures.push_back({"ImageOptions_InvertImage_Off.gif", AsItIs()});
@@ -108,4 +108,4 @@ void AddImageOptions(Pictures& pictures)
     pictures.push_back({"JobNotes_BannerMessage.gif", BannerMessage()});
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::image_options

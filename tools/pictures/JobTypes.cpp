@@ -2,7 +2,7 @@
 #include "Families.h"
 #include "Sheet.h"
 
-namespace kesta::pictures {
+namespace kesta::pictures::job_types {
 namespace {
 
 constexpr int kSize = 48;
@@ -150,7 +150,7 @@ Drawing FileFormat(std::string_view word, std::string_view secondWord = {}, bool
 
 } // namespace
 
-void AddJobTypes(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     pictures.push_back({"JobType_NormalPrint.gif", NormalPrint()});
     pictures.push_back({"JobType_HoldJob.gif", PageWithBadge(Glyph::pause)});
@@ -168,4 +168,4 @@ void AddJobTypes(Pictures& pictures)
     pictures.push_back({"JobNotes_SpecialInstructions.gif", PageWithBadge(Glyph::note)});
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::job_types

@@ -2,7 +2,7 @@
 #include "Families.h"
 #include "Sheet.h"
 
-namespace kesta::pictures {
+namespace kesta::pictures::overlays {
 namespace {
 
 // Drawn over a paper base: surfaces stay inside its front sheet, marks are ringed badges.
@@ -105,7 +105,7 @@ Drawing RoughSurface()
 
 } // namespace
 
-void AddPaperOverlays(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     const auto add = [&pictures](const std::string& name, Drawing drawing) {
         pictures.push_back({"Paper_Overlay-" + name + ".gif", std::move(drawing), true});
@@ -131,4 +131,4 @@ void AddPaperOverlays(Pictures& pictures)
     add("Archival", Archival());
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::overlays

@@ -1,7 +1,7 @@
 #include "Families.h"
 #include "Sheet.h"
 
-namespace kesta::pictures {
+namespace kesta::pictures::paper_setups {
 namespace {
 
 constexpr int kSize = 48;
@@ -11,7 +11,7 @@ constexpr Point kStep = {5, -4};
 Drawing PreCutTabs()
 {
     Drawing drawing(kSize, kSize);
-    DrawPreCutTab(drawing, kWhitePaper);
+    papers::DrawPreCutTab(drawing, kWhitePaper);
     return drawing;
 }
 
@@ -19,7 +19,7 @@ Drawing PreCutTabs()
 Drawing TabMarginShift()
 {
     Drawing drawing(kSize, kSize);
-    DrawPreCutTab(drawing, kWhitePaper);
+    papers::DrawPreCutTab(drawing, kWhitePaper);
     drawing.rect({10, 12, 19, 31}, Filled(kWhite)); // no print but on the tab
     drawing.rect({31, 12, 7, 2}, Filled(kAction));
     drawing.rect({31, 16, 5, 2}, Filled(kAction));
@@ -47,7 +47,7 @@ Drawing Transparencies(const Paper& separator, bool isPrinted)
 
 } // namespace
 
-void AddPaperSetups(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     pictures.push_back({"Paper_Pre-CutTab_White.gif", PreCutTabs()});
     pictures.push_back({"Paper_Pre-CutTabs_TabMarginShift.gif", TabMarginShift()});
@@ -62,4 +62,4 @@ void AddPaperSetups(Pictures& pictures)
     }
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::paper_setups

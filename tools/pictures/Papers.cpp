@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numbers>
 
-namespace kesta::pictures {
+namespace kesta::pictures::papers {
 namespace {
 
 constexpr int kSize = 48;
@@ -124,7 +124,7 @@ Drawing PreCutTab(const Paper& paper)
 
 } // namespace
 
-void AddPapers(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     struct Base {
         const char* family;
@@ -143,4 +143,4 @@ void AddPapers(Pictures& pictures)
     }
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::papers

@@ -85,7 +85,4 @@ void DrawPanelPrint(Drawing& drawing, const Panel& panel, const Paper& paper, Si
 // The fold at the panel's right edge.
 void DrawFold(Drawing& drawing, const Panel& panel);
 
-// Precut tabs: a sheet with its own tab above those of the sheets behind.
-void DrawPreCutTab(Drawing& drawing, const Paper& paper);
-
 } // namespace kesta::pictures

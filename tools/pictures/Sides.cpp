@@ -2,7 +2,7 @@
 #include "Families.h"
 #include "Sheet.h"
 
-namespace kesta::pictures {
+namespace kesta::pictures::sides {
 namespace {
 
 constexpr int kSize = 48;
@@ -100,7 +100,7 @@ Drawing ThePrintersColors()
 
 } // namespace
 
-void AddSides(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     pictures.push_back({"2SidedPrinting_1Sided.gif", OneSided()});
     pictures.push_back({"2SidedPrinting_2Sided.gif", TurnedAboutTheLongEdge()});
@@ -111,4 +111,4 @@ void AddSides(Pictures& pictures)
     pictures.push_back({"OutputColor_PrnDef.gif", ThePrintersColors()});
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::sides

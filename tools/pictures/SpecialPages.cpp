@@ -2,7 +2,7 @@
 #include "Families.h"
 #include "Sheet.h"
 
-namespace kesta::pictures {
+namespace kesta::pictures::special_pages {
 namespace {
 
 constexpr int kSize = 48;
@@ -59,10 +59,18 @@ void DrawSmallPage(Drawing& drawing, const Box& box, Corner corner = Corner::squ
     DrawPrint(drawing, {box.x + 4, box.y + 6, box.width - 8, box.height - 8}, PrintOn(kWhitePaper), corner);
 }
 
+// Its heading would show as a bit of a bar only.
+void DrawPageBehind(Drawing& drawing, const Box& box)
+{
+    const Print print = PrintOn(kWhitePaper);
+    DrawSheet(drawing, box, kWhitePaper);
+    DrawPrint(drawing, {box.x + 4, box.y + 12, box.width - 8, box.height - 18}, {print.heading, print.line, false});
+}
+
 Drawing InsertAfterPages()
 {
     Drawing drawing(kSize, kSize);
-    DrawSmallPage(drawing, {22, 2, 22, 30});
+    DrawPageBehind(drawing, {22, 2, 22, 30});
     DrawSheet(drawing, {13, 9, 22, 30}, kBluePaper);
     DrawSmallPage(drawing, {4, 16, 22, 30});
     return drawing;
@@ -71,8 +79,8 @@ Drawing InsertAfterPages()
 Drawing InsertBeforePage1()
 {
     Drawing drawing(kSize, kSize);
-    DrawSmallPage(drawing, {22, 2, 22, 30});
-    DrawSmallPage(drawing, {13, 9, 22, 30});
+    DrawPageBehind(drawing, {22, 2, 22, 30});
+    DrawPageBehind(drawing, {13, 9, 22, 30});
     DrawSheet(drawing, {4, 16, 22, 30}, kBluePaper);
     return drawing;
 }
@@ -112,7 +120,7 @@ Drawing AddExceptions()
 
 } // namespace
 
-void AddSpecialPages(Pictures& pictures)
+void AddTo(Pictures& pictures)
 {
     pictures.push_back({"ButtonGraphic_AddCovers.icns", AddCovers()});
     pictures.push_back({"ButtonGraphic_AddInserts.icns", AddInserts()});
@@ -130,4 +138,4 @@ void AddSpecialPages(Pictures& pictures)
     pictures.push_back({"SpclPgs_InsertsOptions-BeforePage1.gif", InsertBeforePage1()});
 }
 
-} // namespace kesta::pictures
+} // namespace kesta::pictures::special_pages

@@ -120,18 +120,6 @@
         <translation>%1, %2</translation>
     </message>
     <message>
-        <source>Default Printer Place</source>
-        <translation>%1 (default)</translation>
-    </message>
-    <message>
-        <source>Not Accepting Title</source>
-        <translation>%1 takes no jobs at present</translation>
-    </message>
-    <message>
-        <source>Not Accepting Message</source>
-        <translation>Choose another printer, or print later.</translation>
-    </message>
-    <message>
         <source>Plain Options Title</source>
         <translation>Only the options above are offered</translation>
     </message>
@@ -145,7 +133,9 @@
     </message>
     <message>
         <source>No Description Message</source>
-        <translation>%1 has no printer description (PPD) that can be used: %2 You can still print with copies, pages and orientation as set above.</translation>
+        <translation>%2
+
+You can still print to %1 with copies, pages and orientation as set above.</translation>
     </message>
     <message>
         <source>No Plug-in Title</source>
@@ -219,10 +209,6 @@ Go back and change one of them.</translation>
     <message>
         <source>Sending Message</source>
         <translation>%1</translation>
-    </message>
-    <message>
-        <source>Sending Stopped</source>
-        <translation>Nothing was printed</translation>
     </message>
     <message>
         <source>Sending Failed Title</source>

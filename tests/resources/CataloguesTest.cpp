@@ -1,0 +1,134 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+#include <map>
+#include <set>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta {
+namespace {
+
+using TableAndKey = std::pair<QString, QString>;
+using Texts = std::map<TableAndKey, QString>;
+
+std::string Name(const TableAndKey& key)
+{
+    return (key.first + u" / "_s + key.second).toStdString();
+}
+
+// A catalogue's texts; one that is unfinished, or there twice, is a failure.
+Texts TextsOf(const QString& path)
+{
+    Texts texts;
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    QXmlStreamReader xml(&file);
+    TableAndKey key;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == u"name")
+            key.first = xml.readElementText();
+        if (xml.name() == u"source")
+            key.second = xml.readElementText();
+        if (xml.name() == u"translation") {
+            EXPECT_FALSE(xml.attributes().hasAttribute(u"type"_s)) << "unfinished: " << Name(key);
+            EXPECT_TRUE(texts.emplace(key, xml.readElementText()).second) << "twice: " << Name(key);
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << path.toStdString() << ": " << xml.errorString().toStdString();
+    return texts;
+}
+
+QString English(const QString& bundle)
+{
+    return QStringLiteral(KESTA_RESOURCES "/%1/translations/%1_en.ts").arg(bundle);
+}
+
+std::multiset<QString> PlaceholdersOf(const QString& text)
+{
+    static const QRegularExpression placeholder(u"%\\d+"_s);
+    std::multiset<QString> found;
+    for (auto match = placeholder.globalMatch(text); match.hasNext();)
+        found.insert(match.next().captured());
+    return found;
+}
+
+TEST(EnglishTexts, AnswerEveryKeyWithAsManyValuesAsTheCodeGives)
+{
+    const Texts texts = TextsOf(English(u"KestaFeatures"_s));
+    QFile keys(QStringLiteral(TEST_DATA "/text-keys.tsv"));
+    ASSERT_TRUE(keys.open(QIODevice::ReadOnly));
+    int count = 0;
+    for (const QString& line : QString::fromUtf8(keys.readAll()).split(u'\n')) {
+        if (line.isEmpty() || line.startsWith(u'#'))
+            continue;
+        const QStringList row = line.split(u'\t');
+        const TableAndKey key = {row.value(1), row.value(0)};
+        const auto found = texts.find(key);
+        ASSERT_NE(found, texts.end()) << Name(key);
+        EXPECT_FALSE(found->second.isEmpty()) << Name(key);
+        std::multiset<QString> values;
+        for (int i = 1; i <= row.value(2).toInt(); ++i)
+            values.insert(u"%"_s + QString::number(i));
+        EXPECT_EQ(PlaceholdersOf(found->second), values) << Name(key);
+        ++count;
+    }
+    EXPECT_GT(count, 300);
+    EXPECT_EQ(texts.at({u"Localizable"_s, u"-"_s}), u"-"); // a line in a menu
+}
+
+// The house rules for what people read.
+TEST(EnglishTexts, KeepToTheWordingOfTheHouse)
+{
+    const QRegularExpression unwanted(u":$|[!&]|\\.\\.\\.|%[@ds]|  |^ | $|'|\"|\\b(error|invalid|please)\\b"_s,
+                                      QRegularExpression::CaseInsensitiveOption);
+    for (const auto& [key, text] : TextsOf(English(u"KestaFeatures"_s))) {
+        EXPECT_TRUE(key.second == u":" || !text.contains(unwanted)) << Name(key) << ": " << text.toStdString();
+    }
+}
+
+// Any language, the pseudo-languages among them: the keys and values of the English one, and mnemonics at most once.
+TEST(Translations, FitTheEnglishTexts)
+{
+    int files = 0;
+    for (const QString& folder : {QStringLiteral(KESTA_RESOURCES), QStringLiteral(KESTA_PSEUDO_LANGUAGES)}) {
+        for (QDirIterator all(folder, {u"*.ts"_s}, QDir::Files, QDirIterator::Subdirectories); all.hasNext(); ++files) {
+            const QString path = all.next();
+            const Texts english = TextsOf(English(QFileInfo(path).baseName().section(u'_', 0, 0)));
+            for (const auto& [key, text] : TextsOf(path)) {
+                const auto original = english.find(key);
+                ASSERT_NE(original, english.end()) << path.toStdString() << ": " << Name(key);
+                EXPECT_EQ(PlaceholdersOf(text), PlaceholdersOf(original->second))
+                    << path.toStdString() << ": " << Name(key);
+                const QString withoutAmpersands = QString(text).remove(u"&&"_s);
+                EXPECT_LE(withoutAmpersands.count(u'&'), 1) << path.toStdString() << ": " << Name(key);
+            }
+        }
+    }
+    EXPECT_GE(files, 4); // two bundles in English, and the pseudo-languages
+}
+
+TEST(PseudoLanguage, IsHalfAsLongAgain)
+{
+    const Texts english = TextsOf(English(u"KestaFeatures"_s));
+    const Texts pseudo = TextsOf(QStringLiteral(KESTA_PSEUDO_LANGUAGES "/KestaFeatures_qps.ts"));
+    ASSERT_EQ(pseudo.size(), english.size());
+    for (const auto& [key, text] : english) {
+        const bool hasLetters = std::any_of(text.begin(), text.end(), [](QChar letter) { return letter.isLetter(); });
+        if (hasLetters) {
+            EXPECT_GE(pseudo.at(key).size() * 2, text.size() * 3) << Name(key);
+        } else {
+            EXPECT_EQ(pseudo.at(key), text);
+        }
+    }
+}
+
+} // namespace
+} // namespace kesta
