@@ -29,6 +29,9 @@ public:
     Array toTicket() const;
     void fromTicket(const Array& ticket); // replaces all; an entry that is no dictionary is left out
 
+    // Whether both name the same people in the same order, all that is known of them included.
+    bool operator==(const FaxRecipientList& other) const { return toTicket() == other.toTicket(); }
+
 private:
     std::vector<FaxRecipientRef> recipients_;
 };
