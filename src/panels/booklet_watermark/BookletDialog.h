@@ -1,5 +1,6 @@
 #pragma once
 
+#include "panels/booklet_watermark/BookletRules.h"
 #include "toolkit/ControlEvent.h"
 
 namespace kesta {
@@ -19,19 +20,11 @@ struct _BookletCreationParams {
     bool operator==(const _BookletCreationParams&) const = default;
 };
 
-inline constexpr SInt32 kBookletFoldNone = 1;
-inline constexpr SInt32 kBookletFold = 43;
-inline constexpr SInt32 kBookletFoldAndStaple = 53;
-inline constexpr SInt32 kBookletLayoutOn = 1;
-inline constexpr SInt32 kBookletLayoutOff = 2;
-inline constexpr SInt32 kNoPageBorders = 1;
-inline constexpr SInt32 kDrawPageBorders = 2;
-
 inline constexpr OSStatus kBookletDialogCancelled = -1;
 
-// Let the user choose: 0 for OK, with the parameters changed, else kBookletDialogCancelled, with all as it was; that is
-// also the answer when the window can't be loaded. Special pages of the current print session lock what would break
-// them.
+// Let the user choose: noErr for OK, with the parameters changed. Else all stays as it was: kBookletDialogCancelled,
+// kMissingArgument without a bundle, kInterfaceFileUnreadable when the window can't be loaded. Special pages of the
+// current print session lock what would break them.
 
 // Of the Booklet/Watermark panel; asks for the fold only where a fold is installed.
 OSStatus RunModalBookletOptionsDialog(_BookletCreationParams& params);

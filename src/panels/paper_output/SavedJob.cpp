@@ -13,6 +13,8 @@
 #include "toolkit/PictureView.h"
 #include "toolkit/TypedValueHistory.h"
 
+#include <QPushButton>
+
 namespace kesta {
 namespace {
 
