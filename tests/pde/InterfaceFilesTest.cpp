@@ -1,5 +1,6 @@
 #include "panels/advanced/AboutDialog.h"
 #include "panels/advanced/AdvancedPanel.h"
+#include "panels/paper_output/PaperOutputPanel.h"
 #include "pde/PDEShell.h"
 #include "platform/Bundle.h"
 #include "support/TestTexts.h"
@@ -46,6 +47,19 @@ const ExpectedControls kExpectedControls[] = {
      {advanced::kBookletOrderPopup, advanced::kOutputOptionsPopup, advanced::kBannerPopup,
       advanced::kRequestOffsetLabel, advanced::kRequestOffsetPopup, advanced::kMirrorPopup,
       advanced::kOptimizationPopup, advanced::kAboutButton, advanced::kWebLinksButton}},
+    {"Paper_Output",
+     "Panel",
+     paper_output::kSignature,
+     {paper_output::kJobTypeView,      paper_output::kPaperView,        paper_output::kTwoSidedView,
+      paper_output::kStaplingView,     paper_output::kPunchView,        paper_output::kOfficeFinishingRow,
+      paper_output::kFinishingView,    paper_output::kDestinationView,  paper_output::kQualityView,
+      paper_output::kJobTypePicture,   paper_output::kJobTypePopup,     paper_output::kJobTypeSetupButton,
+      paper_output::kPaperPicture,     paper_output::kPaperSummary,     paper_output::kStockMenuButton,
+      paper_output::kTwoSidedPicture,  paper_output::kTwoSidedLabel,    paper_output::kTwoSidedPopup,
+      paper_output::kStaplePicture,    paper_output::kStaplePopup,      paper_output::kPunchPicture,
+      paper_output::kPunchPopup,       paper_output::kFinishingPicture, paper_output::kFinishingMenuButton,
+      paper_output::kFinishingSummary, paper_output::kDestinationLabel, paper_output::kDestinationPopup,
+      paper_output::kQualityPicture,   paper_output::kQualityPopup}},
     {"About",
      "About",
      about::kSignature,

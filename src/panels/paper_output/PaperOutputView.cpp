@@ -10,7 +10,6 @@
 #include "printer/InstallableOptions.h"
 #include "product/Westmarch2.h"
 #include "toolkit/InterfaceFile.h"
-#include "toolkit/KestaStyle.h"
 #include "toolkit/MenuButton.h"
 #include "toolkit/PictureView.h"
 #include "toolkit/SummaryTextView.h"
@@ -134,7 +133,6 @@ void RestoreSummary(QWidget* room)
     auto* summary = new SummaryTextView(room->parentWidget());
     SetControlID(*summary, GetControlID(*room));
     summary->setLines(room->property("lines").toInt());
-    SetLook(*summary, "summary");
     summary->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     delete room->parentWidget()->layout()->replaceWidget(room, summary);
     delete room;
