@@ -32,6 +32,10 @@ public:
     // Whether both name the same people in the same order, all that is known of them included.
     bool operator==(const FaxRecipientList& other) const { return toTicket() == other.toTicket(); }
 
+    // Makes a group of the recipients in the address book; those without a record there get one. False when the group
+    // could not be added or the address book not be saved.
+    bool saveAsABGroupWithName(const QString& name);
+
 private:
     std::vector<FaxRecipientRef> recipients_;
 };

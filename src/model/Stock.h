@@ -21,6 +21,7 @@ enum StockType : SInt32 {
     kStockTypeRecycled = 10,
     kStockTypePunched = 11,
     kStockTypeCard = 12,
+    kStockTypeBond = 13,
     kStockTypeLetterhead = 14,
     kStockTypeCustom1 = 15, // and so on
     kStockTypeCustom7 = 21,

@@ -1,5 +1,7 @@
 #include "weblink/NameService.h"
 
+#include "platform/Installed.h"
+
 #include <arpa/inet.h>
 #include <arpa/nameser.h>
 #include <ifaddrs.h>
@@ -8,7 +10,6 @@
 #include <resolv.h>
 
 #include <memory>
-#include <utility>
 
 namespace kesta {
 namespace {
@@ -52,9 +53,10 @@ public:
     }
 };
 
-NameService*& Installed()
+Installed<NameService>& TheNames()
 {
-    static NameService* installed = nullptr;
+    static SystemNameService system;
+    static Installed<NameService> installed(system);
     return installed;
 }
 
@@ -62,13 +64,12 @@ NameService*& Installed()
 
 NameService* NameService::install(NameService* service)
 {
-    return std::exchange(Installed(), service);
+    return TheNames().install(service);
 }
 
 NameService& GetNameService()
 {
-    static SystemNameService system;
-    return Installed() ? *Installed() : system;
+    return TheNames().current();
 }
 
 } // namespace kesta

@@ -1,6 +1,12 @@
 #include "panels/advanced/AboutDialog.h"
 #include "panels/advanced/AdvancedPanel.h"
 #include "panels/paper_output/PaperOutputPanel.h"
+#include "panels/special_pages/AdvancedStockDialog.h"
+#include "panels/special_pages/CustomStockSizeDialog.h"
+#include "panels/special_pages/PreCutTabStockSetup.h"
+#include "panels/special_pages/SeparatorsDialog.h"
+#include "panels/special_pages/StockDescriptionSetup.h"
+#include "panels/special_pages/StockTypeSetupDialog.h"
 #include "pde/PDEShell.h"
 #include "platform/Bundle.h"
 #include "support/TestTexts.h"
@@ -64,6 +70,34 @@ const ExpectedControls kExpectedControls[] = {
      "About",
      about::kSignature,
      {about::kPicture, about::kVersionText, about::kModelText, about::kAccessoriesText}},
+    {"StockDescriptionSetup",
+     "StockDescriptionSetup",
+     stockdescription::kSignature,
+     {stockdescription::kDescriptionField, stockdescription::kIcon}},
+    {"CustomStockSizeDialog",
+     "CustomStockSize",
+     customsize::kSignature,
+     {customsize::kWidthField, customsize::kWidthLimits, customsize::kLengthField, customsize::kLengthLimits,
+      customsize::kUnitsPopup, customsize::kPreview, customsize::kDefaultsButton}},
+    {"PreCutTabStockSetup",
+     "PreCutTabStockSetup",
+     precuttab::kSignature,
+     {precuttab::kSequenceField, precuttab::kSequenceLimits, precuttab::kPicture}},
+    {"StockTypeSetupDialog",
+     "TabStockSetup",
+     tabstock::kSignature,
+     {tabstock::kSequenceField, tabstock::kSequenceLimits, tabstock::kShiftPopup, tabstock::kShiftLabel,
+      tabstock::kShiftField, tabstock::kUnitsPopup, tabstock::kSequencePicture, tabstock::kShiftPicture}},
+    {"SeparatorsDialog",
+     "Separators",
+     separators::kSignature,
+     {separators::kOptionPopup, separators::kColorLabel, separators::kColorPopup, separators::kPicture,
+      separators::kDefaultsButton}},
+    {"AdvancedStockDialog",
+     "AdvancedStock",
+     advancedstock::kSignature,
+     {advancedstock::kSizePopup, advancedstock::kColorPopup, advancedstock::kTypePopup, advancedstock::kPunchedPopup,
+      advancedstock::kWeightField, advancedstock::kDescriptionField, advancedstock::kIcon}},
     {"Utilities", "CustomValue", "Util"_code, {1}},
 };
 

@@ -1,5 +1,5 @@
 #include "weblink/MulticastDNS.h"
-#include "platform/SystemConfiguration.h"
+#include "support/FakeSystem.h"
 #include "weblink/DNSMessage.h"
 #include "weblink/NameService.h"
 #include "weblink/PrinterAddress.h"
@@ -17,22 +17,11 @@
 #include <functional>
 #include <thread>
 
-namespace kesta::multicastdns_test {
+namespace kesta::multicast_dns_test {
 namespace {
 
 using namespace Qt::StringLiterals;
 using Bytes = std::vector<std::uint8_t>;
-
-class OldSystem : public SystemConfiguration {
-public:
-    SystemVersion version{10, 2, 2};
-
-    std::optional<QString> consoleUser() const override { return {}; }
-    std::optional<QString> computerName() const override { return {}; }
-    std::optional<QString> primaryInterface() const override { return {}; }
-    QStringList ipv4Addresses(const QString&) const override { return {}; }
-    std::optional<SystemVersion> systemVersion() const override { return version; }
-};
 
 // Multicasts stay on this machine, and names have the answers given here.
 class LoopbackNames : public NameService {
@@ -119,7 +108,9 @@ Bytes ServiceReply(Bytes query)
 
 class MulticastDNS : public testing::Test {
 protected:
-    OldSystem system_;
+    MulticastDNS() { system_.version = SystemVersion{10, 2, 2}; }
+
+    test::FakeSystem system_;
     LoopbackNames names_;
     WhileInstalled<SystemConfiguration> systemInstalled_{system_};
     WhileInstalled<NameService> namesInstalled_{names_};
@@ -173,7 +164,7 @@ TEST_F(MulticastDNS, OtherNamesAndNewerSystemsAskTheResolver)
 {
     for (const char* name : {"printer.example", "local.example", "notlocal", ""})
         EXPECT_EQ(mDNS_res_query(name, kDNSClassInternet, kDNSTypeService, answer_), -1);
-    system_.version = {10, 2, 3};
+    system_.version = SystemVersion{10, 2, 3};
     EXPECT_EQ(mDNS_res_query("printer.local.", kDNSClassInternet, kDNSTypeService, answer_), -1);
     EXPECT_EQ(names_.queried.size(), 5u);
 }
@@ -190,7 +181,7 @@ TEST_F(MulticastDNS, AServiceNameIsReplacedByItsHost)
 
 TEST_F(MulticastDNS, AServiceNobodyOffersIsLeftAsItIs)
 {
-    system_.version = {10, 5, 0};
+    system_.version = SystemVersion{10, 5, 0};
     QString host = u"Laser._printer._tcp.local."_s;
     const auto check = [&](const Bytes& answer) {
         names_.answer = answer;
@@ -216,7 +207,7 @@ TEST_F(MulticastDNS, AddressesOfPrinters)
     EXPECT_EQ(GetPrinterURL(session), std::nullopt);
     session.printer = PMPrinter{.deviceURI = u"lpd://printer/queue"_s};
     EXPECT_EQ(GetPrinterURL(session), u"lpd://printer/queue"_s);
-    system_.version = {10, 1, 9};
+    system_.version = SystemVersion{10, 1, 9};
     EXPECT_EQ(GetPrinterURL(session), std::nullopt);
 }
 
@@ -240,4 +231,4 @@ TEST(PrinterAddress, TakesTheFormThatTheRulesKnow)
 }
 
 } // namespace
-} // namespace kesta::multicastdns_test
+} // namespace kesta::multicast_dns_test

@@ -16,8 +16,6 @@ namespace kesta {
 namespace advancedstock {
 namespace {
 
-constexpr QLatin1StringView kHelpPage("Paper_Output/Paper/idh_other_paper_type.htm");
-
 struct AdvancedStockDialog {
     const Bundle& bundle;
     QWidget& window;
@@ -39,7 +37,7 @@ void FillPopup(const AdvancedStockDialog& dialog, Control number, PopulateFuncti
     }
 }
 
-// A value that the menu lacks is put before all others, so that leaving a pop-up alone changes nothing.
+// A value that the menu lacks gets an item before all others: a pop-up does not show what the paper is not.
 void ShowValue(PopupButton* popup, SInt32 value, const QString& titleWhenUnknown)
 {
     if (!popup || SetPopupButtonToTicketValue(popup, value))
@@ -76,6 +74,7 @@ void SyncToUI(const AdvancedStockDialog& dialog)
     if (auto* weight = FindControlAs<SpinField>(&dialog.window, {kSignature, kWeightField})) {
         weight->setLimits(0, kMostStockWeight);
         weight->setSpecialValueText(WordForUnset(dialog));
+        weight->setSuffix(u' ' + LocalizedString(dialog.bundle, "Stock Weight Unit"));
         weight->setNumber(dialog.stock.weight() == kUnset ? 0 : dialog.stock.weight());
     }
     if (QLineEdit* description = dialog.description()) {
@@ -132,7 +131,7 @@ OSStatus RunModalAdvancedStockDialog(const Bundle& bundle, JobContext context, S
     advancedstock::AdvancedStockDialog dialog{.bundle = bundle, .window = *window, .context = context, .stock = stock};
     SyncToUI(dialog);
     const EventHandler hits = InstallEventHandler(*window, [&](const HitEvent& hit) { return HandleHit(dialog, hit); });
-    result = RunModalDialog(bundle, *window, kHelpPage);
+    result = RunModalDialog(bundle, *window, {});
     if (result != ModalResult::OK)
         return noErr;
     if (const QLineEdit* description = dialog.description())

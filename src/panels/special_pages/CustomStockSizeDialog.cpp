@@ -170,6 +170,8 @@ void Begin(_CustomStockSizeDialogContext& dialog)
     PopulatePopupButtonFromMap(dialog.bundle, FindPopupButton(&dialog.window, {kSignature, kUnitsPopup}),
                                _CustomSizeUnitsMap, JobContext::Job);
     ShowSize(dialog);
+    if (SpinField* width = dialog.field(kWidthField))
+        width->selectAll();
 }
 
 EventHandler InstallHandler(_CustomStockSizeDialogContext& dialog)

@@ -98,7 +98,7 @@ QString GenerateStockSummary(const Bundle& bundle, JobContext context, const Sto
 QString StockSummaryText(const Bundle& bundle, const Stock* stock, JobContext context)
 {
     if (!stock)
-        return {};
+        return u""_s;
     const QString summary = GenerateStockSummary(bundle, context, *stock, u"\n"_s);
     if (!summary.isEmpty())
         return summary;
