@@ -108,9 +108,9 @@ TEST(SavedJobRules, JobNamesAreLatinWithoutWhatFileSystemsRefuse)
     const QString allowed = JobNameCharacters();
     EXPECT_EQ(allowed.size(), (126 - 32 + 1) + (255 - 160 + 1) - 10);
     for (const QChar c : u" ~Aé\u00a0ÿ%&'"_s)
-        EXPECT_TRUE(allowed.contains(c)) << c.unicode();
+        EXPECT_TRUE(allowed.contains(c)) << static_cast<int>(c.unicode());
     for (const QChar c : u"\"*/:;<>?\\|\t\u007f\u009f\u0100€"_s)
-        EXPECT_FALSE(allowed.contains(c)) << c.unicode();
+        EXPECT_FALSE(allowed.contains(c)) << static_cast<int>(c.unicode());
 }
 
 TEST(SavedJobRules, AHistoryOffersOnlyWhatCouldBeTyped)

@@ -1,5 +1,7 @@
 #include "panels/advanced/AboutDialog.h"
 #include "panels/advanced/AdvancedPanel.h"
+#include "panels/booklet_watermark/BookletDialog.h"
+#include "panels/paper_output/JobTypeSetups.h"
 #include "panels/paper_output/PaperOutputPanel.h"
 #include "panels/special_pages/AdvancedStockDialog.h"
 #include "panels/special_pages/CustomStockSizeDialog.h"
@@ -39,6 +41,13 @@ struct ExpectedControls {
     FourCharCode signature;
     std::vector<SInt32> numbers;
 };
+
+const std::vector<SInt32> kBookletFolds{booklet::kFoldLabel, booklet::kFoldNoneRadio, booklet::kFoldRadio,
+                                        booklet::kFoldAndStapleRadio};
+const std::vector<SInt32> kBookletLayout{booklet::kLayoutOffRadio, booklet::kLayoutOnRadio, booklet::kDrawOutlinesBox,
+                                         booklet::kNewSizeLabel,   booklet::kNewSizePopup,  booklet::kGutterLabel,
+                                         booklet::kGutterField,    booklet::kGutterRange,   booklet::kCreepLabel,
+                                         booklet::kCreepField,     booklet::kCreepRange,    booklet::kIllustration};
 
 // A panel or dialog that comes adds its line.
 const ExpectedControls kExpectedControls[] = {
@@ -99,6 +108,23 @@ const ExpectedControls kExpectedControls[] = {
      {advancedstock::kSizePopup, advancedstock::kColorPopup, advancedstock::kTypePopup, advancedstock::kPunchedPopup,
       advancedstock::kWeightField, advancedstock::kDescriptionField, advancedstock::kIcon}},
     {"Utilities", "CustomValue", "Util"_code, {1}},
+    {"SecurePrint",
+     "SecurePrint",
+     jobtypes::kSecurePrintSignature,
+     {jobtypes::kPasscodeLabel, jobtypes::kPasscodeField, jobtypes::kPasscodeLimits, jobtypes::kConfirmationLabel,
+      jobtypes::kConfirmationField, jobtypes::kConfirmationLimits}},
+    {"DelayedPrint", "DelayedPrint", jobtypes::kDelayedPrintSignature, {jobtypes::kTimeField}},
+    {"SavedJob",
+     "withPasscode",
+     jobtypes::kSavedJobSignature,
+     {jobtypes::kPasscodeLabel, jobtypes::kPasscodeField, jobtypes::kPasscodeLimits, jobtypes::kConfirmationLabel,
+      jobtypes::kConfirmationField, jobtypes::kConfirmationLimits, jobtypes::kSaveRadio, jobtypes::kSavePrintRadio,
+      jobtypes::kJobNameBox, jobtypes::kFolderBox, jobtypes::kSecureCheckBox, jobtypes::kFormatPicture}},
+    {"BookletCreation", "BookletFinishingOptions", booklet::kSignature, kBookletFolds},
+    {"BookletCreation", "BookletFinishingOptions", booklet::kSignature, kBookletLayout},
+    {"BookletCreation", "BookletOptions", booklet::kSignature, kBookletLayout},
+    {"BookletCreation", "BookletCreation", booklet::kSignature, kBookletFolds},
+    {"BookletCreation", "BookletCreation", booklet::kSignature, kBookletLayout},
 };
 
 QByteArray ContentOf(const QString& path)
