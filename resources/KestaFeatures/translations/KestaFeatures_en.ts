@@ -226,6 +226,22 @@
         <translation>Booklet Creation…</translation>
     </message>
     <message>
+        <source>Choose Paper</source>
+        <translation>Choose Paper</translation>
+    </message>
+    <message>
+        <source>Choose Finishing</source>
+        <translation>Choose Finishing</translation>
+    </message>
+    <message>
+        <source>Fax Setup Unavailable Header</source>
+        <translation>Faxes can’t be set up here yet</translation>
+    </message>
+    <message>
+        <source>Fax Setup Unavailable Message</source>
+        <translation>Choose another job type, or open saved settings that name the recipients.</translation>
+    </message>
+    <message>
         <source>Output Destination:</source>
         <translation>Output destination</translation>
     </message>
