@@ -15,6 +15,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
 #include <QLabel>
@@ -270,6 +271,20 @@ TEST_F(JobTypeDialogsTest, DelayedPrintStoresTheNextMomentOfATime)
     EXPECT_EQ(time, kToday + 86'399);
 }
 
+TEST_F(JobTypeDialogsTest, AMirroredWindowShowsTheHourFirst)
+{
+    SInt64 time = 20 * 3600 + 30 * 60;
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    ModalUser user;
+    user.then([](QWidget& window) {
+        const QString text = get<QTimeEdit>(window, kTimeField).text();
+        EXPECT_TRUE(text.startsWith(u"20:30") || text.startsWith(u"8:30")) << text.toStdString();
+    });
+    user.then(cancel);
+    RunModalDelayedPrintSetup(bundle, time);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
 TEST_F(JobTypeDialogsTest, ASavedJobStartsWithTheDocumentsNameInThePublicFolder)
 {
     ModalUser user;
@@ -408,6 +423,25 @@ TEST_F(JobTypeDialogsTest, AJobNameTakesNoSlashAndFortyCharacters)
     });
     user.then(cancel);
     runSavedJob();
+}
+
+TEST_F(JobTypeDialogsTest, WhatIsTypedIntoAFixedEntryTakesItsPlace)
+{
+    ModalUser user;
+    user.then([](QWidget& window) {
+        auto& name = get<HistoryComboBox>(window, kJobNameBox);
+        name.lineEdit()->setCursorPosition(3);
+        for (const QString& typed : {u"/"_s, u"A"_s, u"B"_s})
+            TypeIntoField(&name, typed);
+        EXPECT_EQ(name.fixedValue(), 1) << "until the field has settled";
+    });
+    user.then([](QWidget& window) {
+        EXPECT_EQ(get<HistoryComboBox>(window, kJobNameBox).typedText(), u"AB"_s);
+        ok(window);
+    });
+    runSavedJob();
+    EXPECT_EQ(details.savedJobName, u"AB"_s);
+    EXPECT_FALSE(details.useJobName);
 }
 
 TEST_F(JobTypeDialogsTest, OKWaitsForANameAndAFolder)

@@ -32,6 +32,7 @@ OSStatus RunModalDelayedPrintSetup(const Bundle& bundle, SInt64& time)
     auto* field = FindControlAs<QTimeEdit>(window.get(), {jobtypes::kDelayedPrintSignature, jobtypes::kTimeField});
     if (!field)
         return kInterfaceFileUnreadable;
+    field->setLayoutDirection(Qt::LeftToRight); // a mirrored field shows the seconds first
     field->setDisplayFormat(TimeFormat(field->locale()));
     field->setTime(QTime::fromMSecsSinceStartOfDay(TimeOfDay(time) * 1000));
     field->setFocus();
