@@ -7,6 +7,7 @@
 #include "host/PrintDialog.h"
 #include "host/PrintDialogControls.h"
 #include "host/PrintTexts.h"
+#include "host/SavedSettings.h"
 #include "platform/FileChooser.h"
 #include "platform/Notices.h"
 #include "platform/PropertyList.h"
@@ -98,7 +99,7 @@ bool PrintDialog::settleConflicts()
 
 bool PrintDialog::saveSettingsTo(const QString& path)
 {
-    const std::optional<FileError> error = WriteFile(path, jobSettings(), FileAccess::OwnerOnly);
+    const std::optional<FileError> error = WriteFile(path, WriteSavedSettings(tickets_), FileAccess::OwnerOnly);
     if (!error)
         return true;
     PrintFailure(error->text);

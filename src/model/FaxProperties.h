@@ -14,6 +14,9 @@ inline constexpr char kFaxRecipientEmailAddressProperty[] = "EmailAddress";
 inline constexpr char kFaxRecipientMailboxProperty[] = "Mailbox";
 inline constexpr char kFaxRecipientUIDProperty[] = "UID";
 
+// The address book's property for a recipient's mailbox.
+inline constexpr char kKMailboxABProperty[] = "com.kesta.mailbox";
+
 // The fax options.
 inline constexpr char kFaxConfirmationSheetProperty[] = "ConfirmationSheet"; // boolean
 inline constexpr char kFaxSendSpeedProperty[] = "SendSpeed";                 // 1 4800 bps, 2 G3, 3 Super G3

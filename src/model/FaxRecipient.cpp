@@ -11,20 +11,20 @@
 namespace kesta {
 namespace {
 
-using F = FaxRecipientFields;
+using R = FaxRecipientFields;
 
-constexpr Field<F> kFields[] = {
-    {kFaxRecipientFirstNameProperty, &F::firstName},
-    {kFaxRecipientLastNameProperty, &F::lastName},
-    {kFaxRecipientFaxNumberProperty, &F::faxNumber},
-    {kFaxRecipientFaxNumberLabelProperty, &F::faxNumberLabel},
-    {kFaxRecipientOrganizationProperty, &F::organization},
-    {kFaxRecipientPhoneNumberProperty, &F::phoneNumber},
-    {kFaxRecipientEmailAddressProperty, &F::emailAddress},
-    {kFaxRecipientMailboxProperty, &F::mailbox},
-    {kFaxRecipientUIDProperty, &F::uid},
+constexpr Field<R> kRecipientFields[] = {
+    {kFaxRecipientFirstNameProperty, &R::firstName},
+    {kFaxRecipientLastNameProperty, &R::lastName},
+    {kFaxRecipientFaxNumberProperty, &R::faxNumber},
+    {kFaxRecipientFaxNumberLabelProperty, &R::faxNumberLabel},
+    {kFaxRecipientOrganizationProperty, &R::organization},
+    {kFaxRecipientPhoneNumberProperty, &R::phoneNumber},
+    {kFaxRecipientEmailAddressProperty, &R::emailAddress},
+    {kFaxRecipientMailboxProperty, &R::mailbox},
+    {kFaxRecipientUIDProperty, &R::uid},
 };
-static_assert(CoversEveryField<F>(kFields));
+static_assert(CoversEveryField<R>(kRecipientFields));
 
 QString Line(const QString& text)
 {
@@ -47,14 +47,14 @@ FaxRecipient& FaxRecipient::operator=(const FaxRecipient& other)
 Dictionary FaxRecipient::toTicket() const
 {
     Dictionary ticket;
-    WriteFields(fields_, kFields, ticket);
+    WriteFields(fields_, kRecipientFields, ticket);
     return ticket;
 }
 
 void FaxRecipient::fromTicket(const Dictionary& ticket)
 {
-    UnsetFields(fields_, kFields);
-    ReadFields(fields_, kFields, ticket);
+    UnsetFields(fields_, kRecipientFields);
+    ReadFields(fields_, kRecipientFields, ticket);
 }
 
 void FaxRecipientRelease(FaxRecipient* recipient)

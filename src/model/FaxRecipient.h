@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/AddressBook.h"
 #include "platform/Value.h"
 
 #include <utility>
@@ -55,6 +56,13 @@ public:
 
     Dictionary toTicket() const;               // only what is there
     void fromTicket(const Dictionary& ticket); // what the ticket lacks is cleared
+
+    // The record of the address book that uid names; nothing when there is none.
+    std::optional<AddressBookPerson> abRecord() const;
+
+    // Adds the recipient to the address book, but for its last name, and keeps the new record's identifier as uid.
+    // False when it could not be added.
+    bool commitToAddressBook();
 
 private:
     FaxRecipientFields fields_;

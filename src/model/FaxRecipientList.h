@@ -29,6 +29,10 @@ public:
     Array toTicket() const;
     void fromTicket(const Array& ticket); // replaces all; an entry that is no dictionary is left out
 
+    // Makes a group of the recipients in the address book; those without a record there get one. False when the group
+    // could not be added or the address book not be saved.
+    bool saveAsABGroupWithName(const QString& name);
+
 private:
     std::vector<FaxRecipientRef> recipients_;
 };

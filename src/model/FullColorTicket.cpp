@@ -8,33 +8,33 @@
 namespace kesta {
 namespace {
 
-using F = FullColorFields;
+using C = FullColorFields;
 
 constexpr char kColorCastKey[] = "FCColorCast";
 constexpr char kTrappingKey[] = "FCTrapping";
 constexpr SInt32 kTrappingOn = 1;
 
-bool IsTrapping(const F& fields, SInt32 direction)
+bool IsTrapping(const C& fields, SInt32 direction)
 {
     return fields.trapping == kTrappingOn && direction != kUnset;
 }
 
-bool HasFastDirection(const F& fields)
+bool HasFastDirection(const C& fields)
 {
     return IsTrapping(fields, fields.trappingFastDirection);
 }
 
-bool HasSlowDirection(const F& fields)
+bool HasSlowDirection(const C& fields)
 {
     return IsTrapping(fields, fields.trappingSlowDirection);
 }
 
-bool TicketHasTrapping(const F&, const Dictionary& ticket)
+bool TicketHasTrapping(const C&, const Dictionary& ticket)
 {
     return CFDictionaryGetNumber<SInt32>(ticket, kTrappingKey).has_value();
 }
 
-template <const auto& key> bool TicketHasShortName(const F&, const Dictionary& ticket)
+template <const auto& key> bool TicketHasShortName(const C&, const Dictionary& ticket)
 {
     const QString* name = ticket.string(key);
     return name && name->size() <= kLongestProfileName;
@@ -44,46 +44,46 @@ constexpr char kGrayImagesKey[] = "GrayImagesProfile";
 constexpr char kGrayTextKey[] = "GrayTextAndGraphicsProfile";
 
 // clang-format off
-constexpr Field<F> kFields[] = {
+constexpr Field<C> kColorFields[] = {
 //   key                        field                           written           read
-    {"FCLightness",             &F::lightness},
-    {"FCContrast",              &F::contrast},
-    {"FCSaturation",            &F::saturation},
-    {kTrappingKey,              &F::trapping},
-    {"FCTrappingFastDirection", &F::trappingFastDirection,      HasFastDirection, TicketHasTrapping},
-    {"FCTrappingSlowDirection", &F::trappingSlowDirection,      HasSlowDirection, TicketHasTrapping},
-    {"FCBlackOverprint",        &F::blackOverprint},
-    {"FCTRC",                   &F::trc},
-    {kGrayImagesKey,            &F::grayImagesProfile,          whenSet,          TicketHasShortName<kGrayImagesKey>},
-    {kGrayTextKey,              &F::grayTextAndGraphicsProfile, whenSet,          TicketHasShortName<kGrayTextKey>},
-    {"ImageRendering",          &F::imageObjectRendering},
-    {"TextRendering",           &F::textObjectRendering},
-    {"GraphicRendering",        &F::graphicObjectRendering},
+    {"FCLightness",             &C::lightness},
+    {"FCContrast",              &C::contrast},
+    {"FCSaturation",            &C::saturation},
+    {kTrappingKey,              &C::trapping},
+    {"FCTrappingFastDirection", &C::trappingFastDirection,      HasFastDirection, TicketHasTrapping},
+    {"FCTrappingSlowDirection", &C::trappingSlowDirection,      HasSlowDirection, TicketHasTrapping},
+    {"FCBlackOverprint",        &C::blackOverprint},
+    {"FCTRC",                   &C::trc},
+    {kGrayImagesKey,            &C::grayImagesProfile,          whenSet,          TicketHasShortName<kGrayImagesKey>},
+    {kGrayTextKey,              &C::grayTextAndGraphicsProfile, whenSet,          TicketHasShortName<kGrayTextKey>},
+    {"ImageRendering",          &C::imageObjectRendering},
+    {"TextRendering",           &C::textObjectRendering},
+    {"GraphicRendering",        &C::graphicObjectRendering},
 };
 
-constexpr Field<F> kColorCastFields[] = {
-    {"FCCyanRed",      &F::cyanRed},
-    {"FCMagentaGreen", &F::magentaGreen},
-    {"FCYellowBlue",   &F::yellowBlue},
+constexpr Field<C> kColorCastFields[] = {
+    {"FCCyanRed",      &C::cyanRed},
+    {"FCMagentaGreen", &C::magentaGreen},
+    {"FCYellowBlue",   &C::yellowBlue},
 };
 // clang-format on
 
 struct ProfileField {
     const char* key;
-    ColorProfile F::*member;
+    ColorProfile C::*member;
     SInt32 namedKind;
 };
 
 constexpr auto kProfiles = std::to_array<ProfileField>({
-    {"RGBImagesProfile", &F::rgbImagesProfile, kNamedRGBProfile},
-    {"RGBTextAndGraphicsProfile", &F::rgbTextAndGraphicsProfile, kNamedRGBProfile},
-    {"CMYKImagesProfile", &F::cmykImagesProfile, kNamedCMYKProfile},
-    {"CMYKTextAndGraphicsProfile", &F::cmykTextAndGraphicsProfile, kNamedCMYKProfile},
-    {"DestinationProfile", &F::destinationProfile, kNamedDestinationProfile},
+    {"RGBImagesProfile", &C::rgbImagesProfile, kNamedRGBProfile},
+    {"RGBTextAndGraphicsProfile", &C::rgbTextAndGraphicsProfile, kNamedRGBProfile},
+    {"CMYKImagesProfile", &C::cmykImagesProfile, kNamedCMYKProfile},
+    {"CMYKTextAndGraphicsProfile", &C::cmykTextAndGraphicsProfile, kNamedCMYKProfile},
+    {"DestinationProfile", &C::destinationProfile, kNamedDestinationProfile},
 });
-static_assert(CoversEveryField<F>(kFields, std::size(kColorCastFields) + kProfiles.size()));
+static_assert(CoversEveryField<C>(kColorFields, std::size(kColorCastFields) + kProfiles.size()));
 
-void WriteColorCast(const F& fields, Dictionary& ticket)
+void WriteColorCast(const C& fields, Dictionary& ticket)
 {
     if (fields.cyanRed == kUnset || fields.magentaGreen == kUnset || fields.yellowBlue == kUnset)
         return;
@@ -114,7 +114,7 @@ void ReadProfile(ColorProfile& profile, const ProfileField& field, const Diction
 Dictionary FullColorOptions::asTicket() const
 {
     Dictionary ticket;
-    WriteFields(fields_, kFields, ticket);
+    WriteFields(fields_, kColorFields, ticket);
     WriteColorCast(fields_, ticket);
     for (const ProfileField& field : kProfiles)
         WriteProfile(fields_.*field.member, field, ticket);
@@ -124,7 +124,7 @@ Dictionary FullColorOptions::asTicket() const
 void FullColorOptions::fromTicket(const Dictionary& ticket)
 {
     fields_.trapping = fields_.trappingFastDirection = fields_.trappingSlowDirection = kUnset;
-    ReadFields(fields_, kFields, ticket);
+    ReadFields(fields_, kColorFields, ticket);
     if (const Dictionary* cast = ticket.dictionary(kColorCastKey))
         ReadFields(fields_, kColorCastFields, *cast);
     for (const ProfileField& field : kProfiles)

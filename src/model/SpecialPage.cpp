@@ -12,15 +12,15 @@ constexpr char kSidesImagedKey[] = "SidesImaged";
 constexpr char kQuantityKey[] = "Quantity";
 constexpr char kImageShiftKey[] = "com.kesta.print.ImageShiftOptionsPage";
 
-using F = ExceptionPageFields;
+using E = ExceptionPageFields;
 
-constexpr Field<F> kExceptionFields[] = {
-    {"EndPage", &F::endPage, always},
-    {"SidesImaged", &F::plex},
-    {"HalftoneScreen", &F::halftoneScreen, whenSet, never},
-    {"LightenDarken", &F::lightenDarken},
+constexpr Field<E> kExceptionFields[] = {
+    {"EndPage", &E::endPage, always},
+    {"SidesImaged", &E::plex},
+    {"HalftoneScreen", &E::halftoneScreen, whenSet, never},
+    {"LightenDarken", &E::lightenDarken},
 };
-static_assert(CoversEveryField<F>(kExceptionFields));
+static_assert(CoversEveryField<E>(kExceptionFields));
 
 Dictionary DictionaryOrEmpty(const Dictionary& ticket, const char* key)
 {

@@ -5,64 +5,64 @@
 namespace kesta {
 namespace {
 
-using F = StockFields;
+using S = StockFields;
 
 constexpr SInt32 kTypePrecutTab = 4;
 constexpr SInt32 kTypeCustom = 6;
 
-bool IsCustomSize(const F& fields)
+bool IsCustomSize(const S& fields)
 {
     return fields.size == kStockSizeCustom;
 }
 
-bool IsCoated(const F& fields)
+bool IsCoated(const S& fields)
 {
     return fields.sidesCoated != kUnset;
 }
 
-bool TicketHasCustomSize(const F&, const Dictionary& ticket)
+bool TicketHasCustomSize(const S&, const Dictionary& ticket)
 {
     return CFDictionaryGetNumber<SInt32>(ticket, "Size") == kStockSizeCustom;
 }
 
-bool TicketIsCoated(const F&, const Dictionary& ticket)
+bool TicketIsCoated(const S&, const Dictionary& ticket)
 {
     return CFDictionaryGetNumber<SInt32>(ticket, "SidesCoated").has_value();
 }
 
 // Tab stock itself keeps its modulus only until it is read back.
-bool TypeHasModulus(const F& read, const Dictionary&)
+bool TypeHasModulus(const S& read, const Dictionary&)
 {
     return read.type == kTypePrecutTab || read.type == kTypeCustom;
 }
 
 // clang-format off
-constexpr Field<F> kFields[] = {
+constexpr Field<S> kStockFields[] = {
 //   key               field               written       read
-    {"Size",           &F::size,           whenSet,      always},
-    {"Width",          &F::width,          IsCustomSize, TicketHasCustomSize},
-    {"Length",         &F::length,         IsCustomSize, TicketHasCustomSize},
-    {"Type",           &F::type,           always,       always},
-    {"CustomType",     &F::customType,     whenSet,      always},
-    {"Modulus",        &F::modulus,        whenSet,      TypeHasModulus},
-    {"Color",          &F::color,          whenSet,      always},
-    {"CustomColor",    &F::customColor,    whenSet,      always},
-    {"Weight",         &F::weight,         whenSet,      always},
-    {"Punched",        &F::punched,        whenSet,      always},
-    {"Description",    &F::description,    whenSet,      always},
-    {"SidesCoated",    &F::sidesCoated,    whenSet,      always},
-    {"kCoatingType",   &F::coatingType,    IsCoated,     TicketIsCoated},
-    {"Finish",         &F::finish,         whenSet,      always},
-    {"kGrain",         &F::grain,          whenSet,      always},
-    {"CustomName",     &F::customName,     whenSet,      always},
-    {"CustomNameOnly", &F::customNameOnly, whenSet,      always},
-    {"CustomComment",  &F::comment,        whenSet,      always},
-    {"Source",         &F::source,         whenSet,      always},
+    {"Size",           &S::size,           whenSet,      always},
+    {"Width",          &S::width,          IsCustomSize, TicketHasCustomSize},
+    {"Length",         &S::length,         IsCustomSize, TicketHasCustomSize},
+    {"Type",           &S::type,           always,       always},
+    {"CustomType",     &S::customType,     whenSet,      always},
+    {"Modulus",        &S::modulus,        whenSet,      TypeHasModulus},
+    {"Color",          &S::color,          whenSet,      always},
+    {"CustomColor",    &S::customColor,    whenSet,      always},
+    {"Weight",         &S::weight,         whenSet,      always},
+    {"Punched",        &S::punched,        whenSet,      always},
+    {"Description",    &S::description,    whenSet,      always},
+    {"SidesCoated",    &S::sidesCoated,    whenSet,      always},
+    {"kCoatingType",   &S::coatingType,    IsCoated,     TicketIsCoated},
+    {"Finish",         &S::finish,         whenSet,      always},
+    {"kGrain",         &S::grain,          whenSet,      always},
+    {"CustomName",     &S::customName,     whenSet,      always},
+    {"CustomNameOnly", &S::customNameOnly, whenSet,      always},
+    {"CustomComment",  &S::comment,        whenSet,      always},
+    {"Source",         &S::source,         whenSet,      always},
 };
 // clang-format on
-static_assert(CoversEveryField<F>(kFields));
+static_assert(CoversEveryField<S>(kStockFields));
 
-F Consistent(F fields)
+S Consistent(S fields)
 {
     if (fields.width != kUnset || fields.length != kUnset)
         fields.size = kStockSizeCustom;
@@ -75,7 +75,7 @@ F Consistent(F fields)
 
 Stock::Stock(const Dictionary& ticket)
 {
-    UnsetFields(fields_, kFields);
+    UnsetFields(fields_, kStockFields);
     fromTicket(ticket);
 }
 
@@ -119,18 +119,18 @@ void Stock::setType(SInt32 type)
 Dictionary Stock::asTicket() const
 {
     Dictionary ticket;
-    WriteFields(fields_, kFields, ticket);
+    WriteFields(fields_, kStockFields, ticket);
     return ticket;
 }
 
 void Stock::fromTicket(const Dictionary& ticket)
 {
-    ReadFields(fields_, kFields, ticket);
+    ReadFields(fields_, kStockFields, ticket);
 }
 
 bool Stock::operator==(const Stock& other) const
 {
-    return SameFields(fields_, other.fields_, kFields, Qt::CaseInsensitive);
+    return SameFields(fields_, other.fields_, kStockFields, Qt::CaseInsensitive);
 }
 
 void DefaultStock(Stock& stock, JobContext context)

@@ -34,6 +34,12 @@ QString DataDirectory()
     return Directory("XDG_DATA_HOME", "/.local/share");
 }
 
+QString MachineDirectory()
+{
+    const QString named = QFile::decodeName(qgetenv("KESTA_DATA_ROOT"));
+    return QDir::cleanPath(QDir::isAbsolutePath(named) ? named : QStringLiteral(KESTA_MACHINE_FOLDER));
+}
+
 bool MakeDirectory(const QString& path)
 {
     if (path.isEmpty() || QDir(path).exists())

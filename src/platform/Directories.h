@@ -8,6 +8,10 @@ namespace kesta {
 QString ConfigDirectory(); // $XDG_CONFIG_HOME/kesta-print
 QString DataDirectory();   // $XDG_DATA_HOME/kesta-print
 
+// What all users of the machine share: $KESTA_DATA_ROOT, or the folder that the build was configured with. Whoever
+// installs decides by its permissions who may write there; we never make it.
+QString MachineDirectory();
+
 // Makes the folder and those above it, readable by their owner alone; whether it is there now.
 bool MakeDirectory(const QString& path);
 

@@ -9,9 +9,9 @@ namespace kesta::test {
 namespace {
 
 // Sources below src/pde by what they build; what is not named here is the shell.
-constexpr auto kPdeHelpers = std::to_array<std::string_view>(
-    {"CFAdditions", "JobContext", "JobTypeCheck", "LocalizedText", "RecordFields", "TicketEntries", "TicketKeys",
-     "TicketUtilities", "XMLEntities"});
+constexpr auto kPdeHelpers =
+    std::to_array<std::string_view>({"CFAdditions", "JobContext", "JobTypeCheck", "LocalizedText", "RecordFields",
+                                     "TicketEntries", "TicketKeys", "TicketUtilities", "XMLEntities"});
 constexpr auto kPdeMenus = std::to_array<std::string_view>(
     {"BundleUtilities", "CustomValueDialog", "LocalizationUtilities", "Mappings", "MediaLimits", "MenuUtilities",
      "SettingMap", "SystemUtilities", "TextFieldUtilities", "ViewUtilities"});

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace kesta {
+namespace kesta::fax_recipient_test {
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -137,4 +137,4 @@ TEST(FaxRecipient, TextsMadeFromARecipient)
 }
 
 } // namespace
-} // namespace kesta
+} // namespace kesta::fax_recipient_test

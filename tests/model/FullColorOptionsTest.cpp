@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace kesta {
+namespace kesta::full_color_options_test {
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -188,4 +188,4 @@ TEST(FullColorOptions, ADamagedTicketReadsAsTheDefaults)
 }
 
 } // namespace
-} // namespace kesta
+} // namespace kesta::full_color_options_test

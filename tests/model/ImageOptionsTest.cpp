@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace kesta {
+namespace kesta::image_options_test {
 namespace {
 
 Number N(CFIndex number)
@@ -87,4 +87,4 @@ TEST(InvertImage, FlagsAreNumbersInTheTicket)
 }
 
 } // namespace
-} // namespace kesta
+} // namespace kesta::image_options_test

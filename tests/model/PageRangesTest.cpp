@@ -9,6 +9,7 @@ void PrintTo(const PageRange& range, std::ostream* out)
     *out << '{' << range.start << ", " << range.count << '}';
 }
 
+namespace page_ranges_test {
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -122,4 +123,5 @@ TEST(PageRanges, EachCodeHasItsAlert)
 }
 
 } // namespace
+} // namespace page_ranges_test
 } // namespace kesta

@@ -4,7 +4,7 @@
 
 #include <random>
 
-namespace kesta {
+namespace kesta::special_page_list_test {
 namespace {
 
 struct Range {
@@ -253,4 +253,4 @@ TEST(InsertList, MovesPastAnyInsertButOneBeforePageOne)
 }
 
 } // namespace
-} // namespace kesta
+} // namespace kesta::special_page_list_test

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace kesta {
+namespace kesta::special_page_test {
 namespace {
 
 Number N(CFIndex number)
@@ -88,4 +88,4 @@ TEST(Cover, EqualityIsOfSidesAndStock)
 }
 
 } // namespace
-} // namespace kesta
+} // namespace kesta::special_page_test

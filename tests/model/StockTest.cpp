@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace kesta {
+namespace kesta::stock_test {
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -192,4 +192,4 @@ TEST(Stock, DefaultsDependOnTheContextAndSpareSomeFields)
 }
 
 } // namespace
-} // namespace kesta
+} // namespace kesta::stock_test

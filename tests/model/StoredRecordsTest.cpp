@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-namespace kesta {
+namespace kesta::stored_records_test {
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -101,4 +101,4 @@ TEST(StoredRecords, ListsKeepTheirBytes)
 }
 
 } // namespace
-} // namespace kesta
+} // namespace kesta::stored_records_test

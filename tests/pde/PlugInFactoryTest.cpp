@@ -41,8 +41,9 @@ protected:
         const char* problem = "";
         const OSStatus status = KestaPDEFindPanels(&problem);
         EXPECT_EQ(status, problem ? kFileNotFound : noErr);
+        const QString sentence = QString::fromUtf8(problem); // good until the next call
         EXPECT_EQ(KestaPDEFindPanels(nullptr), status);
-        return QString::fromUtf8(problem);
+        return sentence;
     }
 };
 

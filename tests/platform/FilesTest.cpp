@@ -1,6 +1,7 @@
 #include "platform/Directories.h"
 #include "platform/SafeFile.h"
 #include "platform/UserPreferences.h"
+#include "support/SmallDisk.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>
@@ -10,8 +11,6 @@
 #include <QTemporaryDir>
 
 #include <cerrno>
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -28,26 +27,6 @@ int Mode(const QString& path)
     struct stat status = {};
     return stat(QFile::encodeName(path).constData(), &status) == 0 ? static_cast<int>(status.st_mode & 0777) : -1;
 }
-
-// No file grows beyond the limit while it lives: as good as a full disk.
-class SmallDisk {
-public:
-    explicit SmallDisk(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit small{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, signal_);
-    }
-
-private:
-    void (*signal_)(int);
-    rlimit before_{};
-};
 
 class FilesTest : public testing::Test {
 protected:
@@ -77,7 +56,7 @@ TEST_F(FilesTest, AFullDiskLeavesTheFileAsItWas)
     const QString other = folder.filePath(QStringLiteral("new"));
     std::optional<FileError> replaced, created;
     {
-        const SmallDisk disk(1000);
+        const test::SmallDisk disk(1000);
         replaced = WriteFile(path, QByteArray(5000, 'x'));
         created = WriteFile(other, QByteArray(5000, 'x'));
     }
@@ -145,7 +124,7 @@ TEST_F(FilesTest, AFailedWriteOfPreferencesSaysItsCode)
     testing::internal::CaptureStderr();
     bool written = true;
     {
-        const SmallDisk disk(100);
+        const test::SmallDisk disk(100);
         written = WriteUserPreferences("x.plist", Dictionary{{"new", QString(5000, u'x')}});
     }
     EXPECT_FALSE(written);
@@ -161,6 +140,11 @@ TEST_F(FilesTest, FoldersFollowTheEnvironment)
     qputenv("HOME", "/home/somebody/");
     EXPECT_EQ(ConfigDirectory(), QStringLiteral("/home/somebody/.config/kesta-print"));
     EXPECT_EQ(DataDirectory(), QStringLiteral("/home/somebody/.local/share/kesta-print"));
+    qputenv("KESTA_DATA_ROOT", "/srv/shared/");
+    EXPECT_EQ(MachineDirectory(), QStringLiteral("/srv/shared"));
+    qputenv("KESTA_DATA_ROOT", "relative");
+    EXPECT_TRUE(QDir::isAbsolutePath(MachineDirectory()));
+    qunsetenv("KESTA_DATA_ROOT");
     qunsetenv("HOME");
     EXPECT_EQ(ConfigDirectory(), QString());
     EXPECT_EQ(CopyUserPreferences("x.plist"), std::nullopt);

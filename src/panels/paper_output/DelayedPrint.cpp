@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace kesta {
 namespace {
 
-constexpr QLatin1StringView kHelpPage("How_to/m_ht_use_Delayed_Print.htm");
+constexpr QLatin1StringView kDelayedPrintHelp("How_to/m_ht_use_Delayed_Print.htm");
 
 // As the locale writes a time, and always with the seconds, which count too.
 QString TimeFormat(const QLocale& locale)
@@ -37,7 +37,7 @@ OSStatus RunModalDelayedPrintSetup(const Bundle& bundle, SInt64& time)
     field->setTime(QTime::fromMSecsSinceStartOfDay(TimeOfDay(time) * 1000));
     field->setFocus();
 
-    if (RunSetupDialog(bundle, *window, kHelpPage, [] { return true; }) == ModalResult::OK)
+    if (RunSetupDialog(bundle, *window, kDelayedPrintHelp, [] { return true; }) == ModalResult::OK)
         time = NextMomentAt(field->time().msecsSinceStartOfDay() / 1000, GetClock());
     return noErr;
 }

@@ -23,7 +23,7 @@ namespace {
 
 using namespace jobtypes;
 
-constexpr QLatin1StringView kHelpPage("Paper_Output/Job_Type/saved_job_e.htm");
+constexpr QLatin1StringView kSavedJobHelp("Paper_Output/Job_Type/saved_job_e.htm");
 constexpr auto kSaveRadios = std::to_array<Control>({kSaveRadio, kSavePrintRadio});
 static_assert(kSaveRadios.size() == SavedJobSaveOptionRadioMap.size());
 
@@ -181,7 +181,7 @@ OSStatus RunModalSavedJobDialog(const Bundle& bundle, JobTypeDetails& details)
         return !dialog.isSecure() || dialog.passcode.settle(JudgeSavedJobPasscode(dialog.passcode.passcode(),
                                                                                   dialog.passcode.confirmation()));
     };
-    if (RunSetupDialog(bundle, *window, kHelpPage, accept) == ModalResult::OK) {
+    if (RunSetupDialog(bundle, *window, kSavedJobHelp, accept) == ModalResult::OK) {
         SaveUIValuesToData(dialog, details);
         SaveHistories(dialog);
     }

@@ -1,0 +1,38 @@
+#include "platform/AddressBook.h"
+
+#include "platform/Installed.h"
+
+namespace kesta {
+namespace {
+
+class NoAddressBook : public AddressBook {
+public:
+    std::optional<AddressBookPerson> person(const QString&) override { return std::nullopt; }
+    std::optional<QString> addPerson(const AddressBookPerson&) override { return std::nullopt; }
+    std::optional<QString> addGroup(const QString&) override { return std::nullopt; }
+    bool addToGroup(const QString&, const QString&) override { return false; }
+    bool hasCustomProperty(const QString&) override { return false; }
+    bool addCustomProperty(const QString&) override { return false; }
+    bool save() override { return false; }
+};
+
+Installed<AddressBook>& TheAddressBook()
+{
+    static NoAddressBook none;
+    static Installed<AddressBook> installed(none);
+    return installed;
+}
+
+} // namespace
+
+AddressBook* AddressBook::install(AddressBook* book)
+{
+    return TheAddressBook().install(book);
+}
+
+AddressBook& GetAddressBook()
+{
+    return TheAddressBook().current();
+}
+
+} // namespace kesta
