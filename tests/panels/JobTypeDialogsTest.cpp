@@ -18,6 +18,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -25,6 +26,7 @@
 #include <QTimeEdit>
 
 #include <cstring>
+#include <string>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -102,6 +104,13 @@ protected:
         QLineEdit& field = get(window, number);
         field.selectAll();
         text.isEmpty() ? field.del() : TypeIntoField(&field, text);
+    }
+    // A key of the keyboard, wherever the focus is.
+    static void press(QWidget& window, char c)
+    {
+        const int key = c == '\t' ? int{Qt::Key_Tab} : c == '\r' ? int{Qt::Key_Return} : int{c};
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(QLatin1Char(c)));
+        QApplication::sendEvent(window.focusWidget(), &event);
     }
     static std::string passcodes(QWidget& window)
     {
@@ -237,6 +246,26 @@ TEST_F(JobTypeDialogsTest, AStoredPasscodeIsAlreadyConfirmed)
     runSecurePrint();
     EXPECT_EQ(passcode, u"4711"_s);
     EXPECT_TRUE(notices.shown.empty());
+}
+
+TEST_F(JobTypeDialogsTest, TheKeyboardAloneWillDo)
+{
+    ModalUser user;
+    user.then([](QWidget& window) {
+        for (const char c : std::string("24680\t24680\r"))
+            press(window, c);
+    });
+    runSecurePrint();
+    EXPECT_EQ(passcode, u"24680"_s);
+
+    const QTime before = QTime(12, 34, 56);
+    SInt64 time = before.msecsSinceStartOfDay() / 1000;
+    user.then([](QWidget& window) {
+        for (const char c : std::string("21\r"))
+            press(window, c);
+    });
+    RunModalDelayedPrintSetup(bundle, time);
+    EXPECT_EQ(time % 86'400, 21 * 3600 + 34 * 60 + 56);
 }
 
 TEST_F(JobTypeDialogsTest, DelayedPrintStoresTheNextMomentOfATime)

@@ -36,6 +36,7 @@ OSStatus RunModalDelayedPrintSetup(const Bundle& bundle, SInt64& time)
     field->setDisplayFormat(TimeFormat(field->locale()));
     field->setTime(QTime::fromMSecsSinceStartOfDay(TimeOfDay(time) * 1000));
     field->setFocus();
+    field->setSelectedSection(QDateTimeEdit::HourSection); // typing starts here
 
     if (RunSetupDialog(bundle, *window, kDelayedPrintHelp, [] { return true; }) == ModalResult::OK)
         time = NextMomentAt(field->time().msecsSinceStartOfDay() / 1000, GetClock());
