@@ -112,7 +112,7 @@ int RunDialog(const CommandLine& commandLine)
     if (!isScripted)
         return dialog.run();
     const ScriptPlayer player(std::move(script), dialog,
-                              [texts](const QString& key) { return TranslationsOf(key, *texts); });
+                              [bundle = texts](const QString& key) { return TranslationsOf(key, *bundle); });
     const int status = dialog.run();
     if (const std::optional<QString> fault = player.fault())
         return FailScript(*fault);
