@@ -10,6 +10,9 @@
 #include "toolkit/ToolkitServices.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 
 #include <cstdio>
 #include <span>
@@ -87,6 +90,15 @@ PlugInOrError PreparePlugIn(const QStringList& panels)
     return loaded;
 }
 
+// Qt's own texts, where they are installed, speak the dialog's language; the windows run in its direction.
+void FollowLanguage(const QLocale& language)
+{
+    auto* texts = new QTranslator(qApp);
+    if (texts->load(language, u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(texts);
+    QApplication::setLayoutDirection(language.textDirection());
+}
+
 int RunDialog(const CommandLine& commandLine)
 {
     const QStringList places = BundlePlaces(u"KestaPrint.bundle"_s);
@@ -94,6 +106,7 @@ int RunDialog(const CommandLine& commandLine)
     if (!texts)
         return Fail(
             u"the dialog's own files (KestaPrint.bundle) can't be read in %1: %2"_s.arg(places.join(u", "_s), error));
+    FollowLanguage(QLocale(TextsLanguage(*texts)));
     const bool isScripted = !commandLine.scriptPath.isEmpty();
     DialogScript script = ReadScript(commandLine.scriptPath);
     if (!script.error.isEmpty())
