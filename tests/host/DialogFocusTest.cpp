@@ -1,4 +1,4 @@
-// The dialog with the real pane and no mouse.
+// The dialog with the real pane: without a mouse, and with large texts.
 
 #include "host/PrintDialogControls.h"
 #include "host/PrintDialogFixture.h"
@@ -127,6 +127,29 @@ TEST_F(DialogFocusTest, EveryControlIsNamedAndMnemonicsAreUnique)
         }
         EXPECT_GE(reachable, 18);
         EXPECT_GE(mnemonics.size(), 14u);
+    });
+}
+
+TEST_F(DialogFocusTest, LargeFontsWidenTheWindowAndNothingOverlaps)
+{
+    show([](QWidget& window) {
+        EXPECT_GE(window.minimumSizeHint().width(), 540);
+        QFont font = window.font();
+        font.setPointSize(24);
+        window.setFont(font);
+        window.resize(540, 600);
+        QApplication::sendPostedEvents();
+        QRect before(0, 0, 1, 1);
+        for (const PrintControl number :
+             {kPrinterChoice, kCopiesField, kPagesField, kPerSheetChoice, kPortraitSegment, kLandscapeSegment}) {
+            const QWidget* control = FindControl(&window, {kPrintSignature, number});
+            ASSERT_TRUE(control);
+            const QRect place(control->mapTo(&window, QPoint()), control->size());
+            EXPECT_TRUE(window.rect().contains(place)) << number;
+            EXPECT_GT(place.left(), before.right()) << number;
+            before = place;
+        }
+        EXPECT_GT(window.width(), 540);
     });
 }
 
