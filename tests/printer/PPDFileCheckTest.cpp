@@ -118,8 +118,8 @@ TEST(PPDFileCheck, WhatTheLibraryRefusesIsSaidWithItsLine)
     EXPECT_NE(messages.find(", line 5."), std::string::npos) << messages;
 }
 
-// What is cut off within an option or a group is refused, although libcups would open it; cut off between them, the rest
-// is as if the PPD had never had it.
+// What is cut off within an option or a group is refused, although libcups would open it; cut off between them, the
+// rest is as if the PPD had never had it.
 TEST(PPDFileCheck, TruncatedDescriptionsDoNoHarm)
 {
     const qsizetype whole = PPDVariant().content().size();
