@@ -11,6 +11,7 @@
 #include "toolkit/ToolkitServices.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QTranslator>
 
 #include <cstdio>
@@ -97,6 +98,7 @@ int RunDialog(const CommandLine& commandLine)
         return Fail(
             u"the dialog's own files (KestaPrint.bundle) can't be read in %1: %2"_s.arg(places.join(u", "_s), error));
     const auto qtTexts = InstallQtTexts(*texts);
+    QApplication::setLayoutDirection(QLocale(TextsLanguage(*texts)).textDirection());
     const bool isScripted = !commandLine.scriptPath.isEmpty();
     DialogScript script = ReadScript(commandLine.scriptPath);
     if (!script.error.isEmpty())
