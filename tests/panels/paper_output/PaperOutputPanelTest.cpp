@@ -289,9 +289,11 @@ TEST_F(PaperOutputPanelTest, TwoSidedAndBookletAreLeftToTheirOwners)
 
 TEST_F(PaperOutputPanelTest, ASingleStapleFollowsThePage)
 {
-    pageFormat.set("X", key::PMOrientation, Number::Index(2));
     open();
     EXPECT_TRUE(choose(kFinishingMenuButton, kStapleOnce));
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(PPDCopyCurrentChoice(settings, "StapleLocation"), u"SinglePortrait"_s);
+    pageFormat.set("X", key::PMOrientation, Number::Index(2)); // turned since
     ASSERT_EQ(sync(false), noErr);
     EXPECT_EQ(PPDCopyCurrentChoice(settings, "StapleLocation"), u"SingleLandscape"_s);
 }
@@ -332,6 +334,9 @@ TEST_F(PaperOutputPanelTest, WhatIsMissingIsAnsweredWithItsStatus)
     EXPECT_EQ(slots->Open(prologue.context), kInvalidContext) << "never initialized";
     EXPECT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, nullptr), kInvalidContext);
     EXPECT_EQ(slots->Sync(prologue.context, nullptr, true), kSyncWithoutContext);
+    session.data.erase(QString::fromLatin1(kPMPageFormatTicket));
+    EXPECT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session), kNoSuchTicket);
+    EXPECT_EQ(sync(false), noErr);
     session.data.clear();
     EXPECT_EQ(sync(true), kNoSuchTicket);
     EXPECT_EQ(sync(false), kNoSuchTicket);
