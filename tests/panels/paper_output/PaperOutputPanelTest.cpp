@@ -6,6 +6,7 @@
 #include "pde/MenuUtilities.h"
 #include "pde/TicketKeys.h"
 #include "pde/TicketUtilities.h"
+#include "platform/Notices.h"
 #include "support/Accessories.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
@@ -23,7 +24,13 @@ using namespace Qt::StringLiterals;
 namespace kesta::paper_output {
 namespace {
 
-// The panel in a pane, over a session with three tickets, driven through its ten slots.
+struct HeardNotices : Notices {
+    void show(const Notice& notice) override { titles << notice.title; }
+    int ask(const Alert& alert) override { return CancelButtonOf(alert); }
+    QStringList titles;
+};
+
+// The panel in a pane, over a session with two tickets, driven through its ten slots.
 class PaperOutputPanelTest : public testing::Test {
 protected:
     PaperOutputPanelTest()
@@ -200,6 +207,10 @@ TEST_F(PaperOutputPanelTest, AFaxKeepsItsDataAndSaysWhyItCantBeSetUp)
     EXPECT_EQ(button->toolTip(), u"Fax Setup Unavailable Header"_s);
     EXPECT_EQ(button->accessibleDescription(), button->toolTip());
     EXPECT_TRUE(GetJobTypeCheck()->hasFaxRecipients());
+    HeardNotices heard;
+    const WhileInstalled installed(heard);
+    GetJobTypeCheck()->runFaxSetup(*_paperOutputContext->bundle);
+    EXPECT_EQ(heard.titles, QStringList(u"Fax Setup Unavailable Header"_s));
     EXPECT_TRUE(test::Pick(popup(kJobTypePopup), 1));
     EXPECT_EQ(button->toolTip(), QString());
     EXPECT_TRUE(test::Pick(popup(kJobTypePopup), kJobTypeFax)) << "no dialog comes up";
