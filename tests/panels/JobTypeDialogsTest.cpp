@@ -15,8 +15,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -24,6 +26,7 @@
 #include <QTimeEdit>
 
 #include <cstring>
+#include <string>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -101,6 +104,13 @@ protected:
         QLineEdit& field = get(window, number);
         field.selectAll();
         text.isEmpty() ? field.del() : TypeIntoField(&field, text);
+    }
+    // A key of the keyboard, wherever the focus is.
+    static void press(QWidget& window, char c)
+    {
+        const int key = c == '\t' ? int{Qt::Key_Tab} : c == '\r' ? int{Qt::Key_Return} : int{c};
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(QLatin1Char(c)));
+        QApplication::sendEvent(window.focusWidget(), &event);
     }
     static std::string passcodes(QWidget& window)
     {
@@ -238,6 +248,26 @@ TEST_F(JobTypeDialogsTest, AStoredPasscodeIsAlreadyConfirmed)
     EXPECT_TRUE(notices.shown.empty());
 }
 
+TEST_F(JobTypeDialogsTest, TheKeyboardAloneWillDo)
+{
+    ModalUser user;
+    user.then([](QWidget& window) {
+        for (const char c : std::string("24680\t24680\r"))
+            press(window, c);
+    });
+    runSecurePrint();
+    EXPECT_EQ(passcode, u"24680"_s);
+
+    const QTime before = QTime(12, 34, 56);
+    SInt64 time = before.msecsSinceStartOfDay() / 1000;
+    user.then([](QWidget& window) {
+        for (const char c : std::string("21\r"))
+            press(window, c);
+    });
+    RunModalDelayedPrintSetup(bundle, time);
+    EXPECT_EQ(time % 86'400, 21 * 3600 + 34 * 60 + 56);
+}
+
 TEST_F(JobTypeDialogsTest, DelayedPrintStoresTheNextMomentOfATime)
 {
     const StoppedClock clock;
@@ -268,6 +298,20 @@ TEST_F(JobTypeDialogsTest, DelayedPrintStoresTheNextMomentOfATime)
     });
     RunModalDelayedPrintSetup(bundle, time);
     EXPECT_EQ(time, kToday + 86'399);
+}
+
+TEST_F(JobTypeDialogsTest, AMirroredWindowShowsTheHourFirst)
+{
+    SInt64 time = 20 * 3600 + 30 * 60;
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    ModalUser user;
+    user.then([](QWidget& window) {
+        const QString text = get<QTimeEdit>(window, kTimeField).text();
+        EXPECT_TRUE(text.startsWith(u"20:30") || text.startsWith(u"8:30")) << text.toStdString();
+    });
+    user.then(cancel);
+    RunModalDelayedPrintSetup(bundle, time);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST_F(JobTypeDialogsTest, ASavedJobStartsWithTheDocumentsNameInThePublicFolder)
@@ -408,6 +452,25 @@ TEST_F(JobTypeDialogsTest, AJobNameTakesNoSlashAndFortyCharacters)
     });
     user.then(cancel);
     runSavedJob();
+}
+
+TEST_F(JobTypeDialogsTest, WhatIsTypedIntoAFixedEntryTakesItsPlace)
+{
+    ModalUser user;
+    user.then([](QWidget& window) {
+        auto& name = get<HistoryComboBox>(window, kJobNameBox);
+        name.lineEdit()->setCursorPosition(3);
+        for (const QString& typed : {u"/"_s, u"A"_s, u"B"_s})
+            TypeIntoField(&name, typed);
+        EXPECT_EQ(name.fixedValue(), 1) << "until the field has settled";
+    });
+    user.then([](QWidget& window) {
+        EXPECT_EQ(get<HistoryComboBox>(window, kJobNameBox).typedText(), u"AB"_s);
+        ok(window);
+    });
+    runSavedJob();
+    EXPECT_EQ(details.savedJobName, u"AB"_s);
+    EXPECT_FALSE(details.useJobName);
 }
 
 TEST_F(JobTypeDialogsTest, OKWaitsForANameAndAFolder)

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace kesta {
 namespace {
 
-constexpr QLatin1StringView kHelpPage("How_to/m_ht_use_Delayed_Print.htm");
+constexpr QLatin1StringView kDelayedPrintHelp("How_to/m_ht_use_Delayed_Print.htm");
 
 // As the locale writes a time, and always with the seconds, which count too.
 QString TimeFormat(const QLocale& locale)
@@ -32,11 +32,13 @@ OSStatus RunModalDelayedPrintSetup(const Bundle& bundle, SInt64& time)
     auto* field = FindControlAs<QTimeEdit>(window.get(), {jobtypes::kDelayedPrintSignature, jobtypes::kTimeField});
     if (!field)
         return kInterfaceFileUnreadable;
+    field->setLayoutDirection(Qt::LeftToRight); // a mirrored field shows the seconds first
     field->setDisplayFormat(TimeFormat(field->locale()));
     field->setTime(QTime::fromMSecsSinceStartOfDay(TimeOfDay(time) * 1000));
     field->setFocus();
+    field->setSelectedSection(QDateTimeEdit::HourSection); // typing starts here
 
-    if (RunSetupDialog(bundle, *window, kHelpPage, [] { return true; }) == ModalResult::OK)
+    if (RunSetupDialog(bundle, *window, kDelayedPrintHelp, [] { return true; }) == ModalResult::OK)
         time = NextMomentAt(field->time().msecsSinceStartOfDay() / 1000, GetClock());
     return noErr;
 }

@@ -66,8 +66,10 @@ QString PasscodeFields::confirmation() const
 
 void PasscodeFields::focus()
 {
-    if (passcode_)
-        passcode_->setFocus();
+    if (!passcode_)
+        return;
+    passcode_->setFocus();
+    passcode_->selectAll();
 }
 
 void PasscodeFields::enable(bool enabled)

@@ -11,16 +11,19 @@
 #include "toolkit/HistoryComboBox.h"
 #include "toolkit/InterfaceFile.h"
 #include "toolkit/PictureView.h"
+#include "toolkit/TextInput.h"
 #include "toolkit/TypedValueHistory.h"
 
+#include <QLineEdit>
 #include <QPushButton>
+#include <QTimer>
 
 namespace kesta {
 namespace {
 
 using namespace jobtypes;
 
-constexpr QLatin1StringView kHelpPage("Paper_Output/Job_Type/saved_job_e.htm");
+constexpr QLatin1StringView kSavedJobHelp("Paper_Output/Job_Type/saved_job_e.htm");
 constexpr auto kSaveRadios = std::to_array<Control>({kSaveRadio, kSavePrintRadio});
 static_assert(kSaveRadios.size() == SavedJobSaveOptionRadioMap.size());
 
@@ -124,7 +127,23 @@ void EnableOK(const SavedJobDialog& dialog)
     SetControlEnabled(GetWindowDefaultButton(dialog.window), complete);
 }
 
-EventHandler InstallHandlers(SavedJobDialog& dialog)
+// What is typed into a fixed entry takes its place: an entry with a few characters more would be a name that nobody
+// meant. A field can't change again while it asks.
+EventHandler InstallFixedEntryHandler(HistoryComboBox& box)
+{
+    return InstallEventHandler(box, [&box](const TextTypedEvent& event) {
+        if (!box.fixedValue() || event.replaced > 0 || event.isEditingOnly())
+            return EventResult::NotHandled;
+        QTimer::singleShot(0, &box, [&box, typed = event.typed] {
+            if (box.fixedValue())
+                box.lineEdit()->selectAll();
+            TypeIntoField(&box, typed);
+        });
+        return EventResult::Handled;
+    });
+}
+
+EventHandler InstallWindowHandler(SavedJobDialog& dialog)
 {
     return InstallEventHandler(
         dialog.window,
@@ -156,12 +175,13 @@ OSStatus RunModalSavedJobDialog(const Bundle& bundle, JobTypeDetails& details)
         return kInterfaceFileUnreadable;
     BuildControls(dialog);
     RestoreUIValuesFromData(dialog, details);
-    const EventHandler handler = InstallHandlers(dialog);
+    const EventHandler handlers[] = {InstallWindowHandler(dialog), InstallFixedEntryHandler(*dialog.jobName),
+                                     InstallFixedEntryHandler(*dialog.folder)};
     const auto accept = [&] {
         return !dialog.isSecure() || dialog.passcode.settle(JudgeSavedJobPasscode(dialog.passcode.passcode(),
                                                                                   dialog.passcode.confirmation()));
     };
-    if (RunSetupDialog(bundle, *window, kHelpPage, accept) == ModalResult::OK) {
+    if (RunSetupDialog(bundle, *window, kSavedJobHelp, accept) == ModalResult::OK) {
         SaveUIValuesToData(dialog, details);
         SaveHistories(dialog);
     }

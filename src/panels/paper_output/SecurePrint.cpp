@@ -7,7 +7,7 @@
 namespace kesta {
 namespace {
 
-constexpr QLatin1StringView kHelpPage("How_to/m_ht_use_Secure_Print.htm");
+constexpr QLatin1StringView kSecurePrintHelp("How_to/m_ht_use_Secure_Print.htm");
 
 } // namespace
 
@@ -29,7 +29,7 @@ OSStatus RunModalSecurePrintSetup(const Bundle& bundle, std::optional<QString>& 
     const auto accept = [&] {
         return fields.settle(JudgeSecurePrintPasscode(fields.passcode(), fields.confirmation()));
     };
-    if (RunSetupDialog(bundle, *window, kHelpPage, accept) == ModalResult::OK)
+    if (RunSetupDialog(bundle, *window, kSecurePrintHelp, accept) == ModalResult::OK)
         passcode = fields.passcode();
     return noErr;
 }

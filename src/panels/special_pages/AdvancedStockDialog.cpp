@@ -1,10 +1,10 @@
 #include "panels/special_pages/AdvancedStockDialog.h"
 
-#include "panels/DialogCommands.h"
 #include "panels/special_pages/CustomStockSizeDialog.h"
 #include "panels/special_pages/StockDescriptionSetup.h"
 #include "panels/special_pages/StockIcon.h"
 #include "panels/special_pages/StockMenuRules.h"
+#include "pde/DialogCommands.h"
 #include "pde/MenuUtilities.h"
 #include "pde/TextFieldUtilities.h"
 #include "platform/Bundle.h"

@@ -1,6 +1,6 @@
 #include "panels/special_pages/CustomStockSizeDialog.h"
 
-#include "panels/DialogCommands.h"
+#include "pde/DialogCommands.h"
 #include "pde/LocalizedText.h"
 #include "pde/MediaLimits.h"
 #include "pde/MenuUtilities.h"

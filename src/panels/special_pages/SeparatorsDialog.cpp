@@ -1,6 +1,6 @@
 #include "panels/special_pages/SeparatorsDialog.h"
 
-#include "panels/DialogCommands.h"
+#include "pde/DialogCommands.h"
 #include "pde/MenuUtilities.h"
 #include "toolkit/InterfaceFile.h"
 #include "toolkit/PictureView.h"

@@ -1,7 +1,7 @@
 #include "panels/special_pages/StockDescriptionSetup.h"
 
-#include "panels/DialogCommands.h"
 #include "panels/special_pages/StockIcon.h"
+#include "pde/DialogCommands.h"
 #include "pde/TextFieldUtilities.h"
 #include "toolkit/InterfaceFile.h"
 #include "toolkit/PictureView.h"

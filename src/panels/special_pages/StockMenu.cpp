@@ -73,6 +73,12 @@ void ShowStock(const _StockMenuCommandEventHandlerData& data)
     ShowStockIcon(data.iconView, data.stock);
 }
 
+void EnableStockMenuCommand(const _StockMenuCommandEventHandlerData& data, FourCharCode command, bool enabled)
+{
+    if (data.button)
+        data.button->changeItems([=](Menu& menu) { EnableStockCommand(menu, command, enabled); });
+}
+
 EventResult StockMenuCommandEventHandler(_StockMenuCommandEventHandlerData& data, const CommandEvent& event)
 {
     if (!data.stock || !data.bundle)

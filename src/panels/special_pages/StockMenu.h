@@ -42,6 +42,9 @@ EventResult StockMenuCommandEventHandler(_StockMenuCommandEventHandlerData& data
 // Makes the view show the paper as it is when it is drawn.
 EventResult StockIconEventHandler(_StockMenuCommandEventHandlerData& data, const DrawEvent& event);
 
+// Enables or disables what the button's menu has of that command, a submenu as a whole.
+void EnableStockMenuCommand(const _StockMenuCommandEventHandlerData& data, FourCharCode command, bool enabled);
+
 // Shows the stock in both views: for an owner that has changed it.
 void ShowStock(const _StockMenuCommandEventHandlerData& data);
 

@@ -1,7 +1,7 @@
 #include "panels/special_pages/StockTypeSetupDialog.h"
 
-#include "panels/DialogCommands.h"
 #include "panels/special_pages/TabStockRules.h"
+#include "pde/DialogCommands.h"
 #include "pde/MenuUtilities.h"
 #include "toolkit/InterfaceFile.h"
 #include "toolkit/SpinField.h"

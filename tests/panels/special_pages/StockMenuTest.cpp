@@ -138,6 +138,16 @@ TEST_F(StockMenuTest, AdvancedForgetsTheNameOnOKOnly)
     EXPECT_EQ(stock.customName(), QString());
 }
 
+TEST_F(StockMenuTest, ADisabledCommandCanNotBeChosen)
+{
+    initialize(JobContext::Insert);
+    EnableStockMenuCommand(data, kStockSizeCommand, false);
+    EXPECT_FALSE(choose(kStockSizeCommand, kStockSizeA4));
+    EXPECT_TRUE(choose(kStockColorCommand, kStockColorRed));
+    EnableStockMenuCommand(data, kStockSizeCommand, true);
+    EXPECT_TRUE(choose(kStockSizeCommand, kStockSizeA4));
+}
+
 TEST_F(StockMenuTest, TheIconShowsThePaperAsItIsWhenDrawn)
 {
     initialize(JobContext::Job);

@@ -1,4 +1,4 @@
-#include "panels/DialogCommands.h"
+#include "pde/DialogCommands.h"
 
 #include "pde/BundleUtilities.h"
 #include "toolkit/Controls.h"
