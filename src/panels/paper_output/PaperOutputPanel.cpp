@@ -37,20 +37,15 @@ void TakeJobName(_PaperOutputContext& panel, const Ticket& settings)
     panel.options.jobTypeDetails.savedJobName = name ? *name : LocalizedString(*panel.bundle, "Unknown");
 }
 
-// Missing page format: the orientation stays, the rest is read all the same.
-OSStatus ReadTickets(_PaperOutputContext& panel, const PrintSession& session, const Ticket& settings)
+void ReadSettings(_PaperOutputContext& panel, const Ticket& settings)
 {
-    const auto [pageFormat, status] = GetTicketFromSession(session, kPMPageFormatTicket);
-    if (pageFormat)
-        panel.options.orientation = ReadOrientation(*pageFormat);
     ReadTicket(panel.options, settings, panel.ppd);
     ShowTwoSided(panel, panel.options.duplexPopupValue); // not what the job has: the user's last pick
     ChangeFinishingMenus(panel, [&](Menu& menu) { EnableFinishingItems(menu, settings); });
     ShowOptions(panel);
-    return status;
 }
 
-OSStatus WriteTickets(_PaperOutputContext& panel, Ticket& settings)
+OSStatus WriteSettings(_PaperOutputContext& panel, Ticket& settings)
 {
     const bool isActive = panel.pane && panel.pane->isEnabled();
     return WriteTicket(panel.options, settings, {.booklet = isActive, .duplex = panel.wasOpened});
@@ -87,8 +82,14 @@ OSStatus Sync(_PaperOutputContext& panel, PrintSession& session, SyncDirection d
     const auto [settings, status] = GetTicketFromSession(session, kPMPrintSettingsTicket);
     if (!settings)
         return status;
-    return direction == SyncDirection::TicketsToControls ? ReadTickets(panel, session, *settings)
-                                                         : WriteTickets(panel, *settings);
+    // In both directions: the page may have been turned since. Without a page format the rest is done all the same.
+    const auto [pageFormat, pageFormatStatus] = GetTicketFromSession(session, kPMPageFormatTicket);
+    if (pageFormat)
+        panel.options.orientation = ReadOrientation(*pageFormat);
+    if (direction == SyncDirection::ControlsToTickets)
+        return WriteSettings(panel, *settings);
+    ReadSettings(panel, *settings);
+    return pageFormatStatus;
 }
 
 OSStatus Open(_PaperOutputContext& panel)

@@ -6,6 +6,7 @@
 #include "pde/MenuUtilities.h"
 #include "pde/TicketKeys.h"
 #include "pde/TicketUtilities.h"
+#include "platform/Notices.h"
 #include "support/Accessories.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
@@ -23,7 +24,13 @@ using namespace Qt::StringLiterals;
 namespace kesta::paper_output {
 namespace {
 
-// The panel in a pane, over a session with three tickets, driven through its ten slots.
+struct HeardNotices : Notices {
+    void show(const Notice& notice) override { titles << notice.title; }
+    int ask(const Alert& alert) override { return CancelButtonOf(alert); }
+    QStringList titles;
+};
+
+// The panel in a pane, over a session with two tickets, driven through its ten slots.
 class PaperOutputPanelTest : public testing::Test {
 protected:
     PaperOutputPanelTest()
@@ -200,6 +207,10 @@ TEST_F(PaperOutputPanelTest, AFaxKeepsItsDataAndSaysWhyItCantBeSetUp)
     EXPECT_EQ(button->toolTip(), u"Fax Setup Unavailable Header"_s);
     EXPECT_EQ(button->accessibleDescription(), button->toolTip());
     EXPECT_TRUE(GetJobTypeCheck()->hasFaxRecipients());
+    HeardNotices heard;
+    const WhileInstalled installed(heard);
+    GetJobTypeCheck()->runFaxSetup(*_paperOutputContext->bundle);
+    EXPECT_EQ(heard.titles, QStringList(u"Fax Setup Unavailable Header"_s));
     EXPECT_TRUE(test::Pick(popup(kJobTypePopup), 1));
     EXPECT_EQ(button->toolTip(), QString());
     EXPECT_TRUE(test::Pick(popup(kJobTypePopup), kJobTypeFax)) << "no dialog comes up";
@@ -289,9 +300,11 @@ TEST_F(PaperOutputPanelTest, TwoSidedAndBookletAreLeftToTheirOwners)
 
 TEST_F(PaperOutputPanelTest, ASingleStapleFollowsThePage)
 {
-    pageFormat.set("X", key::PMOrientation, Number::Index(2));
     open();
     EXPECT_TRUE(choose(kFinishingMenuButton, kStapleOnce));
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(PPDCopyCurrentChoice(settings, "StapleLocation"), u"SinglePortrait"_s);
+    pageFormat.set("X", key::PMOrientation, Number::Index(2)); // turned since
     ASSERT_EQ(sync(false), noErr);
     EXPECT_EQ(PPDCopyCurrentChoice(settings, "StapleLocation"), u"SingleLandscape"_s);
 }
@@ -332,6 +345,9 @@ TEST_F(PaperOutputPanelTest, WhatIsMissingIsAnsweredWithItsStatus)
     EXPECT_EQ(slots->Open(prologue.context), kInvalidContext) << "never initialized";
     EXPECT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, nullptr), kInvalidContext);
     EXPECT_EQ(slots->Sync(prologue.context, nullptr, true), kSyncWithoutContext);
+    session.data.erase(QString::fromLatin1(kPMPageFormatTicket));
+    EXPECT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session), kNoSuchTicket);
+    EXPECT_EQ(sync(false), noErr);
     session.data.clear();
     EXPECT_EQ(sync(true), kNoSuchTicket);
     EXPECT_EQ(sync(false), kNoSuchTicket);
