@@ -3,40 +3,32 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTabWidget>
 #include <QTimer>
-#include <QTreeView>
 
 #include <cstdio>
 #include <cstdlib>
 
 namespace {
 
-int CountRows(const QAbstractItemModel& model, const QModelIndex& parent = {})
-{
-    int rows = model.rowCount(parent);
-    for (int row = 0; row < model.rowCount(parent); ++row)
-        rows += CountRows(model, model.index(row, 0, parent));
-    return rows;
-}
-
-// The options are shown when the tree that holds them is visible, expanded and painted.
+// The options are shown when the tab that holds their pop-ups is in front and painted.
 bool ShowOptions()
 {
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        auto* tree = window->findChild<QTreeView*>();
         auto* tabs = window->findChild<QTabWidget*>();
-        if (!window->isVisible() || !tree || !tabs || !tree->model() || CountRows(*tree->model()) == 0)
+        auto* page = window->findChild<QWidget*>(QStringLiteral("cupsPropertiesPage"));
+        if (!window->isVisible() || !tabs || !page || page->window() != window)
             continue;
-        for (int i = 0; i < tabs->count(); ++i) {
-            if (tabs->widget(i)->isAncestorOf(tree))
-                tabs->setCurrentIndex(i);
-        }
-        tree->expandAll();
-        tree->viewport()->repaint();
-        std::printf("%d rows\n", CountRows(*tree->model()));
+        const auto options = page->findChildren<QComboBox*>().size();
+        if (tabs->indexOf(page) < 0 || options == 0)
+            continue;
+        tabs->setCurrentWidget(page);
+        QApplication::sendPostedEvents(); // the layout
+        window->repaint();
+        std::printf("%d options\n", static_cast<int>(options));
         return true;
     }
     return false;

@@ -22,6 +22,7 @@ void PrintDialog::startPrinters()
     const CommandLine& options = start_.commandLine;
     if (options.ppdPath.isEmpty()) {
         finder_.start(options.queue);
+        enableButtons();
         return;
     }
     DialogPrinter printer;
@@ -56,6 +57,7 @@ void PrintDialog::choosePrinter(int position)
         return;
     closePane();
     printer_.reset();
+    enableButtons();
     finder_.choose(position);
 }
 
@@ -103,8 +105,15 @@ void PrintDialog::openPane()
     for (const PrintControl button : {kHelpButton, kSaveSettingsButton, kCancelButton, kPrintButton})
         below.push_back(FindControl(window_.get(), {kPrintSignature, button}));
     paneArea_->placeInFocusOrder(below);
-    SetControlEnabled(FindControl(window_.get(), {kPrintSignature, kHelpButton}), pane_.has_value());
+    enableButtons();
     updateSummary();
+}
+
+// What can't be done now can't be pressed: without a printer there is nothing to print to, without a pane no help.
+void PrintDialog::enableButtons()
+{
+    SetControlEnabled(FindControl(window_.get(), {kPrintSignature, kHelpButton}), pane_.has_value());
+    SetControlEnabled(FindControl(window_.get(), {kPrintSignature, kPrintButton}), printer_ && !sending_);
 }
 
 PaneMessage PrintDialog::whyNoPane() const

@@ -7,6 +7,7 @@
 #include "host/PrintDialog.h"
 #include "host/PrintDialogControls.h"
 #include "host/PrintTexts.h"
+#include "host/SavedSettings.h"
 #include "platform/FileChooser.h"
 #include "platform/Notices.h"
 #include "platform/PropertyList.h"
@@ -18,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace kesta::host {
 namespace {
 
-constexpr int kAccept = 0; // of the buttons of the question about conflicts
+constexpr int kAccept = 0; // of the buttons of a question before printing
 
 // The sentences, and the changes of all conflicts, one a line each.
 Alert ConflictQuestion(const ConflictReport& report, const Bundle& texts)
@@ -44,13 +45,31 @@ Alert ConflictQuestion(const ConflictReport& report, const Bundle& texts)
             1};
 }
 
+// Of a queue that won't print what it is sent now; nothing when it will.
+std::optional<Alert> QueueQuestion(const Queue& queue, const Bundle& texts)
+{
+    if (queue.isAccepting && !queue.isStopped)
+        return std::nullopt;
+    const bool waits = queue.isAccepting;
+    QString message =
+        waits ? PrintText(texts, "Queue Stopped Message") : PrintText(texts, "Queue Not Accepting Message");
+    if (!queue.stateMessage.isEmpty())
+        message = PrintText(texts, "Queue Reason").arg(message, queue.stateMessage);
+    const QString title =
+        waits ? PrintText(texts, "Queue Stopped Title") : PrintText(texts, "Queue Not Accepting Title");
+    return Alert{title.arg(PrinterTitle(queue, texts)),
+                 message,
+                 {PrintText(texts, "Print Anyway"), PrintText(texts, "Go Back")},
+                 1};
+}
+
 } // namespace
 
 EventResult PrintDialog::print()
 {
     if (isBusy() || !printer_)
         return EventResult::Handled;
-    if (!fields_->checkPages())
+    if (!fields_->checkPages() || !acceptQueue())
         return EventResult::Swallowed;
     storeInTickets();
     if (!settleConflicts() || !saveAfterPrint())
@@ -62,6 +81,15 @@ EventResult PrintDialog::print()
     else
         end(0);
     return EventResult::Handled;
+}
+
+// False: the user goes back to the dialog.
+bool PrintDialog::acceptQueue() const
+{
+    const int position = finder_.position(); // the list says more than the single look-up: why it takes none
+    const Queue& queue = position ? finder_.queues()[position - 1] : printer_->queue;
+    const std::optional<Alert> question = QueueQuestion(queue, *start_.texts);
+    return !question || GetNotices().ask(*question) == kAccept;
 }
 
 void PrintDialog::storeInTickets()
@@ -98,7 +126,7 @@ bool PrintDialog::settleConflicts()
 
 bool PrintDialog::saveSettingsTo(const QString& path)
 {
-    const std::optional<FileError> error = WriteFile(path, jobSettings(), FileAccess::OwnerOnly);
+    const std::optional<FileError> error = WriteFile(path, WriteSavedSettings(tickets_), FileAccess::OwnerOnly);
     if (!error)
         return true;
     PrintFailure(error->text);
@@ -107,22 +135,28 @@ bool PrintDialog::saveSettingsTo(const QString& path)
     return false;
 }
 
+// A script can't answer the desktop's file dialog: it names the file on the command line.
+std::optional<QString> PrintDialog::askForFile()
+{
+    if (start_.scripted) {
+        PrintNote(u"the settings are not saved: no --save-settings FILE was given"_s);
+        return std::nullopt;
+    }
+    return GetFileChooser().save({.title = PrintText(*start_.texts, "Save Settings Title"),
+                                  .name = PrintText(*start_.texts, "Settings File Name"),
+                                  .patterns = {u"*.plist"_s}});
+}
+
 void PrintDialog::saveSettings()
 {
     if (!fields_->checkPages())
         return;
-    QString path = start_.commandLine.saveSettingsPath;
-    if (path.isEmpty()) {
-        const std::optional<QString> chosen =
-            GetFileChooser().save({.title = PrintText(*start_.texts, "Save Settings Title"),
-                                   .name = PrintText(*start_.texts, "Settings File Name"),
-                                   .patterns = {u"*.plist"_s}});
-        if (!chosen)
-            return;
-        path = *chosen;
-    }
+    const QString& named = start_.commandLine.saveSettingsPath;
+    const std::optional<QString> path = named.isEmpty() ? askForFile() : named;
+    if (!path)
+        return;
     storeInTickets();
-    saveSettingsTo(path);
+    saveSettingsTo(*path);
 }
 
 // Where there is no queue, saving is all that Print does.
@@ -133,14 +167,9 @@ bool PrintDialog::saveAfterPrint()
         return saveSettingsTo(path);
     if (printer_->isQueue())
         return true;
-    if (start_.scripted) {
-        PrintNote(u"the settings are not saved: no --save-settings FILE was given"_s);
+    const std::optional<QString> chosen = askForFile();
+    if (start_.scripted)
         return true;
-    }
-    const std::optional<QString> chosen =
-        GetFileChooser().save({.title = PrintText(*start_.texts, "Save Settings Title"),
-                               .name = PrintText(*start_.texts, "Settings File Name"),
-                               .patterns = {u"*.plist"_s}});
     return chosen && saveSettingsTo(*chosen);
 }
 
@@ -164,7 +193,6 @@ void PrintDialog::send()
     const PaneMessage word{PrintText(texts, "Sending Title").arg(PrinterTitle(printer_->queue, texts)),
                            PrintText(texts, "Sending Message").arg(documentName())};
     paneArea_->showProgress(word, 0, 0);
-    SetControlEnabled(FindControl(window_.get(), {kPrintSignature, kPrintButton}), false);
     sending_.emplace(SubmitJobAside(
         {.address = start_.commandLine.server},
         {.queue = printer_->queue.name,
@@ -175,18 +203,20 @@ void PrintDialog::send()
             paneArea_->showProgress(word, progress.sent, progress.total);
         },
         [this](const SubmissionResult& result) { sent(result); }));
+    enableButtons();
 }
 
 void PrintDialog::sent(const SubmissionResult& result)
 {
     sending_.reset();
-    SetControlEnabled(FindControl(window_.get(), {kPrintSignature, kPrintButton}), true);
+    enableButtons();
     if (result.sent()) {
         if (!start_.commandLine.silent)
             PrintLine(result.message);
         end(0);
     } else if (result.cancelled) {
         openPane();
+        GetNotices().show({.title = PrintText(*start_.texts, "Sending Stopped Title"), .message = result.message});
     } else {
         failedToPrint(result.message);
     }

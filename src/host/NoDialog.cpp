@@ -6,6 +6,7 @@
 #include "host/JobComposition.h"
 #include "host/ListOptions.h"
 #include "host/Queues.h"
+#include "host/SavedSettings.h"
 #include "host/Submission.h"
 
 #include "platform/JobSettings.h"
@@ -136,7 +137,7 @@ Failure SaveSettings(const Run& run)
     const QString& path = run.commandLine.saveSettingsPath;
     if (path.isEmpty())
         return std::nullopt;
-    const auto error = WriteFile(path, WriteJobSettings(run.tickets), FileAccess::OwnerOnly);
+    const auto error = WriteFile(path, WriteSavedSettings(run.tickets), FileAccess::OwnerOnly);
     return error ? std::optional(error->text) : std::nullopt;
 }
 

@@ -25,7 +25,6 @@ namespace kesta::host {
 namespace {
 
 constexpr QSize kUsualSize(640, 650);
-constexpr int kLeastWidth = 540;
 constexpr qsizetype kLargestSettings = 8 * 1024 * 1024; // bytes
 
 void SendCommand(QWidget& window, FourCharCode command)
@@ -94,7 +93,6 @@ void PrintDialog::setUpWindow()
     const QString document = documentName();
     window_->setWindowTitle(document.isEmpty() ? PrintText(texts, "Window Title No Document")
                                                : PrintText(texts, "Window Title").arg(document));
-    window_->setMinimumWidth(kLeastWidth);
     QSize size = kUsualSize;
     if (const QScreen* screen = window_->screen())
         size = size.boundedTo(screen->availableSize());

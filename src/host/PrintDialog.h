@@ -64,14 +64,17 @@ private:
     void presetFromPrinter();
     void openPane();
     void closePane(); // what the pane shows goes to the tickets first
+    void enableButtons();
     PaneMessage whyNoPane() const;
 
     // DialogPrinting.cpp: what Print and Save Settings do
     EventResult print();
+    bool acceptQueue() const;
     void storeInTickets();
     bool settleConflicts();
     bool saveSettingsTo(const QString& path);
     void saveSettings();
+    std::optional<QString> askForFile(); // where to save; nothing when the user cancels
     bool saveAfterPrint();
     void send();
     void sent(const SubmissionResult& result);

@@ -3,6 +3,7 @@
 #include "host/Console.h"
 #include "host/NoDialog.h"
 #include "host/PrintDialog.h"
+#include "host/QtTexts.h"
 #include "host/ScriptPlayer.h"
 #include "platform/Bundle.h"
 #include "platform/SafeFile.h"
@@ -10,6 +11,8 @@
 #include "toolkit/ToolkitServices.h"
 
 #include <QApplication>
+#include <QLocale>
+#include <QTranslator>
 
 #include <cstdio>
 #include <span>
@@ -94,6 +97,8 @@ int RunDialog(const CommandLine& commandLine)
     if (!texts)
         return Fail(
             u"the dialog's own files (KestaPrint.bundle) can't be read in %1: %2"_s.arg(places.join(u", "_s), error));
+    const auto qtTexts = InstallQtTexts(*texts);
+    QApplication::setLayoutDirection(QLocale(TextsLanguage(*texts)).textDirection());
     const bool isScripted = !commandLine.scriptPath.isEmpty();
     DialogScript script = ReadScript(commandLine.scriptPath);
     if (!script.error.isEmpty())
@@ -109,7 +114,7 @@ int RunDialog(const CommandLine& commandLine)
     if (!isScripted)
         return dialog.run();
     const ScriptPlayer player(std::move(script), dialog,
-                              [texts](const QString& key) { return TranslationsOf(key, *texts); });
+                              [bundle = texts](const QString& key) { return TranslationsOf(key, *bundle); });
     const int status = dialog.run();
     if (const std::optional<QString> fault = player.fault())
         return FailScript(*fault);

@@ -29,6 +29,9 @@ public:
     Array toTicket() const;
     void fromTicket(const Array& ticket); // replaces all; an entry that is no dictionary is left out
 
+    // Whether both name the same people in the same order, all that is known of them included.
+    bool operator==(const FaxRecipientList& other) const { return toTicket() == other.toTicket(); }
+
     // Makes a group of the recipients in the address book; those without a record there get one. False when the group
     // could not be added or the address book not be saved.
     bool saveAsABGroupWithName(const QString& name);

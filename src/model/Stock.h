@@ -5,12 +5,66 @@
 
 namespace kesta {
 
-inline constexpr SInt32 kStockSizeCustom = 75;
-inline constexpr SInt32 kStockSizeLetter = 204;
-inline constexpr SInt32 kStockTypeStandard = 1;
-inline constexpr SInt32 kStockTypeTransparency = 2;
-inline constexpr SInt32 kStockColorWhite = 1;
-inline constexpr SInt32 kStockColorClear = 6;
+// What the fields of a stock hold, as far as the code asks; sizes, kinds and colours are the ticket values of the PPD's
+// choices.
+enum StockSize : SInt32 { kStockSizeA4 = 4, kStockSizeCustom = 75, kStockSizeLetter = 204 };
+enum StockType : SInt32 {
+    kStockTypeStandard = 1,
+    kStockTypeTransparency = 2,
+    kStockTypePrePrinted = 3,
+    kStockTypePrecutTab = 4, // with a modulus
+    kStockTypeFullCutTab = 5,
+    kStockTypeOrdered = 6, // with a text and a modulus
+    kStockTypeText = 7,    // with a text
+    kStockTypeEnvelopes = 8,
+    kStockTypeLabels = 9,
+    kStockTypeRecycled = 10,
+    kStockTypePunched = 11,
+    kStockTypeCard = 12,
+    kStockTypeBond = 13,
+    kStockTypeLetterhead = 14,
+    kStockTypeCustom1 = 15, // and so on
+    kStockTypeCustom7 = 21,
+    kStockTypeOther = 22,
+    kStockTypeSystemDefault = 23,
+    kStockTypeTabStock = 24, // may have a modulus
+    kStockTypeHeavyLabels = 25,
+    kStockTypeCardReloaded = 26,
+    kStockTypeExtraHeavy = 27,
+    kStockTypeExtraHeavyReloaded = 28,
+    kStockTypeLightGloss = 29,
+    kStockTypeLightGlossReloaded = 30,
+    kStockTypeHeavyGloss = 31,
+    kStockTypeHeavyGlossReloaded = 32,
+    kStockTypeHeavyTabStock = 33, // may have a modulus
+    kStockTypeUnspecified = 34,
+    kStockTypeExtraHeavyPlus = 35,
+    kStockTypeExtraHeavyPlusReloaded = 36,
+    kStockTypeExtraHeavyGloss = 37,
+    kStockTypeExtraHeavyGlossReloaded = 38,
+    kStockTypeExtraHeavyLabels = 39,
+    kStockTypeRough = 40,
+    kStockTypeArchival = 45,
+};
+enum StockColor : SInt32 {
+    kStockColorWhite = 1,
+    kStockColorBlue = 2,
+    kStockColorYellow = 3,
+    kStockColorGreen = 4,
+    kStockColorPink = 5,
+    kStockColorClear = 6,
+    kStockColorBuff = 7,
+    kStockColorGoldenrod = 8,
+    kStockColorRed = 9,
+    kStockColorText = 10, // with a text
+    kStockColorIvory = 11,
+    kStockColorGray = 12,
+    kStockColorOrange = 13,
+    kStockColorUnspecified = 22,
+    kStockColorPrinterDefault = 23,
+};
+enum StockPunched : SInt32 { kStockNotPunched = 1, kStockPunched = 2 };
+enum StockSource : SInt32 { kStockSourcePostPrintInserter = 10 };
 
 // kUnset and empty texts mean not set.
 struct StockFields {

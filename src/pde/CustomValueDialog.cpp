@@ -1,31 +1,13 @@
 #include "pde/TextFieldUtilities.h"
 
-#include "pde/BundleUtilities.h"
+#include "pde/DialogCommands.h"
 #include "toolkit/InterfaceFile.h"
-#include "toolkit/ModalLoop.h"
 
 namespace kesta {
 namespace {
 
 constexpr ControlID kValueField{"Util"_code, 1};
 constexpr QLatin1StringView kHelpPage("image_options/db_custom_color_d.htm");
-
-EventResult HandleCommand(const Bundle& bundle, QWidget& window, FourCharCode command)
-{
-    switch (command) {
-    case kCommandOK:
-        EndModalLoop(window, ModalResult::OK);
-        return EventResult::Handled;
-    case kCommandCancel:
-        EndModalLoop(window, ModalResult::Cancel);
-        return EventResult::Handled;
-    case kCommandHelp:
-        DisplayHelp(bundle, kHelpPage);
-        return EventResult::Handled;
-    default:
-        return EventResult::NotHandled;
-    }
-}
 
 } // namespace
 
@@ -40,9 +22,7 @@ OSStatus RunModalCustomValueDialog(const Bundle& bundle, const TextLimits& limit
     field->setText(text.value_or(QString()));
     field->setFocus();
 
-    const EventHandler commands = InstallEventHandler(
-        *window, [&](const CommandEvent& event) { return HandleCommand(bundle, *window, event.command); });
-    result = RunModalLoop(*window);
+    result = RunModalDialog(bundle, *window, kHelpPage);
     text = result == ModalResult::OK ? std::optional(field->text()) : std::nullopt;
     return noErr;
 }

@@ -44,7 +44,7 @@ ShownPanel& GetShownPanel()
 
 void LoadPanels(PDEShellContext& shell)
 {
-    const std::vector<std::string> names = GetPanelFunctionNames();
+    const std::vector<std::string>& names = GetPanelFunctionNames();
     shell.panels.reserve(names.size());
     while (shell.panels.size() < names.size()) {
         const std::size_t position = shell.panels.size();

@@ -85,7 +85,7 @@ OSStatus Prologue(KestaPrologue* answer)
                    .title = shell->title.constData(),
                    .maximumWidth = kMaximumWidth,
                    .maximumHeight = kMaximumHeight};
-        shell.release();
+        static_cast<void>(shell.release()); // the caller's until Terminate
         return status;
     });
 }

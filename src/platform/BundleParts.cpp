@@ -100,6 +100,11 @@ std::optional<QString> Catalogues::text(QAnyStringView key, QAnyStringView table
     return std::nullopt;
 }
 
+QString Catalogues::language() const
+{
+    return translators_.empty() ? QString() : translators_.front()->language();
+}
+
 std::optional<QString> BundleCode::load()
 {
     if (handle_ || error_)

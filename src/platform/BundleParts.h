@@ -16,6 +16,7 @@ public:
     Catalogues(const QString& folder, const QString& name);
 
     std::optional<QString> text(QAnyStringView key, QAnyStringView table) const;
+    QString language() const; // of the preferred catalogue; empty without one
 
 private:
     std::vector<std::unique_ptr<QTranslator>> translators_;

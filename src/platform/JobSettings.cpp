@@ -39,6 +39,15 @@ Dictionary ClientsOf(const Ticket& ticket)
     return clients;
 }
 
+Dictionary Without(std::span<const NestedEntry> leftOut, Dictionary entries)
+{
+    for (const NestedEntry& nested : leftOut) {
+        if (Dictionary* dictionary = entries.dictionary(nested.key))
+            dictionary->remove(nested.entry);
+    }
+    return entries;
+}
+
 using Problem = std::optional<QString>; // one line; nothing when all is well
 
 Problem NotOurs(const QString& what)
@@ -122,13 +131,14 @@ void AddToSession(const JobTickets& tickets, PrintSession& session)
         PMSessionSetDataInSession(session, row.name, (tickets.*row.ticket).reference());
 }
 
-QByteArray WriteJobSettings(const JobTickets& tickets)
+QByteArray WriteJobSettings(const JobTickets& tickets, std::span<const NestedEntry> leftOut)
 {
     Dictionary root, clients;
     for (const NamedTicket& row : kTickets) {
         root.set(row.name, (tickets.*row.ticket).values());
         clients.set(row.name, ClientsOf(tickets.*row.ticket));
     }
+    root.set(kPMPrintSettingsTicket, Without(leftOut, tickets.printSettings.values()));
     root.set(kPPD, tickets.printSettings.ppdDict());
     root.set(kClients, std::move(clients));
     return WritePropertyList(root);

@@ -3,6 +3,8 @@
 #include "platform/PrintSession.h"
 #include "platform/Ticket.h"
 
+#include <span>
+
 namespace kesta {
 
 // The tickets of one job.
@@ -15,8 +17,12 @@ void AddToSession(const JobTickets& tickets, PrintSession& session);
 
 // Job settings as a file holds them: an XML property list of the tickets' entries with their clients, and of the
 // print-settings ticket's PPD choices. What was read from these bytes is written as the same bytes. Locks are a
-// session's own affair and are not saved.
-QByteArray WriteJobSettings(const JobTickets& tickets);
+// session's own affair and are not saved. The named entries of dictionaries in the print-settings ticket are left out.
+struct NestedEntry {
+    const char* key;   // of the dictionary in the ticket
+    const char* entry; // in the dictionary
+};
+QByteArray WriteJobSettings(const JobTickets& tickets, std::span<const NestedEntry> leftOut = {});
 
 // Replaces everything in the tickets; nothing on success. Otherwise one line that says what is wrong and where, and the
 // tickets are as they were.

@@ -66,6 +66,16 @@ std::optional<QString> LineProblem(std::string_view content)
     return std::nullopt;
 }
 
+// Whether the last of the things that are opened is not closed: the file was not written or fetched whole.
+bool BreaksOff(const QByteArray& content)
+{
+    const auto isOpen = [&content](const char* opening, const char* closing) {
+        return content.lastIndexOf(opening) > content.lastIndexOf(closing);
+    };
+    return isOpen("\n*OpenUI", "\n*CloseUI") || isOpen("\n*JCLOpenUI", "\n*JCLCloseUI") ||
+           isOpen("\n*OpenGroup", "\n*CloseGroup");
+}
+
 std::optional<QString> ContentProblem(const QByteArray& content)
 {
     if (content.size() > kMaximumSize)
@@ -74,7 +84,9 @@ std::optional<QString> ContentProblem(const QByteArray& content)
         return QStringLiteral("it does not begin as a PPD file does");
     if (content.contains('\0'))
         return QStringLiteral("it holds bytes that are not text");
-    return LineProblem({content.constData(), static_cast<std::size_t>(content.size())});
+    if (std::optional<QString> problem = LineProblem({content.constData(), static_cast<std::size_t>(content.size())}))
+        return problem;
+    return BreaksOff(content) ? std::optional(QStringLiteral("it breaks off in the middle")) : std::nullopt;
 }
 
 } // namespace

@@ -219,9 +219,10 @@ bool Reader::readEntry(Dictionary& dictionary)
         return false;
     }
     std::optional<Value> value = readValue();
-    if (value)
-        dictionary.set(*key, *std::move(value));
-    return value.has_value();
+    if (!value)
+        return false;
+    dictionary.set(*key, *std::move(value));
+    return true;
 }
 
 // All text to the element's end.

@@ -61,8 +61,9 @@ QPalette OwnPalette(bool dark)
 // Whether the colours are the toolkit's defaults, so that no desktop has a say in them.
 bool IsNobodysPalette(const QPalette& palette, const QPalette& defaults)
 {
-    return std::ranges::all_of(std::initializer_list{QPalette::Window, QPalette::WindowText, QPalette::Base,
-                                                     QPalette::Button, QPalette::Highlight},
+    return std::ranges::all_of(std::initializer_list<QPalette::ColorRole>{QPalette::Window, QPalette::WindowText,
+                                                                          QPalette::Base, QPalette::Button,
+                                                                          QPalette::Highlight},
                                [&](QPalette::ColorRole role) { return palette.color(role) == defaults.color(role); });
 }
 

@@ -10,6 +10,7 @@
 namespace kesta {
 namespace {
 
+constexpr int kProgressHeight = 6;   // points
 constexpr int kInvalidMarkSize = 16; // points, of the mark inside an invalid field
 constexpr double kBoxRadius = 4;
 
@@ -81,10 +82,10 @@ void DrawField(const QStyleOption& option, QPainter& painter, const QWidget* wid
     DrawOutlined(painter, option.rect, fill, IsEnabled(option) ? colors.field : colors.hairline);
     if (invalid) {
         DrawRing(painter, option.rect, colors.error);
-        const QRect mark(option.rect.right() - kTextInset - kInvalidMarkSize + 1,
+        const int inset = qstyleoption_cast<const QStyleOptionComboBox*>(&option) ? kArrowWidth : kTextInset;
+        const QRect mark(option.rect.right() - inset - kInvalidMarkSize + 1,
                          option.rect.center().y() - kInvalidMarkSize / 2 + 1, kInvalidMarkSize, kInvalidMarkSize);
-        if (qstyleoption_cast<const QStyleOptionFrame*>(&option)) // others have their arrows there
-            DrawCautionMark(painter, QStyle::visualRect(option.direction, option.rect, mark), colors.error);
+        DrawCautionMark(painter, QStyle::visualRect(option.direction, option.rect, mark), colors.error);
     } else if (option.state & QStyle::State_HasFocus) {
         DrawRing(painter, option.rect, colors.accent);
     }
@@ -106,6 +107,8 @@ void DrawComboBox(const QStyleOptionComboBox& combo, QPainter& painter, const QW
 void DrawSpinBox(const QStyleOptionSpinBox& spin, QPainter& painter, const QWidget* widget, const QStyle& style)
 {
     DrawField(spin, painter, widget);
+    if (widget && widget->property("invalid").toBool())
+        return; // the mark has the place of the arrows
     const auto draw = [&](QStyle::SubControl part, QAbstractSpinBox::StepEnabledFlag step, Direction direction,
                           int shift) {
         const bool can = IsEnabled(spin) && spin.stepEnabled & step;
@@ -115,6 +118,23 @@ void DrawSpinBox(const QStyleOptionSpinBox& spin, QPainter& painter, const QWidg
     };
     draw(QStyle::SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, Direction::Up, 2);
     draw(QStyle::SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, Direction::Down, -2);
+}
+
+// How much of the bar is full; as long as nobody knows how much there is to do, all of it, in a tint.
+void DrawProgress(const QStyleOptionProgressBar& bar, QPainter& painter)
+{
+    const KestaColors colors = CurrentColors();
+    const QRect groove(bar.rect.left(), bar.rect.center().y() - kProgressHeight / 2, bar.rect.width(), kProgressHeight);
+    const int steps = bar.maximum - bar.minimum;
+    const QColor tint = Mix(colors.pane, colors.accent, 0.3);
+    DrawOutlined(painter, groove, steps > 0 ? colors.hairline : tint, steps > 0 ? colors.hairline : tint,
+                 kProgressHeight / 2);
+    if (steps <= 0 || bar.progress <= bar.minimum)
+        return;
+    QRect full = groove;
+    full.setWidth(static_cast<int>(qint64{groove.width()} * (bar.progress - bar.minimum) / steps));
+    DrawOutlined(painter, QStyle::visualRect(bar.direction, groove, full), colors.accent, colors.accent,
+                 kProgressHeight / 2);
 }
 
 void DrawCheckBox(const QStyleOption& option, QPainter& painter)
@@ -266,6 +286,12 @@ void KestaProxyStyle::drawControl(ControlElement element, const QStyleOption* op
             return drawItemText(painter, text, flags, option->palette, IsEnabled(*option), combo->currentText,
                                 QPalette::ButtonText);
         }
+        break;
+    case CE_ProgressBarGroove:
+        return; // with the contents
+    case CE_ProgressBarContents:
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option))
+            return DrawProgress(*bar, *painter);
         break;
     case CE_MenuItem:
         if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))

@@ -80,7 +80,8 @@ std::vector<qsizetype> Places(const QString& plain)
         if (CanBeTyped(plain[i]))
             places.push_back(i);
     }
-    std::ranges::stable_partition(places, [&plain](qsizetype i) { return i == 0 || plain[i - 1].isSpace(); });
+    std::stable_partition(places.begin(), places.end(),
+                          [&plain](qsizetype i) { return i == 0 || plain[i - 1].isSpace(); });
     return places;
 }
 

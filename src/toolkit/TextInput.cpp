@@ -74,7 +74,8 @@ void ShowInvalid(QWidget& field, bool invalid)
 {
     field.setProperty("invalid", invalid);
     const int room = invalid ? kMarkRoom : 0;
-    if (auto* line = qobject_cast<QLineEdit*>(&field))
+    QLineEdit* line = LineEditOf(&field);
+    if (line && !qobject_cast<QAbstractSpinBox*>(&field)) // there it stands over the arrows
         line->isRightToLeft() ? line->setTextMargins(room, 0, 0, 0) : line->setTextMargins(0, 0, room, 0);
     field.update();
 }
@@ -119,6 +120,9 @@ void SetInvalid(QWidget* field, bool invalid)
     ShowInvalid(*field, invalid);
     if (!invalid)
         return;
+    if (QLineEdit* before = LineEditOf(field->window()->focusWidget()))
+        before
+            ->deselect(); // behind an alert the window is not active and the field is not told that it loses the focus
     field->setFocus();
     const auto clear = [field] { SetInvalid(field, false); };
     if (QLineEdit* line = LineEditOf(field)) {

@@ -1,5 +1,6 @@
 #include "toolkit/ToolkitServices.h"
 
+#include "platform/FileChooser.h"
 #include "platform/HelpViewer.h"
 #include "platform/Notices.h"
 #include "toolkit/AlertWindow.h"
@@ -7,6 +8,8 @@
 #include "toolkit/ModalLoop.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QPointer>
 
@@ -45,14 +48,39 @@ private:
     QPointer<HelpWindow> window_;
 };
 
+// The desktop's own file dialog, which asks before it replaces a file.
+class FileDialogs : public FileChooser {
+public:
+    std::optional<QString> open(const FileQuestion& question) override
+    {
+        return Chosen(
+            QFileDialog::getOpenFileName(FrontModalWindow(), question.title, Proposal(question), Filter(question)));
+    }
+    std::optional<QString> save(const FileQuestion& question) override
+    {
+        return Chosen(
+            QFileDialog::getSaveFileName(FrontModalWindow(), question.title, Proposal(question), Filter(question)));
+    }
+
+private:
+    static QString Proposal(const FileQuestion& question) { return QDir(question.folder).filePath(question.name); }
+    static QString Filter(const FileQuestion& question) { return question.patterns.join(u' '); }
+    static std::optional<QString> Chosen(const QString& path)
+    {
+        return path.isEmpty() ? std::nullopt : std::optional(path);
+    }
+};
+
 } // namespace
 
 void InstallToolkitServices()
 {
     static NoticeWindows notices;
     static HelpWindows help;
+    static FileDialogs files;
     Notices::install(&notices);
     HelpViewer::install(&help);
+    FileChooser::install(&files);
 }
 
 } // namespace kesta

@@ -9,12 +9,12 @@ namespace kesta::test {
 namespace {
 
 // Sources below src/pde by what they build; what is not named here is the shell.
-constexpr auto kPdeHelpers = std::to_array<std::string_view>(
-    {"CFAdditions", "JobContext", "JobTypeCheck", "LocalizedText", "RecordFields", "TicketEntries", "TicketKeys",
-     "TicketUtilities", "XMLEntities"});
+constexpr auto kPdeHelpers =
+    std::to_array<std::string_view>({"CFAdditions", "JobContext", "JobTypeCheck", "LocalizedText", "RecordFields",
+                                     "TicketEntries", "TicketKeys", "TicketUtilities", "XMLEntities"});
 constexpr auto kPdeMenus = std::to_array<std::string_view>(
-    {"BundleUtilities", "CustomValueDialog", "LocalizationUtilities", "Mappings", "MediaLimits", "MenuUtilities",
-     "SettingMap", "SystemUtilities", "TextFieldUtilities", "ViewUtilities"});
+    {"BundleUtilities", "CustomValueDialog", "DialogCommands", "LocalizationUtilities", "Mappings", "MediaLimits",
+     "MenuUtilities", "SettingMap", "SystemUtilities", "TextFieldUtilities", "ViewUtilities"});
 constexpr auto kPdeInterface = std::to_array<std::string_view>({"PanelInterface", "PlugInInterface"});
 constexpr auto kPdePanelInterface = std::to_array<std::string_view>({"PanelOperations"});
 

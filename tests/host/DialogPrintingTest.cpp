@@ -73,7 +73,8 @@ TEST_F(DialogPrintingTest, SendingCanBeStopped)
         }
     });
     person.start(20);
-    EXPECT_EQ(run("type Copies 3\nprint\nexpect-value Copies 3\ncancel"), 0);
+    EXPECT_EQ(run("type Copies 3\nprint\nexpect \"Sending Stopped Title\"\npress OK\nexpect-value Copies 3\ncancel"),
+              0);
     server.signal(SIGCONT);
     EXPECT_EQ(fault, QString());
     EXPECT_TRUE(stopped);

@@ -90,6 +90,22 @@ TEST_F(PrintDialogTest, StartsFromTheCommandLineOverSavedSettings)
     EXPECT_TRUE(problem.contains(options.settingsPath)) << problem.toStdString();
 }
 
+TEST_F(PrintDialogTest, SecretsAreDumpedForTheScriptsOwnerAndNotSaved)
+{
+    JobTickets tickets;
+    tickets.printSettings.set("K", "com.kesta.print.JobType", Dictionary{{"SecurePrintPassword", "4711"}});
+    options.settingsPath = folder.filePath(u"start.plist"_s);
+    ASSERT_FALSE(WriteFile(options.settingsPath, WriteJobSettings(tickets)));
+    const QString dump = folder.filePath(u"dump.plist"_s);
+    EXPECT_EQ(run("dump \"" + dump.toUtf8() + "\"\nprint"), 0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_TRUE(ReadFile(dump, 1 << 20).bytes.value().contains("4711"));
+    EXPECT_EQ(QFile::permissions(dump) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    JobTickets saved;
+    readSaved(saved);
+    EXPECT_EQ(saved.printSettings.values().find("com.kesta.print.JobType")->dictionary()->count(), 0u);
+}
+
 TEST_F(PrintDialogTest, SaysWhyThereIsNoPaneAndPrintsAllTheSame)
 {
     fake.initialize = kInvalidContext;
@@ -189,7 +205,9 @@ TEST_F(PrintDialogTest, AMissingServerIsSaidInTheWindow)
 {
     options.ppdPath.clear();
     options.server = folder.filePath(u"no-server"_s);
-    EXPECT_EQ(run("expect \"No Server Title\"\npress \"Try Again\"\nexpect \"No Server Title\"\nprint\ncancel"), 0);
+    EXPECT_EQ(run("expect \"No Server Title\"\npress \"Try Again\"\nexpect \"No Server Title\"\nexpect-enabled #9024 "
+                  "no\ncancel"),
+              0);
     EXPECT_EQ(fault, QString());
     EXPECT_EQ(calls(), QString());
 }

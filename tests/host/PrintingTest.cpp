@@ -106,6 +106,27 @@ TEST_F(PrintingTest, TheDocumentArrivesWithExactlyTheseOptions)
     EXPECT_EQ(ReadAll(saved), WriteJobSettings(tickets)) << "what is saved is what was printed";
 }
 
+TEST_F(PrintingTest, SecretsTravelToThePrinterAndStayInNoFile)
+{
+    Ticket& ticket = tickets.printSettings;
+    ticket.set("K", "com.kesta.print.JobType",
+               Dictionary{{"JobType", Number::Index(1)}, {"SecurePrintPassword", "4711"}});
+    ticket.set("K", "com.kesta.print.FaxOptions", Dictionary{{"DialingPrefix", "0"}, {"CreditCard", "5500"}});
+    const QString saved = directory.filePath(u"saved.plist"_s);
+    ASSERT_EQ(print({u"--settings"_s, save(), u"--save-settings"_s, saved, QLatin1StringView(SAMPLE)}).status, 0);
+
+    const CapturedJob job = cups.job(1).value();
+    const auto arrived = [&job](const QString& key) {
+        return RunProgram(KESTA_TICKET, {u"get"_s, key}, job.options).output;
+    };
+    EXPECT_EQ(arrived(u"com.kesta.print.JobType/SecurePrintPassword"_s), "4711\n");
+    EXPECT_EQ(arrived(u"com.kesta.print.FaxOptions/CreditCard"_s), "5500\n");
+
+    ticket.set("K", "com.kesta.print.JobType", Dictionary{{"JobType", Number::Index(1)}});
+    ticket.set("K", "com.kesta.print.FaxOptions", Dictionary{{"DialingPrefix", "0"}});
+    EXPECT_EQ(ReadAll(saved), WriteJobSettings(tickets)) << "all but the secrets";
+}
+
 TEST_F(PrintingTest, StandardInputPagesAndCopies)
 {
     const Outcome printed =

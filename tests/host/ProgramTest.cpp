@@ -1,61 +1,24 @@
 // The program as its users start it.
 
+#include "host/ProgramFixture.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Ended {
-    int status = -1;
-    QString output;
-    QString errors;
-};
-
-class ProgramTest : public testing::Test {
-protected:
-    ProgramTest()
-    {
-        for (const char* screen : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-            environment.remove(QLatin1StringView(screen));
-        environment.insert(u"XDG_CONFIG_HOME"_s, folder.path());
-        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
-    }
-
-    Ended run(const QStringList& arguments, const QByteArray& input = {}) const
-    {
-        QProcess program;
-        program.setProcessEnvironment(environment);
-        program.setWorkingDirectory(folder.path());
-        program.start(QStringLiteral(KESTA_PRINT), arguments);
-        program.write(input);
-        program.closeWriteChannel();
-        const bool ended = program.waitForFinished(30'000) && program.exitStatus() == QProcess::NormalExit;
-        return {.status = ended ? program.exitCode() : -1,
-                .output = QString::fromUtf8(program.readAllStandardOutput()),
-                .errors = QString::fromUtf8(program.readAllStandardError())};
-    }
-
-    // Of a script for the product's printer without a queue.
-    Ended play(const QByteArray& script, const QStringList& more = {}) const
-    {
-        return run(QStringList{u"--ppd"_s, QStringLiteral(KESTA_PPD), u"--script"_s, u"-"_s} + more, script);
-    }
-
-    QTemporaryDir folder;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-};
+using kesta::test::Ended;
+using kesta::test::ProgramTest;
 
 TEST_F(ProgramTest, PlaysAScriptWithoutADisplayAndSavesTheSame)
 {
-    const Ended first = play("choose \"Mirrored Output:\" Enabled\nsync to-tickets\ndump dump.plist\nsummary\nprint",
-                             {u"--save-settings"_s, u"saved.plist"_s, u"-n"_s, u"2"_s});
+    const Ended first =
+        play("panel Advanced\nchoose \"Mirrored Output:\" Enabled\nsync to-tickets\ndump dump.plist\nsummary\nprint",
+             {u"--save-settings"_s, u"saved.plist"_s, u"-n"_s, u"2"_s});
     EXPECT_EQ(first.status, 0) << first.errors.toStdString();
     EXPECT_EQ(first.output, u"2 copies\n"_s);
     EXPECT_EQ(first.errors, QString());
@@ -66,7 +29,7 @@ TEST_F(ProgramTest, PlaysAScriptWithoutADisplayAndSavesTheSame)
     EXPECT_EQ(settings, dump.readAll());
     EXPECT_TRUE(settings.contains("com.kesta.print.InvertImageOptions"));
 
-    const Ended again = play("expect-value Copies 2\nexpect-value \"Mirrored Output:\" Enabled\nprint",
+    const Ended again = play("expect-value Copies 2\npanel Advanced\nexpect-value \"Mirrored Output:\" Enabled\nprint",
                              {u"--settings"_s, u"saved.plist"_s, u"--save-settings"_s, u"again.plist"_s});
     EXPECT_EQ(again.status, 0) << again.errors.toStdString();
     QFile second(folder.filePath(u"again.plist"_s));

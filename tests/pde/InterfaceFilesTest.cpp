@@ -1,5 +1,14 @@
 #include "panels/advanced/AboutDialog.h"
 #include "panels/advanced/AdvancedPanel.h"
+#include "panels/booklet_watermark/BookletDialog.h"
+#include "panels/paper_output/JobTypeSetups.h"
+#include "panels/paper_output/PaperOutputPanel.h"
+#include "panels/special_pages/AdvancedStockDialog.h"
+#include "panels/special_pages/CustomStockSizeDialog.h"
+#include "panels/special_pages/PreCutTabStockSetup.h"
+#include "panels/special_pages/SeparatorsDialog.h"
+#include "panels/special_pages/StockDescriptionSetup.h"
+#include "panels/special_pages/StockTypeSetupDialog.h"
 #include "pde/PDEShell.h"
 #include "platform/Bundle.h"
 #include "support/TestTexts.h"
@@ -33,6 +42,13 @@ struct ExpectedControls {
     std::vector<SInt32> numbers;
 };
 
+const std::vector<SInt32> kBookletFolds{booklet::kFoldLabel, booklet::kFoldNoneRadio, booklet::kFoldRadio,
+                                        booklet::kFoldAndStapleRadio};
+const std::vector<SInt32> kBookletLayout{booklet::kLayoutOffRadio, booklet::kLayoutOnRadio, booklet::kDrawOutlinesBox,
+                                         booklet::kNewSizeLabel,   booklet::kNewSizePopup,  booklet::kGutterLabel,
+                                         booklet::kGutterField,    booklet::kGutterRange,   booklet::kCreepLabel,
+                                         booklet::kCreepField,     booklet::kCreepRange,    booklet::kIllustration};
+
 // A panel or dialog that comes adds its line.
 const ExpectedControls kExpectedControls[] = {
     {"PDE_Shell",
@@ -46,11 +62,69 @@ const ExpectedControls kExpectedControls[] = {
      {advanced::kBookletOrderPopup, advanced::kOutputOptionsPopup, advanced::kBannerPopup,
       advanced::kRequestOffsetLabel, advanced::kRequestOffsetPopup, advanced::kMirrorPopup,
       advanced::kOptimizationPopup, advanced::kAboutButton, advanced::kWebLinksButton}},
+    {"Paper_Output",
+     "Panel",
+     paper_output::kSignature,
+     {paper_output::kJobTypeView,      paper_output::kPaperView,        paper_output::kTwoSidedView,
+      paper_output::kStaplingView,     paper_output::kPunchView,        paper_output::kOfficeFinishingRow,
+      paper_output::kFinishingView,    paper_output::kDestinationView,  paper_output::kQualityView,
+      paper_output::kJobTypePicture,   paper_output::kJobTypePopup,     paper_output::kJobTypeSetupButton,
+      paper_output::kPaperPicture,     paper_output::kPaperSummary,     paper_output::kStockMenuButton,
+      paper_output::kTwoSidedPicture,  paper_output::kTwoSidedLabel,    paper_output::kTwoSidedPopup,
+      paper_output::kStaplePicture,    paper_output::kStaplePopup,      paper_output::kPunchPicture,
+      paper_output::kPunchPopup,       paper_output::kFinishingPicture, paper_output::kFinishingMenuButton,
+      paper_output::kFinishingSummary, paper_output::kDestinationLabel, paper_output::kDestinationPopup,
+      paper_output::kQualityPicture,   paper_output::kQualityPopup}},
     {"About",
      "About",
      about::kSignature,
      {about::kPicture, about::kVersionText, about::kModelText, about::kAccessoriesText}},
+    {"StockDescriptionSetup",
+     "StockDescriptionSetup",
+     stockdescription::kSignature,
+     {stockdescription::kDescriptionField, stockdescription::kIcon}},
+    {"CustomStockSizeDialog",
+     "CustomStockSize",
+     customsize::kSignature,
+     {customsize::kWidthField, customsize::kWidthLimits, customsize::kLengthField, customsize::kLengthLimits,
+      customsize::kUnitsPopup, customsize::kPreview, customsize::kDefaultsButton}},
+    {"PreCutTabStockSetup",
+     "PreCutTabStockSetup",
+     precuttab::kSignature,
+     {precuttab::kSequenceField, precuttab::kSequenceLimits, precuttab::kPicture}},
+    {"StockTypeSetupDialog",
+     "TabStockSetup",
+     tabstock::kSignature,
+     {tabstock::kSequenceField, tabstock::kSequenceLimits, tabstock::kShiftPopup, tabstock::kShiftLabel,
+      tabstock::kShiftField, tabstock::kUnitsPopup, tabstock::kSequencePicture, tabstock::kShiftPicture}},
+    {"SeparatorsDialog",
+     "Separators",
+     separators::kSignature,
+     {separators::kOptionPopup, separators::kColorLabel, separators::kColorPopup, separators::kPicture,
+      separators::kDefaultsButton}},
+    {"AdvancedStockDialog",
+     "AdvancedStock",
+     advancedstock::kSignature,
+     {advancedstock::kSizePopup, advancedstock::kColorPopup, advancedstock::kTypePopup, advancedstock::kPunchedPopup,
+      advancedstock::kWeightField, advancedstock::kDescriptionField, advancedstock::kIcon}},
     {"Utilities", "CustomValue", "Util"_code, {1}},
+    {"SecurePrint",
+     "SecurePrint",
+     jobtypes::kSecurePrintSignature,
+     {jobtypes::kPasscodeLabel, jobtypes::kPasscodeField, jobtypes::kPasscodeLimits, jobtypes::kConfirmationLabel,
+      jobtypes::kConfirmationField, jobtypes::kConfirmationLimits}},
+    {"DelayedPrint", "DelayedPrint", jobtypes::kDelayedPrintSignature, {jobtypes::kTimeField}},
+    {"SavedJob",
+     "withPasscode",
+     jobtypes::kSavedJobSignature,
+     {jobtypes::kPasscodeLabel, jobtypes::kPasscodeField, jobtypes::kPasscodeLimits, jobtypes::kConfirmationLabel,
+      jobtypes::kConfirmationField, jobtypes::kConfirmationLimits, jobtypes::kSaveRadio, jobtypes::kSavePrintRadio,
+      jobtypes::kJobNameBox, jobtypes::kFolderBox, jobtypes::kSecureCheckBox, jobtypes::kFormatPicture}},
+    {"BookletCreation", "BookletFinishingOptions", booklet::kSignature, kBookletFolds},
+    {"BookletCreation", "BookletFinishingOptions", booklet::kSignature, kBookletLayout},
+    {"BookletCreation", "BookletOptions", booklet::kSignature, kBookletLayout},
+    {"BookletCreation", "BookletCreation", booklet::kSignature, kBookletFolds},
+    {"BookletCreation", "BookletCreation", booklet::kSignature, kBookletLayout},
 };
 
 QByteArray ContentOf(const QString& path)

@@ -94,6 +94,7 @@ TEST(Bundle, TextsFallBackToWiderLanguagesAndToEnglish)
     const WithLanguage austrian("de_AT");
     const BundleFolder folder(QStringLiteral("Sample"));
     const Bundle& bundle = SampleCopy(folder, "com.kesta.test.austrian");
+    EXPECT_EQ(TextsLanguage(bundle), QStringLiteral("de_AT"));
     EXPECT_EQ(LocalizedString(bundle, "Both"), QStringLiteral("beid"));
     EXPECT_EQ(LocalizedString(bundle, "Only German"), QStringLiteral("nur deutsch"));
     EXPECT_EQ(LocalizedString(bundle, "Only English"), QStringLiteral("only English"));
@@ -119,6 +120,7 @@ TEST(Bundle, LanguagesWithoutACatalogueReadEnglish)
         const WithLanguage other(language);
         const BundleFolder folder(QStringLiteral("Sample"));
         const Bundle& bundle = SampleCopy(folder, QByteArray("com.kesta.test.") + language);
+        EXPECT_EQ(TextsLanguage(bundle), QStringLiteral("en")) << language;
         EXPECT_EQ(LocalizedString(bundle, "Both"), QStringLiteral("both")) << language;
         EXPECT_EQ(LocalizedString(bundle, "Only German"), QStringLiteral("STRING NOT FOUND")) << language;
     }

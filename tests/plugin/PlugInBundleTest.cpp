@@ -29,6 +29,23 @@ protected:
         return visible;
     }
 
+    static void expectTexts(QWidget& pane)
+    {
+        for (const QLabel* label : Visible<QLabel>(pane))
+            EXPECT_NE(label->text(), QLatin1StringView(kStringNotFound)) << label->objectName().toStdString();
+        for (const QAbstractButton* button : Visible<QAbstractButton>(pane)) {
+            EXPECT_NE(button->text(), QLatin1StringView(kStringNotFound)) << button->objectName().toStdString();
+            EXPECT_FALSE(ControlName(*button).isEmpty()) << button->objectName().toStdString();
+            EXPECT_NE(ControlName(*button), QLatin1StringView(kStringNotFound)) << button->objectName().toStdString();
+        }
+    }
+    static bool showPanel(FakeDialog& dialog, int position)
+    {
+        return FindPopupButton(&dialog.window, {"Shel"_code, 16})->chooseItem(position);
+    }
+    static constexpr int kPanels = 2;
+    static constexpr int kAdvanced = 2;
+
     const KestaPlugInFactory factory = test::FindBuiltFactory();
 };
 
@@ -37,6 +54,7 @@ TEST_F(PlugInBundleTest, TwoPanesOneAfterTheOtherWriteTheirTickets)
     for (int run = 0; run < 2; ++run) {
         FakeDialog dialog;
         const auto mirror = [&](const PanelInterface&, KestaContextRef) {
+            EXPECT_TRUE(showPanel(dialog, kAdvanced));
             auto* popup = FindPopupButton(&dialog.window, {"Advn"_code, 106});
             return test::Pick(popup, 1) ? noErr : OSStatus{-1};
         };
@@ -54,8 +72,9 @@ TEST_F(PlugInBundleTest, ASecondPaneShowsWhatTheFirstOneWrote)
 {
     FakeDialog first, second;
     const auto choose = [&](const PanelInterface&, KestaContextRef) {
-        test::Pick(FindPopupButton(&first.window, {"Advn"_code, 107}), 1);
-        test::Pick(FindPopupButton(&first.window, {"Advn"_code, 105}), 1);
+        EXPECT_TRUE(showPanel(first, kAdvanced));
+        EXPECT_TRUE(test::Pick(FindPopupButton(&first.window, {"Advn"_code, 107}), 1));
+        EXPECT_TRUE(test::Pick(FindPopupButton(&first.window, {"Advn"_code, 105}), 1));
         return noErr;
     };
     ASSERT_EQ(test::RunPane(factory, first, choose), noErr);
@@ -72,14 +91,12 @@ TEST_F(PlugInBundleTest, NothingThatAPersonSeesLacksItsText)
 {
     FakeDialog dialog;
     const auto look = [&](const PanelInterface&, KestaContextRef) {
-        for (const QLabel* label : Visible<QLabel>(dialog.pane))
-            EXPECT_NE(label->text(), QLatin1StringView(kStringNotFound)) << label->objectName().toStdString();
-        for (const QAbstractButton* button : Visible<QAbstractButton>(dialog.pane)) {
-            EXPECT_NE(button->text(), QLatin1StringView(kStringNotFound)) << button->objectName().toStdString();
-            EXPECT_FALSE(ControlName(*button).isEmpty()) << button->objectName().toStdString();
-            EXPECT_NE(ControlName(*button), QLatin1StringView(kStringNotFound)) << button->objectName().toStdString();
+        for (int panel = 1; panel <= kPanels; ++panel) {
+            EXPECT_TRUE(showPanel(dialog, panel));
+            expectTexts(dialog.pane);
+            EXPECT_GE(Visible<PopupButton>(dialog.pane).size(), 5u);
         }
-        EXPECT_GE(Visible<PopupButton>(dialog.pane).size(), 6u);
+        EXPECT_FALSE(showPanel(dialog, kPanels + 1)) << "one more than the test knows";
         return noErr;
     };
     EXPECT_EQ(test::RunPane(factory, dialog, look), noErr);

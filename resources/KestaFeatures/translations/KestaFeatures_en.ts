@@ -226,6 +226,22 @@
         <translation>Booklet Creation…</translation>
     </message>
     <message>
+        <source>Choose Paper</source>
+        <translation>Choose Paper</translation>
+    </message>
+    <message>
+        <source>Choose Finishing</source>
+        <translation>Choose Finishing</translation>
+    </message>
+    <message>
+        <source>Fax Setup Unavailable Header</source>
+        <translation>Faxes can’t be set up here yet</translation>
+    </message>
+    <message>
+        <source>Fax Setup Unavailable Message</source>
+        <translation>Choose another job type, or open saved settings that name the recipients.</translation>
+    </message>
+    <message>
         <source>Output Destination:</source>
         <translation>Output destination</translation>
     </message>
@@ -291,8 +307,8 @@
     </message>
     <message>
         <source>:</source>
-        <extracomment>Stands between a word and its value</extracomment>
-        <translation>:</translation>
+        <extracomment>Stands between a word and its value, with the space that goes there</extracomment>
+        <translation>: </translation>
     </message>
     <message>
         <source>2HolePunch</source>
@@ -694,6 +710,86 @@
     <message>
         <source>Millimeters</source>
         <translation>Millimeters</translation>
+    </message>
+    <message>
+        <source>Min-Max Inches</source>
+        <extracomment>%1 and %2: the least and the most</extracomment>
+        <translation>%1 to %2 in</translation>
+    </message>
+    <message>
+        <source>Min-Max Millimeters</source>
+        <extracomment>%1 and %2: the least and the most</extracomment>
+        <translation>%1 to %2 mm</translation>
+    </message>
+    <message>
+        <source>Min-Max Number</source>
+        <extracomment>%1 and %2: the least and the most</extracomment>
+        <translation>%1 to %2</translation>
+    </message>
+    <message>
+        <source>Stock Description Title</source>
+        <translation>Paper Description</translation>
+    </message>
+    <message>
+        <source>Stock Description:</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Stock Description Hint</source>
+        <translation>A note about this paper, for whoever loads it.</translation>
+    </message>
+    <message>
+        <source>Precut Tab Setup</source>
+        <translation>Precut Tabs</translation>
+    </message>
+    <message>
+        <source>Precut Tab Hint</source>
+        <translation>After this many tabs the set begins again.</translation>
+    </message>
+    <message>
+        <source>Tab Shift Distance:</source>
+        <translation>Distance</translation>
+    </message>
+    <message>
+        <source>Separators Title</source>
+        <translation>Transparency Separators</translation>
+    </message>
+    <message>
+        <source>Advanced Stock Title</source>
+        <translation>Advanced Paper Selection</translation>
+    </message>
+    <message>
+        <source>Stock Size:</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Stock Color:</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Stock Type:</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Stock Punched:</source>
+        <translation>Holes</translation>
+    </message>
+    <message>
+        <source>StockNotPunched</source>
+        <translation>Not punched</translation>
+    </message>
+    <message>
+        <source>StockPunched</source>
+        <translation>Hole punched</translation>
+    </message>
+    <message>
+        <source>Stock Weight:</source>
+        <translation>Weight</translation>
+    </message>
+    <message>
+        <source>Stock Weight Unit</source>
+        <extracomment>Grams per square metre</extracomment>
+        <translation>g/m²</translation>
     </message>
     <message>
         <source>BookletWatermarkPanelTitle</source>

@@ -178,6 +178,36 @@ You can still print to %1 with copies, pages and orientation as set above.</tran
         <translation>Print at most %1 ranges at once.</translation>
     </message>
     <message>
+        <source>Queue Not Accepting Title</source>
+        <translation>%1 takes no jobs now</translation>
+    </message>
+    <message>
+        <source>Queue Not Accepting Message</source>
+        <translation>Choose another printer, or print when it accepts jobs again.</translation>
+    </message>
+    <message>
+        <source>Queue Stopped Title</source>
+        <translation>%1 is paused</translation>
+    </message>
+    <message>
+        <source>Queue Stopped Message</source>
+        <translation>The job will wait until the printer is resumed.</translation>
+    </message>
+    <message>
+        <source>Queue Reason</source>
+        <translation>%1
+
+It says: %2</translation>
+    </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>Print Anyway</translation>
+    </message>
+    <message>
+        <source>Sending Stopped Title</source>
+        <translation>The job was stopped</translation>
+    </message>
+    <message>
         <source>Conflict Title</source>
         <translation>Some options don't go together</translation>
     </message>

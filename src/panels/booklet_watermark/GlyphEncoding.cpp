@@ -13,8 +13,11 @@ public:
     explicit NameIndex(const Encoding& encoding)
     {
         names_.reserve(encoding.size());
+        const std::string_view usual = encoding.front(); // what most codes have
+        add(usual);
         for (const std::string_view name : encoding)
-            add(name);
+            if (name.data() != usual.data())
+                add(name);
     }
 
     // True when the name was not there.
@@ -43,12 +46,12 @@ private:
 
     static std::uint32_t LengthBit(std::string_view name) { return 1u << (name.size() % 32); }
 
+    // What tells the names of glyphs apart without walking along them: "eacute" and "egrave", "uni0411" and "uni0412".
     static std::size_t Hash(std::string_view name)
     {
-        std::size_t hash = name.size();
-        for (const char c : name)
-            hash = hash * 31 + static_cast<unsigned char>(c);
-        return hash;
+        const auto at = [name](std::size_t i) { return static_cast<std::size_t>(static_cast<unsigned char>(name[i])); };
+        const std::size_t last = name.size() - 1;
+        return ((at(0) * 31 + at(last / 2)) * 31 + at(last - (last > 0))) * 31 + at(last) + name.size();
     }
 
     // The slot of the name, or the one that is free for it.

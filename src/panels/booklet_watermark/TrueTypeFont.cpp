@@ -51,15 +51,16 @@ std::optional<std::array<SInt32, 4>> ReadBoundingBox(SfntReader& reader, std::ui
 std::vector<std::string_view> ReadStrings(QByteArrayView font, std::uint64_t offset, std::uint64_t end,
                                           std::size_t most)
 {
-    std::vector<std::string_view> strings;
-    strings.reserve(most);
-    while (offset < end && strings.size() < most) {
+    std::vector<std::string_view> strings(most); // of the final size: growing one by one costs more than the reading
+    std::size_t count = 0;
+    while (offset < end && count < most) {
         const std::uint64_t length = static_cast<std::uint8_t>(font[static_cast<qsizetype>(offset)]);
         if (length > end - offset - 1)
             break;
-        strings.emplace_back(font.data() + offset + 1, length);
+        strings[count++] = {font.data() + offset + 1, length};
         offset += 1 + length;
     }
+    strings.resize(count);
     return strings;
 }
 
@@ -81,9 +82,11 @@ bool ReadNames(TrueTypeFont& truetype, QByteArrayView font, SfntReader& reader, 
 
     const std::uint64_t end = std::min(post.offset + std::uint64_t{post.length}, reader.size());
     const auto strings = ReadStrings(font, indices + size, end, truetype.glyphCount);
-    truetype.names.reserve(truetype.glyphCount);
-    for (std::size_t glyph = 0; glyph < truetype.glyphCount; ++glyph)
-        truetype.names.push_back(GlyphName(reader.u16(indices + 2 * glyph), strings));
+    truetype.names.resize(truetype.glyphCount);
+    for (std::uint64_t entry = indices; std::string_view & name : truetype.names) {
+        name = GlyphName(reader.u16(entry), strings);
+        entry += 2;
+    }
     truetype.hasNames = true;
     return true;
 }
@@ -99,13 +102,15 @@ void ReadGlyphOffsets(TrueTypeFont& truetype, SfntReader& reader, const VitalTab
     const std::uint64_t entrySize = isShort ? 2 : 4;
     const std::uint64_t count =
         std::min<std::uint64_t>(truetype.glyphCount, (reader.size() - tables.loca.offset) / entrySize);
-    truetype.glyphOffsets.reserve(count);
+    truetype.glyphOffsets.resize(count);
+    auto end = truetype.glyphOffsets.begin();
     for (std::uint64_t glyph = 0; glyph < count; ++glyph) {
         const std::uint64_t entry = tables.loca.offset + glyph * entrySize;
         const std::uint64_t offset = isShort ? 2ull * reader.u16(entry) : reader.u32(entry);
         if (offset % 4 == 0)
-            truetype.glyphOffsets.push_back(tables.glyf.offset + offset);
+            *end++ = tables.glyf.offset + offset;
     }
+    truetype.glyphOffsets.erase(end, truetype.glyphOffsets.end());
     if (!std::ranges::is_sorted(truetype.glyphOffsets))
         std::ranges::sort(truetype.glyphOffsets);
 }

@@ -10,6 +10,14 @@ constexpr std::size_t kMostInString = 65534;
 constexpr std::size_t kBytesInLine = 30;
 constexpr std::size_t kPadInLine = 2; // what the end of a string adds to a line's count
 
+// The compiler makes this function once more for processors with three-operand vector instructions, which take a fifth
+// fewer of them; the program picks one when it is loaded.
+#if defined(__x86_64__) && defined(__gnu_linux__) && !defined(__clang__) && !defined(__SANITIZE_ADDRESS__)
+#define KESTA_ALSO_FOR_AVX2 [[gnu::target_clones("avx2", "default")]]
+#else
+#define KESTA_ALSO_FOR_AVX2
+#endif
+
 using Bytes = signed char __attribute__((vector_size(16)));
 using UnsignedBytes = unsigned char __attribute__((vector_size(16)));
 
@@ -58,7 +66,7 @@ char* WritePart(const char* in, std::size_t count, std::size_t& inLine, char* ou
 }
 
 // Continues the line that the last string left.
-char* WriteString(const char* in, std::size_t count, std::size_t& inLine, char* out)
+KESTA_ALSO_FOR_AVX2 char* WriteString(const char* in, std::size_t count, std::size_t& inLine, char* out)
 {
     const char* const end = in + count;
     *out++ = '<';

@@ -1,0 +1,32 @@
+#include "panels/paper_output/DelayedPrintTime.h"
+
+#include "platform/Clock.h"
+
+namespace kesta {
+namespace {
+
+constexpr SInt64 kSecondsADay = 86'400;
+constexpr SInt64 kSecondsFrom1904To1970 = 2'082'844'800;
+
+SInt64 WallClock(const Clock& clock)
+{
+    const Date now = clock.now();
+    return now.seconds + clock.secondsEastOfUTC(now) + kSecondsFrom1904To1970;
+}
+
+} // namespace
+
+int TimeOfDay(SInt64 moment)
+{
+    const SInt64 rest = moment % kSecondsADay;
+    return static_cast<int>(rest < 0 ? rest + kSecondsADay : rest);
+}
+
+SInt64 NextMomentAt(int timeOfDay, const Clock& clock)
+{
+    const SInt64 now = WallClock(clock);
+    const SInt64 today = now - TimeOfDay(now) + timeOfDay;
+    return today < now ? today + kSecondsADay : today;
+}
+
+} // namespace kesta

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/Types.h"
+
+namespace kesta {
+
+class Clock;
+
+// Moments are seconds since 1904 began, as the clock on the wall shows them; times of day seconds since midnight.
+
+// From 0 to 86399, of moments before 1904 too.
+int TimeOfDay(SInt64 moment);
+
+// Today at that time of day, or tomorrow when that is over; now itself is not over.
+SInt64 NextMomentAt(int timeOfDay, const Clock& clock);
+
+} // namespace kesta

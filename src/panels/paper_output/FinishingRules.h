@@ -1,0 +1,38 @@
+#pragma once
+
+#include "panels/paper_output/FinishingMenus.h"
+#include "panels/paper_output/PaperOutputOptions.h"
+
+namespace kesta::paper_output {
+
+// Whether the job type has a setup: saved job, fax, secure and delayed print, and the two types that only a ticket can
+// bring.
+bool JobTypeNeedsSetup(SInt32 jobType);
+
+// What the user picked in the staple pop-up. A value that no item has leaves the job without staples.
+void ChooseStaple(PaperOutputOptions& options, SInt32 staple);
+
+// The kind of staple that is chosen, or kNone.
+SInt32 ChosenStaple(const PaperOutputOptions& options);
+
+// Whether finishing is a booklet's, which leaves no room for another.
+bool IsBooklet(const PaperOutputOptions& options);
+
+// A command of the staple, punch and fold items. False, and nothing changed, for any other.
+bool ApplyFinishingCommand(PaperOutputOptions& options, FourCharCode command, SInt32 itemValue);
+
+// What follows once the user has chosen fold and booklet anew. The ticket's own two-sided choice, when it has one, is
+// what a later end of the booklet brings back.
+void ApplyBooklet(PaperOutputOptions& options, std::optional<SInt32> ticketDuplex);
+
+// Finishing that the paper does not allow is switched off, and its item in the menu with it. True when the summary is
+// another one now.
+bool ApplyPaperRules(PaperOutputOptions& options, Menu& finishing);
+
+// Enables the items that the special pages and the booklet of the ticket leave possible.
+void EnableFinishingItems(Menu& menu, const Ticket& settings);
+
+// Checks the items that stand for the job's finishing.
+void MarkFinishingMenu(Menu& menu, const PaperOutputOptions& options);
+
+} // namespace kesta::paper_output

@@ -1,0 +1,254 @@
+#include "panels/paper_output/PaperOutputView.h"
+
+#include "panels/paper_output/FinishingRules.h"
+#include "panels/paper_output/FinishingSummary.h"
+#include "panels/paper_output/PaperOutputPictures.h"
+#include "pde/Mappings.h"
+#include "pde/MenuUtilities.h"
+#include "pde/ViewUtilities.h"
+#include "platform/Bundle.h"
+#include "printer/InstallableOptions.h"
+#include "product/Westmarch2.h"
+#include "toolkit/InterfaceFile.h"
+#include "toolkit/MenuButton.h"
+#include "toolkit/PictureView.h"
+#include "toolkit/SummaryTextView.h"
+
+#include <QVBoxLayout>
+
+namespace kesta::paper_output {
+namespace {
+
+constexpr int kFieldSpacing = 16;
+
+PopupButton* Popup(const _PaperOutputContext& panel, Control number)
+{
+    return FindPopupButton(panel.pane, {kSignature, number});
+}
+
+void SetMenu(PopupButton* popup, Menu menu)
+{
+    if (popup)
+        popup->setMenu(std::move(menu));
+}
+
+// Stapling and holes share a row; the row of neither is left out.
+void AppendOfficeFinishing(QWidget& target, QWidget& window, const FinishingAccessories& accessories, int& offset)
+{
+    QWidget* row = FindControl(&window, {kSignature, kOfficeFinishingRow});
+    if (!row || (!accessories.hasStapler && !accessories.hasPunch))
+        return;
+    int heightOfRow = 0;
+    if (accessories.hasStapler)
+        AppendViewFromWindowAndUnpack(*row, window, {kSignature, kStaplingView}, heightOfRow);
+    if (accessories.hasPunch)
+        AppendViewFromWindowAndUnpack(*row, window, {kSignature, kPunchView}, heightOfRow);
+    AppendViewFromWindowAndUnpack(target, window, {kSignature, kOfficeFinishingRow}, offset);
+}
+
+void AppendViews(QWidget& target, QWidget& window, const FinishingAccessories& accessories)
+{
+    int offset = 0;
+    for (const View view : {kJobTypeView, kPaperView, kTwoSidedView})
+        AppendViewFromWindowAndUnpack(target, window, {kSignature, view}, offset);
+    if (accessories.hasFolder)
+        AppendViewFromWindowAndUnpack(target, window, {kSignature, kFinishingView}, offset);
+    else
+        AppendOfficeFinishing(target, window, accessories, offset);
+    for (const View view : {kQualityView, kDestinationView})
+        AppendViewFromWindowAndUnpack(target, window, {kSignature, view}, offset);
+}
+
+std::unique_ptr<QWidget> AssembleViews(QWidget& window, const FinishingAccessories& accessories)
+{
+    auto view = std::make_unique<QWidget>();
+    auto* layout = new QVBoxLayout(view.get());
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(kFieldSpacing);
+    AppendViews(*view, window, accessories);
+    layout->addStretch();
+    EqualizeTrailingWidths(*view);
+    return view;
+}
+
+void FillFinishing(const _PaperOutputContext& panel)
+{
+    if (auto* finishing = FindControlAs<MenuButton>(panel.pane, {kSignature, kFinishingMenuButton}))
+        finishing->setMenu(FinishingMenu(*panel.bundle));
+    SetMenu(Popup(panel, kStaplePopup), StapleMenu(*panel.bundle));
+    SetMenu(Popup(panel, kPunchPopup), PunchMenu(*panel.bundle));
+}
+
+// A simple tray is the only place for what is printed.
+void FillDestination(const _PaperOutputContext& panel)
+{
+    const bool isOffered = !getInstalledFeature("OCT") && !getInstalledFeature("SimpleCatchTrayKey");
+    SetControlVisible(FindHere(panel, kDestinationLabel), isOffered);
+    SetControlVisible(FindHere(panel, kDestinationPopup), isOffered);
+    PPDPopulatePopupWithChoices(Popup(panel, kDestinationPopup), panel.ppd, "OutputBin", Conflicting::Skip);
+}
+
+void FillStockMenu(_PaperOutputContext& panel)
+{
+    auto* button = FindControlAs<MenuButton>(panel.pane, {kSignature, kStockMenuButton});
+    panel.stockMenu.bundle = panel.bundle;
+    panel.stockMenu.stock = &panel.options.stock;
+    panel.stockMenu.summaryView = FindHere(panel, kPaperSummary);
+    panel.stockMenu.iconView = FindControlAs<PictureView>(panel.pane, {kSignature, kPaperPicture});
+    InitializeStockMenuButton(button, panel.stockMenu);
+    if (!button)
+        return;
+    button->changeItems([&](Menu& menu) {
+        menu.items.push_back(
+            {.title = LocalizedString(*panel.bundle, "Separators Option"), .command = kSeparatorsCommand});
+    });
+}
+
+void FillMenus(_PaperOutputContext& panel)
+{
+    PopulatePopupButtonFromMap(*panel.bundle, Popup(panel, kJobTypePopup), _JobTypeMap, JobContext::Job);
+    FillStockMenu(panel);
+    PPDPopulatePopupWithChoices(Popup(panel, kTwoSidedPopup), panel.ppd, "Duplex", Conflicting::Keep);
+    PopulatePopupButtonFromMap(*panel.bundle, Popup(panel, kQualityPopup), _PrintQualityMap, JobContext::Job);
+    FillFinishing(panel);
+    FillDestination(panel);
+}
+
+void DisposeSummary(QWidget* summary)
+{
+    if (!summary || !summary->parentWidget()->layout())
+        return;
+    auto* room = new QWidget(summary->parentWidget());
+    SetControlID(*room, GetControlID(*summary));
+    room->setProperty("lines", summary->property("lines"));
+    room->setFixedSize(summary->size());
+    delete summary->parentWidget()->layout()->replaceWidget(summary, room);
+    delete summary;
+}
+
+void RestoreSummary(QWidget* room)
+{
+    if (!room || qobject_cast<SummaryTextView*>(room))
+        return;
+    auto* summary = new SummaryTextView(room->parentWidget());
+    SetControlID(*summary, GetControlID(*room));
+    summary->setLines(room->property("lines").toInt());
+    summary->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    delete room->parentWidget()->layout()->replaceWidget(room, summary);
+    delete room;
+    summary->show();
+}
+
+// What the trailing button changes is its description for those who can't see the summary.
+void ShowSummary(const _PaperOutputContext& panel, Control view, Control button, const QString& text)
+{
+    UpdateSummaryTextView(FindHere(panel, view), text);
+    if (QWidget* trailing = FindHere(panel, button))
+        trailing->setAccessibleDescription(text);
+}
+
+void ShowPicture(const _PaperOutputContext& panel, Control number, const QString& picture)
+{
+    auto* view = FindControlAs<PictureView>(panel.pane, {kSignature, number});
+    if (view && view->picture() != picture)
+        view->setPicture(picture);
+}
+
+} // namespace
+
+QWidget* FindHere(const _PaperOutputContext& panel, SInt32 number)
+{
+    return FindControl(panel.pane, {kSignature, number});
+}
+
+void BuildView(_PaperOutputContext& panel)
+{
+    const std::unique_ptr<QWidget> window = CreateWindowFromNib(*panel.bundle, "Paper_Output", "Panel");
+    if (!window || !panel.pane)
+        return;
+    panel.view = EmbedAndShowControl(AssembleViews(*window, panel.accessories), *panel.pane);
+    FillMenus(panel);
+}
+
+void DisposeSummaries(_PaperOutputContext& panel)
+{
+    DisposeSummary(FindHere(panel, kPaperSummary));
+    DisposeSummary(FindHere(panel, kFinishingSummary));
+}
+
+void RestoreSummaries(_PaperOutputContext& panel)
+{
+    RestoreSummary(FindHere(panel, kPaperSummary));
+    RestoreSummary(FindHere(panel, kFinishingSummary));
+    panel.stockMenu.summaryView = FindHere(panel, kPaperSummary);
+}
+
+void ShowOptions(_PaperOutputContext& panel)
+{
+    SetPopupButtonToTicketValue(Popup(panel, kJobTypePopup), panel.options.jobType);
+    SetPopupButtonToTicketValue(Popup(panel, kQualityPopup), panel.options.printQuality);
+    SetPopupButtonToTicketValue(Popup(panel, kDestinationPopup), panel.options.outputBin);
+    EnableDisableJobTypeSetupButton(panel);
+    ShowPaper(panel);
+    ShowFinishing(panel);
+}
+
+void ShowPaper(const _PaperOutputContext& panel)
+{
+    ShowStock(panel.stockMenu);
+    ShowSummary(panel, kPaperSummary, kStockMenuButton, PaperSummary(*panel.bundle, panel.ppd, panel.options));
+}
+
+void ShowFinishing(const _PaperOutputContext& panel)
+{
+    ChangeFinishingMenus(panel, [&](Menu& menu) { MarkFinishingMenu(menu, panel.options); });
+    SetPopupButtonToTicketValue(Popup(panel, kStaplePopup), ChosenStaple(panel.options));
+    SetPopupButtonToTicketValue(Popup(panel, kPunchPopup), panel.options.punch);
+    const QString summary = CreateFinishingString(*panel.bundle, panel.options, panel.accessories);
+    ShowSummary(panel, kFinishingSummary, kFinishingMenuButton, summary.chopped(summary.endsWith(u'\n') ? 1 : 0));
+    ShowPictures(panel);
+}
+
+void ShowPictures(const _PaperOutputContext& panel)
+{
+    const PaperOutputOptions& options = panel.options;
+    ShowPicture(panel, kJobTypePicture, JobTypePicture(options.jobType));
+    ShowPicture(panel, kTwoSidedPicture, TwoSidedPicture(options));
+    ShowPicture(panel, kStaplePicture, StaplePicture(options));
+    ShowPicture(panel, kPunchPicture, PunchPicture(options.punch));
+    ShowPicture(panel, kFinishingPicture, FinishingPicture(options));
+    ShowPicture(panel, kQualityPicture, OutputColorPicture(options.printQuality));
+}
+
+void ShowTwoSided(const _PaperOutputContext& panel, SInt32 value)
+{
+    const bool isBooklet = panel.options.bookletLayout == kBookletOn;
+    PopupButton* popup = Popup(panel, kTwoSidedPopup);
+    SetPopupButtonToTicketValue(popup, isBooklet ? kTwoSidedLongEdge : value);
+    SetControlEnabled(popup, !isBooklet);
+    SetControlEnabled(FindHere(panel, kTwoSidedLabel), !isBooklet);
+    SetControlEnabled(FindHere(panel, kTwoSidedPicture), !isBooklet);
+}
+
+bool EnableDisableJobTypeSetupButton(const _PaperOutputContext& panel)
+{
+    const bool isFax = panel.options.jobType == kJobTypeFax;
+    const bool enabled = JobTypeNeedsSetup(panel.options.jobType) && !isFax;
+    if (QWidget* button = FindHere(panel, kJobTypeSetupButton)) {
+        const QString reason = isFax ? LocalizedString(*panel.bundle, "Fax Setup Unavailable Header") : QString();
+        button->setToolTip(reason);
+        button->setAccessibleDescription(reason);
+        button->setEnabled(enabled);
+    }
+    return enabled;
+}
+
+void ChangeFinishingMenus(const _PaperOutputContext& panel, const std::function<void(Menu&)>& change)
+{
+    for (const Control number : {kFinishingMenuButton, kStaplePopup, kPunchPopup}) {
+        if (auto* menu = FindControlAs<MenuControl>(panel.pane, {kSignature, number}))
+            menu->changeItems(change);
+    }
+}
+
+} // namespace kesta::paper_output

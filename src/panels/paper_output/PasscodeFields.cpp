@@ -1,0 +1,111 @@
+#include "panels/paper_output/PasscodeFields.h"
+
+#include "panels/paper_output/JobTypeSetups.h"
+#include "pde/LocalizationUtilities.h"
+#include "pde/LocalizedText.h"
+#include "pde/TextFieldUtilities.h"
+#include "platform/Bundle.h"
+#include "platform/Notices.h"
+#include "toolkit/Controls.h"
+#include "toolkit/TextInput.h"
+
+namespace kesta {
+namespace {
+
+using namespace jobtypes;
+
+QStringList Limits()
+{
+    return {QString::number(kShortestPasscode), QString::number(kLongestPasscode)};
+}
+
+void ShowNotice(const Bundle& bundle, const char* title, const char* message, const QStringList& arguments)
+{
+    GetNotices().show(
+        {.title = LocalizedString(bundle, title), .message = LocalizedFormat(bundle, message, arguments)});
+}
+
+} // namespace
+
+PasscodeFields::PasscodeFields(const Bundle& bundle, QWidget& window, FourCharCode signature)
+    : bundle_(bundle),
+      window_(window),
+      signature_(signature),
+      passcode_(FindTextField(&window, {signature, kPasscodeField})),
+      confirmation_(FindTextField(&window, {signature, kConfirmationField}))
+{
+    const TextLimits limits{.minimumLength = kShortestPasscode,
+                            .maximumLength = kLongestPasscode,
+                            .allowedCharacters = QString::fromLatin1(kPasscodeCharacters)};
+    LimitInputLengthAndCharacters(passcode_, limits);
+    LimitInputLengthAndCharacters(confirmation_, limits);
+    for (const SInt32 label : {kPasscodeLimits, kConfirmationLimits})
+        SetLocalizedStaticText(bundle, "Min-Max Digits", control(label), Limits());
+}
+
+QWidget* PasscodeFields::control(SInt32 number) const
+{
+    return FindControl(&window_, {signature_, number});
+}
+
+void PasscodeFields::fill(const QString& passcode)
+{
+    SetFieldText(passcode_, passcode);
+    SetFieldText(confirmation_, passcode);
+}
+
+QString PasscodeFields::passcode() const
+{
+    return FieldText(passcode_);
+}
+
+QString PasscodeFields::confirmation() const
+{
+    return FieldText(confirmation_);
+}
+
+void PasscodeFields::focus()
+{
+    if (!passcode_)
+        return;
+    passcode_->setFocus();
+    passcode_->selectAll();
+}
+
+void PasscodeFields::enable(bool enabled)
+{
+    for (const SInt32 number : {kPasscodeLabel, kPasscodeField, kPasscodeLimits})
+        SetControlEnabled(control(number), enabled);
+    enableConfirmation(enabled && IsLongEnoughPasscode(passcode()));
+}
+
+void PasscodeFields::enableConfirmation(bool enabled)
+{
+    for (const SInt32 number : {kConfirmationLabel, kConfirmationField, kConfirmationLimits})
+        SetControlEnabled(control(number), enabled);
+}
+
+void PasscodeFields::follow(const TextLengthEvent& event)
+{
+    if (event.control != ControlID{signature_, kPasscodeField} || !confirmation_)
+        return;
+    enableConfirmation(event.length == TextLength::LongEnough);
+    SetInvalid(confirmation_, false);
+}
+
+bool PasscodeFields::settle(PasscodeVerdict verdict)
+{
+    if (verdict == PasscodeVerdict::Accepted)
+        return true;
+    if (verdict == PasscodeVerdict::MakeOne) {
+        fill(MakePasscode());
+        ShowNotice(bundle_, "Passcode Required Header", "Passcode Required Message", Limits() << passcode());
+        return true;
+    }
+    ShowNotice(bundle_, "Invalid Secure Print Passcode Header", "Invalid Secure Print Passcode Message", Limits());
+    if (passcode_ && confirmation_)
+        SetInvalid(confirmation_->isEnabled() ? confirmation_ : passcode_, true);
+    return false;
+}
+
+} // namespace kesta

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "panels/paper_output/PasscodeRules.h"
+#include "platform/Types.h"
+
+class QLineEdit;
+class QWidget;
+
+namespace kesta {
+
+struct Bundle;
+struct TextLengthEvent;
+
+// The two fields for a passcode of a setup window, with their labels, numbered as JobTypeSetups.h says. The window must
+// outlive it; a window without the fields has an empty passcode.
+class PasscodeFields {
+public:
+    // Limits what may be typed to passcodes.
+    PasscodeFields(const Bundle& bundle, QWidget& window, FourCharCode signature);
+
+    void fill(const QString& passcode); // both
+    QString passcode() const;
+    QString confirmation() const;
+    void focus();
+
+    void enable(bool enabled); // the confirmation only once the passcode is long enough
+    void enableConfirmation(bool enabled);
+    void follow(const TextLengthEvent& event); // of either field: there is nothing to confirm before it is long enough
+
+    // Does what the verdict asks for, in front of the user; true when the passcode in the fields can be taken.
+    bool settle(PasscodeVerdict verdict);
+
+private:
+    QWidget* control(SInt32 number) const;
+
+    const Bundle& bundle_;
+    QWidget& window_;
+    FourCharCode signature_;
+    QLineEdit* passcode_;
+    QLineEdit* confirmation_;
+};
+
+} // namespace kesta

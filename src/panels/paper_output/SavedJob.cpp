@@ -1,0 +1,191 @@
+#include "panels/paper_output/JobTypeSetups.h"
+
+#include "panels/paper_output/PasscodeFields.h"
+#include "panels/paper_output/SavedJobRules.h"
+#include "panels/paper_output/SetupDialog.h"
+#include "pde/LocalizationUtilities.h"
+#include "pde/MenuUtilities.h"
+#include "pde/TextFieldUtilities.h"
+#include "platform/Bundle.h"
+#include "platform/UserPreferences.h"
+#include "toolkit/HistoryComboBox.h"
+#include "toolkit/InterfaceFile.h"
+#include "toolkit/PictureView.h"
+#include "toolkit/TextInput.h"
+#include "toolkit/TypedValueHistory.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+namespace kesta {
+namespace {
+
+using namespace jobtypes;
+
+constexpr QLatin1StringView kSavedJobHelp("Paper_Output/Job_Type/saved_job_e.htm");
+constexpr auto kSaveRadios = std::to_array<Control>({kSaveRadio, kSavePrintRadio});
+static_assert(kSaveRadios.size() == SavedJobSaveOptionRadioMap.size());
+
+struct SavedJobDialog {
+    const Bundle& bundle;
+    QWidget& window;
+    PasscodeFields passcode{bundle, window, kSavedJobSignature};
+    HistoryComboBox* jobName = FindControlAs<HistoryComboBox>(&window, {kSavedJobSignature, kJobNameBox});
+    HistoryComboBox* folder = FindControlAs<HistoryComboBox>(&window, {kSavedJobSignature, kFolderBox});
+
+    QAbstractButton* button(SInt32 number) const
+    {
+        return FindControlAs<QAbstractButton>(&window, {kSavedJobSignature, number});
+    }
+    bool isSecure() const { return button(kSecureCheckBox)->isChecked(); }
+    bool isComplete() const
+    {
+        return jobName && folder && button(kSaveRadio) && button(kSavePrintRadio) && button(kSecureCheckBox);
+    }
+};
+
+std::vector<HistoryComboBox::FixedEntry> FixedEntries(const Bundle& bundle, SettingMap map)
+{
+    std::vector<HistoryComboBox::FixedEntry> entries;
+    for (const SettingRow& row : map)
+        entries.push_back({.title = LocalizedString(bundle, row.key), .value = row.value});
+    return entries;
+}
+
+void BuildControls(const SavedJobDialog& dialog)
+{
+    for (std::size_t i = 0; i < kSaveRadios.size(); ++i)
+        SetLocalizedControlTitle(dialog.bundle, SavedJobSaveOptionRadioMap[i].key, dialog.button(kSaveRadios[i]));
+
+    const Dictionary history = CopyUserPreferences(kInputHistoryFile).value_or(Dictionary());
+    dialog.jobName->setFixedEntries(FixedEntries(dialog.bundle, JobNameMap));
+    dialog.jobName->setHistory(UsableJobNames(TypedValueHistory(history, kSavedJobNamesKey)));
+    dialog.folder->setFixedEntries(FixedEntries(dialog.bundle, FolderNameMap));
+    dialog.folder->setHistory(TypedValueHistory(history, kFolderNamesKey));
+    LimitInputLengthAndCharacters(
+        dialog.jobName,
+        {.minimumLength = 1, .maximumLength = kLongestJobName, .allowedCharacters = JobNameCharacters()});
+    LimitInputLengthAndCharacters(dialog.folder, {.minimumLength = 1});
+}
+
+void ShowNameOrEntry(HistoryComboBox& box, bool showsEntry, SettingMap map, const std::optional<QString>& name)
+{
+    if (showsEntry)
+        box.setFixedValue(map.front().value);
+    else
+        box.setTypedText(name.value_or(QString()));
+}
+
+void RestoreUIValuesFromData(SavedJobDialog& dialog, const JobTypeDetails& details)
+{
+    const auto option = static_cast<std::size_t>(SaveOptionFor(details.saveDisposition));
+    dialog.button(kSaveRadios[option - 1])->setChecked(true);
+    ShowNameOrEntry(*dialog.jobName, details.useJobName, JobNameMap, details.savedJobName);
+    ShowNameOrEntry(*dialog.folder, details.useDefaultLocation, FolderNameMap, details.savedJobLocation);
+    dialog.button(kSecureCheckBox)->setChecked(details.hasPasscode);
+    dialog.passcode.fill(details.securePasscode.value_or(QString()));
+    dialog.passcode.enable(details.hasPasscode);
+    if (auto* picture = FindControlAs<PictureView>(&dialog.window, {kSavedJobSignature, kFormatPicture}))
+        picture->setPicture(QString::fromLatin1(JobFormatPicture(details.mediaTypeInJob)));
+}
+
+void SaveUIValuesToData(const SavedJobDialog& dialog, JobTypeDetails& details)
+{
+    const bool alsoPrints = dialog.button(kSavePrintRadio)->isChecked();
+    details.saveDisposition = SavedJobSaveOptionRadioMap[alsoPrints ? 1 : 0].value;
+
+    details.useJobName = dialog.jobName->fixedValue().has_value();
+    if (!details.useJobName)
+        details.savedJobName = dialog.jobName->typedText();
+    const QString folder = dialog.folder->typedText();
+    details.useDefaultLocation = folder.isEmpty(); // it is while the box holds the fixed entry
+    if (!details.useDefaultLocation)
+        details.savedJobLocation = folder;
+
+    details.hasPasscode = dialog.isSecure();
+    if (details.hasPasscode)
+        details.securePasscode = dialog.passcode.passcode();
+}
+
+void SaveHistories(const SavedJobDialog& dialog)
+{
+    std::optional<Dictionary> history = CopyUserPreferences(kInputHistoryFile);
+    if (!history)
+        return;
+    const Dictionary before = *history;
+    RememberTypedValue(*history, kSavedJobNamesKey, dialog.jobName->typedText());
+    RememberTypedValue(*history, kFolderNamesKey, dialog.folder->typedText());
+    if (!(*history == before))
+        WriteUserPreferences(kInputHistoryFile, *history);
+}
+
+// OK needs a name and a folder.
+void EnableOK(const SavedJobDialog& dialog)
+{
+    const bool complete = !dialog.jobName->currentText().isEmpty() && !dialog.folder->currentText().isEmpty();
+    SetControlEnabled(GetWindowDefaultButton(dialog.window), complete);
+}
+
+// What is typed into a fixed entry takes its place: an entry with a few characters more would be a name that nobody
+// meant. A field can't change again while it asks.
+EventHandler InstallFixedEntryHandler(HistoryComboBox& box)
+{
+    return InstallEventHandler(box, [&box](const TextTypedEvent& event) {
+        if (!box.fixedValue() || event.replaced > 0 || event.isEditingOnly())
+            return EventResult::NotHandled;
+        QTimer::singleShot(0, &box, [&box, typed = event.typed] {
+            if (box.fixedValue())
+                box.lineEdit()->selectAll();
+            TypeIntoField(&box, typed);
+        });
+        return EventResult::Handled;
+    });
+}
+
+EventHandler InstallWindowHandler(SavedJobDialog& dialog)
+{
+    return InstallEventHandler(
+        dialog.window,
+        [&dialog](const HitEvent& hit) {
+            if (hit.control.number != kSecureCheckBox)
+                return EventResult::NotHandled;
+            dialog.passcode.enable(dialog.isSecure());
+            if (dialog.isSecure())
+                dialog.passcode.focus();
+            return EventResult::NotHandled;
+        },
+        [&dialog](const TextLengthEvent& event) {
+            dialog.passcode.follow(event);
+            if (event.control.number == kJobNameBox || event.control.number == kFolderBox)
+                EnableOK(dialog);
+            return EventResult::NotHandled;
+        });
+}
+
+} // namespace
+
+OSStatus RunModalSavedJobDialog(const Bundle& bundle, JobTypeDetails& details)
+{
+    const std::unique_ptr<QWidget> window = CreateWindowFromNib(bundle, "SavedJob", "withPasscode");
+    if (!window)
+        return kInterfaceFileUnreadable;
+    SavedJobDialog dialog{bundle, *window};
+    if (!dialog.isComplete())
+        return kInterfaceFileUnreadable;
+    BuildControls(dialog);
+    RestoreUIValuesFromData(dialog, details);
+    const EventHandler handlers[] = {InstallWindowHandler(dialog), InstallFixedEntryHandler(*dialog.jobName),
+                                     InstallFixedEntryHandler(*dialog.folder)};
+    const auto accept = [&] {
+        return !dialog.isSecure() || dialog.passcode.settle(JudgeSavedJobPasscode(dialog.passcode.passcode(),
+                                                                                  dialog.passcode.confirmation()));
+    };
+    if (RunSetupDialog(bundle, *window, kSavedJobHelp, accept) == ModalResult::OK) {
+        SaveUIValuesToData(dialog, details);
+        SaveHistories(dialog);
+    }
+    return noErr;
+}
+
+} // namespace kesta

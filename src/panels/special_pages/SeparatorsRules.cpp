@@ -1,0 +1,49 @@
+#include "panels/special_pages/SeparatorsDialog.h"
+
+#include "panels/special_pages/StockIcon.h"
+#include "pde/TicketKeys.h"
+#include "pde/TicketUtilities.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kesta {
+
+OSStatus SyncSeparatorsFromTicket(const Ticket* settings, SInt32& option, Stock& stock)
+{
+    if (!settings)
+        return kMissingArgument;
+    stock = Stock();
+    option = ReadTicketValue(*settings, key::SeparatorOption).value_or(kSeparatorsNone);
+    if (option == kSeparatorsNone)
+        return noErr;
+    const std::optional<SInt32> color = ReadTicketValue(*settings, key::SeparatorColor);
+    stock.setColor(color.value_or(kUnset));
+    return color ? noErr : kNoSuchTicketEntry;
+}
+
+OSStatus SyncSeparatorsToTicket(Ticket* settings, SInt32 option, const Stock& stock)
+{
+    if (!settings)
+        return kMissingArgument;
+    const TicketWriter ticket(*settings, kSeparatorClient);
+    const OSStatus status = WriteTicketValue(ticket, key::SeparatorOption, option);
+    return option == kSeparatorsNone ? status : WriteTicketValue(ticket, key::SeparatorColor, stock.color());
+}
+
+QString SeparatorsPicture(SInt32 option, SInt32 color)
+{
+    // A clear sheet is no separator, so there is none in the pictures.
+    const QString word = StockColorWord(color == kStockColorClear ? kStockColorWhite : color);
+    switch (option) {
+    case kSeparatorsNone:
+        return u"Paper_TransparencySeparators_NoSeps.gif"_s;
+    case kSeparatorsBlank:
+        return u"Paper_TransparencySeparators_BlnkSeps-%1.gif"_s.arg(word);
+    case kSeparatorsPrinted:
+        return u"Paper_TransparencySeparators_PrntdSeps-%1.gif"_s.arg(word);
+    default:
+        return {};
+    }
+}
+
+} // namespace kesta

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "model/Stock.h"
+
+class QWidget;
+
+namespace kesta {
+
+struct Bundle;
+
+// The paper in words, its parts joined by the separator; a part whose text can't be had is left out. Job summaries
+// never name a size, and name colour and type even when these are unset. Of paper from a tray of its own only the
+// post-print inserter is named.
+QString GenerateStockSummary(const Bundle& bundle, JobContext context, const Stock& stock, const QString& separator);
+
+// The same, a part a line, as a view shows it: empty without a stock, and a word for "nothing chosen" where the summary
+// is empty.
+QString StockSummaryText(const Bundle& bundle, const Stock* stock, JobContext context);
+
+// Shows that text; kMissingArgument without a view.
+OSStatus ShowStockSummary(const Bundle& bundle, QWidget* view, const Stock* stock, JobContext context);
+
+} // namespace kesta

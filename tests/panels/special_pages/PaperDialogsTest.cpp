@@ -1,0 +1,463 @@
+#include "model/ImageShift.h"
+#include "panels/special_pages/AdvancedStockDialog.h"
+#include "panels/special_pages/CustomStockSizeDialog.h"
+#include "panels/special_pages/PreCutTabStockSetup.h"
+#include "panels/special_pages/SeparatorsDialog.h"
+#include "panels/special_pages/StockDescriptionSetup.h"
+#include "panels/special_pages/StockTypeSetupDialog.h"
+#include "panels/special_pages/TabStockRules.h"
+#include "pde/MenuUtilities.h"
+#include "platform/HelpViewer.h"
+#include "platform/Notices.h"
+#include "support/CurrentPrinter.h"
+#include "support/TestTexts.h"
+#include "support/User.h"
+#include "toolkit/PictureView.h"
+#include "toolkit/SpinField.h"
+#include "toolkit/TextInput.h"
+
+#include <gtest/gtest.h>
+
+#include <QPixmap>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta {
+namespace {
+
+using test::ModalUser;
+using test::Press;
+
+struct RecordingNotices : Notices {
+    QStringList titles;
+    void show(const Notice& notice) override { titles << notice.title; }
+    int ask(const Alert& alert) override { return CancelButtonOf(alert); }
+};
+
+struct RecordingHelp : HelpViewer {
+    QStringList files;
+    OSStatus show(const QString& file, const QString&) override
+    {
+        files << file;
+        return noErr;
+    }
+};
+
+// The dialogs on the product's printer, in a country of its choice.
+class PaperDialogsTest : public testing::Test {
+protected:
+    PaperDialogsTest()
+    {
+        bundle.info.set(kCFBundleHelpBookName, "Help");
+        bundle.info.set("CFBundleHelpBookFolder", "Help");
+        gCurrentUnits = SizeUnits::NotChosen;
+        QLocale::setDefault(QLocale(u"en_US"_s));
+    }
+    ~PaperDialogsTest() override { QLocale::setDefault(QLocale::c()); }
+
+    static SpinField& spin(QWidget& window, FourCharCode signature, SInt32 number)
+    {
+        return *FindControlAs<SpinField>(&window, {signature, number});
+    }
+    static PopupButton* popup(QWidget& window, FourCharCode signature, SInt32 number)
+    {
+        return FindPopupButton(&window, {signature, number});
+    }
+    static QStringList pictures(QWidget& window, ControlID id)
+    {
+        return FindControlAs<PictureView>(&window, id)->pictures();
+    }
+
+    const test::CurrentPrinter printer;
+    Bundle bundle = test::BundleWithTexts({"Inches", "Millimeters", "PrinterDefault", "UseJobSetting", "None"});
+    RecordingNotices notices;
+    const WhileInstalled<Notices> noticesInstalled{notices};
+    RecordingHelp help;
+    const WhileInstalled<HelpViewer> helpInstalled{help};
+    ModalUser user;
+    ModalResult result{};
+    Stock stock;
+};
+
+class CustomSizeDialogTest : public PaperDialogsTest {
+protected:
+    static SpinField& width(QWidget& window) { return spin(window, customsize::kSignature, customsize::kWidthField); }
+    static SpinField& length(QWidget& window) { return spin(window, customsize::kSignature, customsize::kLengthField); }
+    static PopupButton* units(QWidget& window)
+    {
+        return popup(window, customsize::kSignature, customsize::kUnitsPopup);
+    }
+    void run() { EXPECT_EQ(RunModalCustomStockSizeDialog(bundle, result, size), noErr); }
+
+    PaperSize size;
+};
+
+TEST_F(CustomSizeDialogTest, StartsFromTheCountrysUsualSize)
+{
+    user.then([](QWidget& window) {
+        EXPECT_EQ(width(window).number(), 850);
+        EXPECT_EQ(length(window).number(), 1100);
+        Press(window, kCommandOK);
+    });
+    run();
+    EXPECT_EQ(result, ModalResult::OK);
+    EXPECT_EQ(size, (PaperSize{21590, 27940}));
+
+    gCurrentUnits = SizeUnits::NotChosen;
+    size = {};
+    QLocale::setDefault(QLocale(u"de_DE"_s));
+    user.then([](QWidget& window) {
+        EXPECT_EQ(width(window).number(), 2100);
+        EXPECT_EQ(length(window).number(), 2970);
+        EXPECT_EQ(width(window).text(), u"210,0"_s);
+        Press(window, kCommandCancel);
+    });
+    run();
+    EXPECT_EQ(result, ModalResult::Cancel);
+    EXPECT_EQ(size, PaperSize{}) << "OK alone changes it";
+}
+
+TEST_F(CustomSizeDialogTest, TheUnitsChosenAreThoseOfTheNextDialog)
+{
+    user.then([](QWidget& window) {
+        EXPECT_TRUE(test::Pick(units(window), 2));
+        EXPECT_EQ(width(window).number(), 2159);
+        EXPECT_EQ(length(window).number(), 2794);
+        Press(window, kCommandOK);
+    });
+    run();
+    EXPECT_EQ(size, (PaperSize{21590, 27940}));
+    size = {21000, 29700};
+    user.then([](QWidget& window) {
+        EXPECT_EQ(GetPopupButtonTicketValue(units(window)), 2);
+        EXPECT_TRUE(test::Pick(units(window), 1));
+        EXPECT_TRUE(test::Pick(units(window), 2));
+        EXPECT_EQ(width(window).number(), 2100) << "there and back";
+        Press(window, customsize::kDefaultsCommand);
+        EXPECT_EQ(GetPopupButtonTicketValue(units(window)), 1);
+        EXPECT_EQ(length(window).number(), 1100);
+        Press(window, kCommandCancel);
+    });
+    run();
+    EXPECT_EQ(size, (PaperSize{21000, 29700}));
+    EXPECT_EQ(gCurrentUnits, SizeUnits::Inches) << "also of a cancelled one";
+}
+
+TEST_F(CustomSizeDialogTest, ASizeOutsideTheLimitsIsRefusedAndCorrected)
+{
+    user.then([](QWidget& window) {
+        width(window).selectAll();
+        TypeIntoField(width(window).findChild<QLineEdit*>(), u"20"_s);
+        length(window).setNumber(100);
+        Press(window, kCommandOK);
+    });
+    user.then([this](QWidget& window) {
+        EXPECT_EQ(notices.titles.size(), 1);
+        EXPECT_EQ(width(window).number(), 1300);
+        EXPECT_EQ(length(window).number(), 388);
+        Press(window, kCommandOK);
+    });
+    run();
+    EXPECT_EQ(size, (PaperSize{33020, 9855}));
+    EXPECT_EQ(notices.titles.size(), 1);
+}
+
+TEST_F(CustomSizeDialogTest, AnEmptyFieldIsRefused)
+{
+    user.then([](QWidget& window) {
+        auto* text = width(window).findChild<QLineEdit*>();
+        text->clear();
+        Press(window, kCommandOK);
+    });
+    user.then([this](QWidget& window) {
+        EXPECT_EQ(notices.titles.size(), 1);
+        EXPECT_TRUE(width(window).hasAcceptableInput());
+        Press(window, kCommandHelp);
+        Press(window, kCommandCancel);
+    });
+    run();
+    ASSERT_EQ(help.files.size(), 1);
+    EXPECT_TRUE(help.files.front().endsWith(u"Paper_Output/Paper/idh_other_paper_type.htm"_s));
+}
+
+TEST_F(CustomSizeDialogTest, ThePreviewIsTheSheet)
+{
+    user.then([](QWidget& window) {
+        QWidget* preview = FindControl(&window, {customsize::kSignature, customsize::kPreview});
+        preview->resize(144, 144);
+        const QImage image = preview->grab().toImage();
+        const QRect paper = PreviewRect(image.size(), 850, 1100, 1900);
+        EXPECT_EQ(image.pixelColor(paper.center()), QColor(Qt::white));
+        EXPECT_EQ(image.pixelColor(paper.topLeft()), QColor(Qt::black));
+        EXPECT_EQ(image.pixelColor(paper.bottomRight()), QColor(Qt::black));
+        EXPECT_NE(image.pixelColor(paper.topLeft() - QPoint(1, 1)), QColor(Qt::black));
+        Press(window, kCommandCancel);
+    });
+    run();
+}
+
+TEST_F(PaperDialogsTest, TheDescriptionIsTheUsersWithinItsLength)
+{
+    using namespace stockdescription;
+    stock.setDescription(u"before"_s);
+    user.then([](QWidget& window) {
+        QLineEdit* field = FindTextField(&window, {kSignature, kDescriptionField});
+        EXPECT_EQ(field->text(), u"before"_s);
+        field->selectAll();
+        TypeIntoField(field, QString(256, u'x'));
+        EXPECT_EQ(field->text(), u"before"_s);
+        TypeIntoField(field, QString(255, u'y'));
+        Press(window, kCommandHelp);
+        Press(window, kCommandOK);
+    });
+    EXPECT_EQ(RunModalStockDescriptionSetup(bundle, DialogMode::Edit, JobContext::Job, stock, result), noErr);
+    EXPECT_EQ(stock.description(), QString(255, u'y'));
+    EXPECT_EQ(result, ModalResult::OK);
+    EXPECT_TRUE(help.files.value(0).endsWith(u"paper_output/paper/db_new_edit_named_paper_d.htm"_s));
+
+    user.then([](QWidget& window) {
+        EXPECT_EQ(FieldText(FindTextField(&window, {kSignature, kDescriptionField})), QString());
+        Press(window, kCommandCancel);
+    });
+    EXPECT_EQ(RunModalStockDescriptionSetup(bundle, DialogMode::Add, JobContext::Job, stock, result), noErr);
+    EXPECT_EQ(result, ModalResult::Cancel);
+    EXPECT_EQ(stock.description(), QString(255, u'y'));
+}
+
+TEST_F(PaperDialogsTest, PrecutTabsComeInThreesUntilOKSaysOtherwise)
+{
+    user.then([](QWidget& window) {
+        EXPECT_EQ(spin(window, precuttab::kSignature, precuttab::kSequenceField).number(), 3);
+        Press(window, kCommandCancel);
+    });
+    RunModalPreCutTabStockSetup(bundle, DialogMode::Add, JobContext::Insert, stock, result);
+    EXPECT_EQ(stock.modulus(), kUnset);
+    user.then([](QWidget& window) { Press(window, kCommandOK); });
+    RunModalPreCutTabStockSetup(bundle, DialogMode::Add, JobContext::Insert, stock, result);
+    EXPECT_EQ(stock.modulus(), 3);
+    user.then([](QWidget& window) {
+        spin(window, precuttab::kSignature, precuttab::kSequenceField).setNumber(255);
+        Press(window, kCommandOK);
+    });
+    RunModalPreCutTabStockSetup(bundle, DialogMode::Add, JobContext::Insert, stock, result);
+    EXPECT_EQ(stock.modulus(), 254);
+}
+
+class TabStockDialogTest : public PaperDialogsTest {
+protected:
+    static PopupButton* shiftPopup(QWidget& window)
+    {
+        return popup(window, tabstock::kSignature, tabstock::kShiftPopup);
+    }
+    static PopupButton* units(QWidget& window) { return popup(window, tabstock::kSignature, tabstock::kUnitsPopup); }
+    static SpinField& shiftField(QWidget& window) { return spin(window, tabstock::kSignature, tabstock::kShiftField); }
+    void run() { EXPECT_EQ(RunModalTabStockSetupDialog(bundle, stock, shift, result), noErr); }
+
+    _IS_Options shift;
+};
+
+TEST_F(TabStockDialogTest, TheA4TemplateIsTheLetterOneOnAUSSystem)
+{
+    QLocale::setDefault(QLocale(u"de_DE"_s));
+    user.then([](QWidget& window) {
+        EXPECT_EQ(GetPopupButtonTicketValue(shiftPopup(window)), kTabShiftNone);
+        EXPECT_FALSE(shiftField(window).isEnabled());
+        EXPECT_TRUE(test::Pick(shiftPopup(window), kTabShiftA4Template));
+        EXPECT_FALSE(shiftField(window).isEnabled());
+        spin(window, tabstock::kSignature, tabstock::kSequenceField).setNumber(7);
+        Press(window, kCommandOK);
+    });
+    run();
+    EXPECT_EQ(shift, (_IS_Options{.option = 1, .inches = false, .X1 = 13}));
+    EXPECT_EQ(stock.modulus(), 7);
+
+    QLocale::setDefault(QLocale(u"en_US"_s));
+    user.then([](QWidget& window) {
+        EXPECT_EQ(GetPopupButtonTicketValue(shiftPopup(window)), kTabShiftLetterTemplate);
+        EXPECT_TRUE(test::Pick(shiftPopup(window), kTabShiftNone));
+        Press(window, kCommandHelp);
+        Press(window, kCommandCancel);
+    });
+    run();
+    EXPECT_EQ(shift.option, 1);
+    EXPECT_TRUE(help.files.value(0).endsWith(u"M_Tab_Mrgin_Shift_Setup.htm"_s));
+}
+
+TEST_F(TabStockDialogTest, ACustomShiftIsShownInTheUnitsChosen)
+{
+    shift.option = 1;
+    shift.X1 = 20;
+    user.then([](QWidget& window) {
+        EXPECT_EQ(GetPopupButtonTicketValue(shiftPopup(window)), kTabShiftCustom);
+        EXPECT_EQ(shiftField(window).text(), u"0.8"_s);
+        EXPECT_TRUE(shiftField(window).isEnabled() && units(window)->isEnabled());
+        shiftField(window).setNumber(99);
+        EXPECT_EQ(shiftField(window).number(), 15);
+        EXPECT_TRUE(test::Pick(units(window), 2));
+        EXPECT_EQ(shiftField(window).text(), u"38"_s);
+        shiftField(window).setNumber(30);
+        Press(window, kCommandOK);
+    });
+    run();
+    EXPECT_EQ(shift, (_IS_Options{.option = 1, .inches = false, .X1 = 30}));
+}
+
+class SeparatorsDialogTest : public PaperDialogsTest {
+protected:
+    static PopupButton* optionPopup(QWidget& window)
+    {
+        return popup(window, separators::kSignature, separators::kOptionPopup);
+    }
+    static PopupButton* colorPopup(QWidget& window)
+    {
+        return popup(window, separators::kSignature, separators::kColorPopup);
+    }
+    static QString picture(QWidget& window)
+    {
+        return pictures(window, {separators::kSignature, separators::kPicture}).value(0);
+    }
+    void run() { EXPECT_EQ(RunModalSeparatorsDialog(bundle, option, stock, result), noErr); }
+
+    SInt32 option = kSeparatorsNone;
+};
+
+TEST_F(SeparatorsDialogTest, AColorGoesWithSeparatorsOnly)
+{
+    user.then([](QWidget& window) {
+        EXPECT_FALSE(colorPopup(window)->isEnabled());
+        EXPECT_EQ(picture(window), u"Paper_TransparencySeparators_NoSeps.gif"_s);
+        EXPECT_TRUE(test::Pick(optionPopup(window), kSeparatorsPrinted));
+        EXPECT_TRUE(test::Pick(colorPopup(window), kStockColorGreen));
+        EXPECT_EQ(picture(window), u"Paper_TransparencySeparators_PrntdSeps-Green.gif"_s);
+        Press(window, kCommandOK);
+    });
+    run();
+    EXPECT_EQ(option, kSeparatorsPrinted);
+    EXPECT_EQ(stock.color(), kStockColorGreen);
+
+    user.then([](QWidget& window) {
+        EXPECT_EQ(GetPopupButtonTicketValue(colorPopup(window)), kStockColorGreen);
+        EXPECT_TRUE(colorPopup(window)->isEnabled());
+        Press(window, separators::kDefaultsCommand);
+        EXPECT_EQ(colorPopup(window)->value(), 1);
+        EXPECT_FALSE(colorPopup(window)->isEnabled());
+        Press(window, kCommandOK);
+    });
+    run();
+    EXPECT_EQ(option, kSeparatorsNone);
+    EXPECT_EQ(stock.color(), kStockColorGreen) << "no separators, no colour";
+}
+
+TEST_F(SeparatorsDialogTest, CancelLeavesAll)
+{
+    option = kSeparatorsBlank;
+    user.then([](QWidget& window) {
+        test::Pick(optionPopup(window), kSeparatorsPrinted);
+        test::Pick(colorPopup(window), kStockColorRed);
+        Press(window, kCommandHelp);
+        Press(window, kCommandCancel);
+    });
+    run();
+    EXPECT_EQ(result, ModalResult::Cancel);
+    EXPECT_EQ(option, kSeparatorsBlank);
+    EXPECT_EQ(stock.color(), kStockColorWhite);
+    EXPECT_TRUE(help.files.value(0).endsWith(u"idh_transparency_separator_options.htm"_s));
+}
+
+class AdvancedStockDialogTest : public PaperDialogsTest {
+protected:
+    static PopupButton* choice(QWidget& window, SInt32 number)
+    {
+        return popup(window, advancedstock::kSignature, number);
+    }
+    void run() { EXPECT_EQ(RunModalAdvancedStockDialog(bundle, JobContext::Insert, stock, result), noErr); }
+};
+
+TEST_F(AdvancedStockDialogTest, OKTakesEveryField)
+{
+    using namespace advancedstock;
+    stock.setColor(kUnset);
+    user.then([](QWidget& window) {
+        for (const SInt32 number : {kSizePopup, kColorPopup, kTypePopup, kPunchedPopup})
+            EXPECT_EQ(GetPopupButtonTicketValue(choice(window, number)), kUnset);
+        test::Pick(choice(window, kSizePopup), kStockSizeA4);
+        test::Pick(choice(window, kTypePopup), kStockTypeTransparency);
+        EXPECT_EQ(GetPopupButtonTicketValue(choice(window, kColorPopup)), kStockColorClear);
+        test::Pick(choice(window, kPunchedPopup), kStockPunched);
+        EXPECT_EQ(pictures(window, {kSignature, kIcon}),
+                  QStringList({u"Paper_Plain-Clear.gif"_s, u"Paper_Overlay-HolePunched.gif"_s}));
+        SpinField& weight = spin(window, kSignature, kWeightField);
+        weight.selectAll();
+        TypeIntoField(weight.findChild<QLineEdit*>(), u"120"_s);
+        FindTextField(&window, {kSignature, kDescriptionField})->setText(u"for slides"_s);
+        Press(window, kCommandOK);
+    });
+    run();
+    Stock expected;
+    expected.setSize(kStockSizeA4);
+    expected.setType(kStockTypeTransparency);
+    expected.setPunched(kStockPunched);
+    expected.setWeight(120);
+    expected.setDescription(u"for slides"_s);
+    EXPECT_EQ(stock, expected);
+}
+
+TEST_F(AdvancedStockDialogTest, CancelLeavesAllAndWhatNoMenuHasIsKept)
+{
+    using namespace advancedstock;
+    stock.setType(kStockTypeOrdered);
+    stock.setWeight(10'000);
+    const Stock before = stock;
+    user.then([](QWidget& window) {
+        test::Pick(choice(window, kColorPopup), kStockColorRed);
+        Press(window, kCommandCancel);
+    });
+    run();
+    EXPECT_EQ(stock, before);
+    user.then([](QWidget& window) {
+        EXPECT_EQ(GetPopupButtonTicketValue(choice(window, kTypePopup)), kStockTypeOrdered);
+        Press(window, kCommandOK);
+    });
+    run();
+    EXPECT_EQ(stock, before);
+}
+
+TEST_F(AdvancedStockDialogTest, ACustomSizeIsAskedForInItsOwnDialog)
+{
+    using namespace advancedstock;
+    stock.setSize(kStockSizeA4);
+    user.then([](QWidget& window) {
+        test::Pick(choice(window, kSizePopup), kStockSizeCustom);
+        EXPECT_EQ(GetPopupButtonTicketValue(choice(window, kSizePopup)), kStockSizeA4) << "cancelled";
+        test::Pick(choice(window, kSizePopup), kStockSizeCustom);
+        Press(window, kCommandOK);
+    });
+    user.then([](QWidget& window) { Press(window, kCommandCancel); });
+    user.then([](QWidget& window) { Press(window, kCommandOK); });
+    run();
+    EXPECT_EQ(stock.size(), kStockSizeCustom);
+    EXPECT_EQ(stock.width(), 21590);
+    EXPECT_EQ(stock.length(), 27940);
+}
+
+TEST_F(PaperDialogsTest, WithoutTheirWindowsNothingHappens)
+{
+    const Bundle nowhere{.resourcesPath = u"/nowhere"_s, .strings = {}};
+    const Stock before = stock;
+    _IS_Options shift;
+    PaperSize size;
+    SInt32 option = kSeparatorsBlank;
+    EXPECT_EQ(RunModalCustomStockSizeDialog(nowhere, result, size), kInterfaceFileUnreadable);
+    EXPECT_EQ(RunModalStockDescriptionSetup(nowhere, DialogMode::Add, JobContext::Job, stock, result),
+              kInterfaceFileUnreadable);
+    EXPECT_EQ(RunModalPreCutTabStockSetup(nowhere, DialogMode::Add, JobContext::Job, stock, result),
+              kInterfaceFileUnreadable);
+    EXPECT_EQ(RunModalTabStockSetupDialog(nowhere, stock, shift, result), kInterfaceFileUnreadable);
+    EXPECT_EQ(RunModalSeparatorsDialog(nowhere, option, stock, result), kInterfaceFileUnreadable);
+    EXPECT_EQ(RunModalAdvancedStockDialog(nowhere, JobContext::Job, stock, result), kInterfaceFileUnreadable);
+    EXPECT_EQ(stock, before);
+    EXPECT_EQ(shift, _IS_Options());
+}
+
+} // namespace
+} // namespace kesta

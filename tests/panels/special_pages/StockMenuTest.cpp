@@ -1,0 +1,189 @@
+#include "panels/special_pages/StockMenu.h"
+
+#include "panels/special_pages/CustomStockSizeDialog.h"
+#include "support/CurrentPrinter.h"
+#include "support/TestTexts.h"
+#include "support/User.h"
+#include "toolkit/MenuButton.h"
+#include "toolkit/PictureView.h"
+#include "toolkit/PopupButton.h"
+#include "toolkit/SummaryTextView.h"
+
+#include <gtest/gtest.h>
+
+#include <QPixmap>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta {
+namespace {
+
+// A paper menu button with both of its views, as a dialog has it.
+class StockMenuTest : public testing::Test {
+protected:
+    StockMenuTest()
+    {
+        data.bundle = &bundle;
+        data.stock = &stock;
+        data.summaryView = &summary;
+        data.iconView = &icon;
+        stock.setColor(kUnset);
+    }
+    void initialize(JobContext context)
+    {
+        data.context = context;
+        InitializeStockMenuButton(&button, data);
+    }
+    // The path to the item of that command and value.
+    bool choose(FourCharCode command, SInt32 value)
+    {
+        const std::vector<MenuItem>& items = button.menu().items;
+        for (int i = 0; i < static_cast<int>(items.size()); ++i) {
+            if (items[i].command == command && items[i].value == value)
+                return button.chooseItem(i + 1);
+            for (int j = 0; j < static_cast<int>(items[i].submenu.size()); ++j) {
+                if (items[i].submenu[j].command == command && items[i].submenu[j].value == value)
+                    return button.chooseItem(i + 1, j + 1);
+            }
+        }
+        return false;
+    }
+
+    const test::CurrentPrinter printer;
+    Bundle bundle = test::BundleWithTexts({"PrinterDefault", "UseJobSetting", "OtherSize", "OtherColor", "OtherType"});
+    QWidget window;
+    MenuButton button{&window};
+    SummaryTextView summary{&window};
+    PictureView icon{&window};
+    Stock stock;
+    _StockMenuCommandEventHandlerData data;
+};
+
+TEST_F(StockMenuTest, ChoosingChangesTheStockAndItsViews)
+{
+    initialize(JobContext::Insert);
+    EXPECT_EQ(icon.pictures(), QStringList({u"Paper_Plain-White.gif"_s}));
+    EXPECT_TRUE(choose(kStockTypeCommand, kStockTypeTransparency));
+    EXPECT_EQ(stock.type(), kStockTypeTransparency);
+    EXPECT_EQ(summary.text(), u"- Clear\n- Transparency"_s);
+    EXPECT_EQ(icon.pictures(), QStringList({u"Paper_Plain-Clear.gif"_s}));
+
+    EXPECT_TRUE(choose(kStockColorCommand, kUnset));
+    EXPECT_TRUE(choose(kStockTypeCommand, kUnset));
+    EXPECT_EQ(summary.text(), u"UseJobSetting"_s);
+}
+
+TEST_F(StockMenuTest, HandlersAroundTheButtonSeeTheStockChanged)
+{
+    initialize(JobContext::ExceptionPage);
+    SInt32 seen = 0;
+    const EventHandler around = InstallEventHandler(window, [&](const CommandEvent& event) {
+        if (event.command == kStockTypeCommand)
+            seen = stock.type();
+        return EventResult::Handled;
+    });
+    EXPECT_TRUE(choose(kStockTypeCommand, kStockTypeTabStock));
+    EXPECT_EQ(seen, kStockTypeTabStock);
+    FinalizeStockMenuButton(data);
+    EXPECT_TRUE(choose(kStockTypeCommand, kStockTypeBond));
+    EXPECT_EQ(stock.type(), kStockTypeTabStock) << "finalized";
+}
+
+TEST_F(StockMenuTest, ACancelledCustomSizeStillTakesTrayAndNameAway)
+{
+    initialize(JobContext::Insert);
+    stock.setSize(kStockSizeLetter);
+    stock.setCustomName(u"Invoices"_s);
+    stock.setCustomNameOnly(true);
+    stock.setSource(kStockSourcePostPrintInserter);
+    test::ModalUser user;
+    user.then([](QWidget& dialog) { test::Press(dialog, kCommandCancel); });
+    EXPECT_TRUE(choose(kStockSizeCommand, kStockSizeCustom));
+    EXPECT_EQ(stock.size(), kStockSizeLetter);
+    EXPECT_EQ(stock.customName(), QString());
+    EXPECT_FALSE(stock.customNameOnly());
+    EXPECT_EQ(stock.source(), kUnset);
+    EXPECT_EQ(summary.text(), u"- Letter (8.5 x 11 in)"_s);
+}
+
+TEST_F(StockMenuTest, ACustomSizeComesFromItsDialog)
+{
+    gCurrentUnits = SizeUnits::Millimetres;
+    initialize(JobContext::Insert);
+    stock.setWidth(20000);
+    stock.setLength(25000);
+    test::ModalUser user;
+    user.then([](QWidget& dialog) {
+        auto* length = FindControl(&dialog, {customsize::kSignature, customsize::kLengthField});
+        EXPECT_EQ(length->property("value").toDouble(), 250.0);
+        length->setProperty("value", 260.0);
+        test::Press(dialog, kCommandOK);
+    });
+    EXPECT_TRUE(choose(kStockSizeCommand, kStockSizeCustom));
+    EXPECT_EQ(stock.size(), kStockSizeCustom);
+    EXPECT_EQ(stock.width(), 20000);
+    EXPECT_EQ(stock.length(), 26000);
+}
+
+TEST_F(StockMenuTest, AdvancedForgetsTheNameOnOKOnly)
+{
+    initialize(JobContext::Insert);
+    stock.setCustomName(u"Invoices"_s);
+    test::ModalUser user;
+    user.then([](QWidget& dialog) { test::Press(dialog, kCommandCancel); });
+    StockMenuCommandEventHandler(data, {.command = kStockAdvancedCommand});
+    EXPECT_EQ(stock.customName(), u"Invoices"_s);
+    user.then([](QWidget& dialog) { test::Press(dialog, kCommandOK); });
+    StockMenuCommandEventHandler(data, {.command = kStockAdvancedCommand});
+    EXPECT_EQ(stock.customName(), QString());
+}
+
+TEST_F(StockMenuTest, ADisabledCommandCanNotBeChosen)
+{
+    initialize(JobContext::Insert);
+    EnableStockMenuCommand(data, kStockSizeCommand, false);
+    EXPECT_FALSE(choose(kStockSizeCommand, kStockSizeA4));
+    EXPECT_TRUE(choose(kStockColorCommand, kStockColorRed));
+    EnableStockMenuCommand(data, kStockSizeCommand, true);
+    EXPECT_TRUE(choose(kStockSizeCommand, kStockSizeA4));
+}
+
+TEST_F(StockMenuTest, TheIconShowsThePaperAsItIsWhenDrawn)
+{
+    initialize(JobContext::Job);
+    stock.setColor(kStockColorPink);
+    icon.grab();
+    EXPECT_EQ(icon.pictures(), QStringList({u"Paper_Plain-Pink.gif"_s}));
+    data.stock = nullptr;
+    icon.grab();
+    EXPECT_TRUE(icon.pictures().isEmpty());
+    EXPECT_TRUE(choose(kStockColorCommand, kStockColorRed)) << "nothing to change, nothing happens";
+}
+
+TEST_F(StockMenuTest, APopupOfSizesAlone)
+{
+    PopupButton popup(&window);
+    data.context = JobContext::Insert;
+    InitializeStockSizeMenuButton(&popup, data);
+    EXPECT_TRUE(test::Pick(&popup, kStockSizeA4));
+    EXPECT_EQ(stock.size(), kStockSizeA4);
+    FinalizeStockSizeMenuButton(data);
+    EXPECT_TRUE(test::Pick(&popup, kStockSizeLetter));
+    EXPECT_EQ(stock.size(), kStockSizeA4);
+}
+
+TEST_F(StockMenuTest, WhatIsMissingIsPassedOver)
+{
+    EXPECT_EQ(ShowStockSummary(bundle, nullptr, &stock, JobContext::Job), kMissingArgument);
+    EXPECT_EQ(ShowStockSummary(bundle, &summary, nullptr, JobContext::Job), noErr);
+    EXPECT_EQ(summary.text(), QString());
+    InitializeStockMenuButton(nullptr, data);
+    data.iconView = nullptr;
+    data.summaryView = nullptr;
+    initialize(JobContext::Job);
+    EXPECT_TRUE(choose(kStockColorCommand, kStockColorRed));
+    EXPECT_EQ(stock.color(), kStockColorRed);
+}
+
+} // namespace
+} // namespace kesta
