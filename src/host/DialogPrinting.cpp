@@ -135,16 +135,14 @@ bool PrintDialog::saveSettingsTo(const QString& path)
     return false;
 }
 
-// A script can't answer the desktop's file dialog: it names the file on the command line.
 std::optional<QString> PrintDialog::askForFile()
 {
-    if (start_.scripted) {
+    std::optional<QString> path = GetFileChooser().save({.title = PrintText(*start_.texts, "Save Settings Title"),
+                                                         .name = PrintText(*start_.texts, "Settings File Name"),
+                                                         .patterns = {u"*.plist"_s}});
+    if (!path && start_.scripted)
         PrintNote(u"the settings are not saved: no --save-settings FILE was given"_s);
-        return std::nullopt;
-    }
-    return GetFileChooser().save({.title = PrintText(*start_.texts, "Save Settings Title"),
-                                  .name = PrintText(*start_.texts, "Settings File Name"),
-                                  .patterns = {u"*.plist"_s}});
+    return path;
 }
 
 void PrintDialog::saveSettings()
@@ -167,10 +165,9 @@ bool PrintDialog::saveAfterPrint()
         return saveSettingsTo(path);
     if (printer_->isQueue())
         return true;
-    const std::optional<QString> chosen = askForFile();
-    if (start_.scripted)
-        return true;
-    return chosen && saveSettingsTo(*chosen);
+    if (const std::optional<QString> chosen = askForFile())
+        return saveSettingsTo(*chosen);
+    return start_.scripted;
 }
 
 void PrintDialog::send()

@@ -6,6 +6,7 @@
 #include "host/QtTexts.h"
 #include "host/ScriptPlayer.h"
 #include "platform/Bundle.h"
+#include "platform/FileChooser.h"
 #include "platform/SafeFile.h"
 #include "toolkit/KestaStyle.h"
 #include "toolkit/ToolkitServices.h"
@@ -100,6 +101,8 @@ int RunDialog(const CommandLine& commandLine)
     const auto qtTexts = InstallQtTexts(*texts);
     QApplication::setLayoutDirection(QLocale(TextsLanguage(*texts)).textDirection());
     const bool isScripted = !commandLine.scriptPath.isEmpty();
+    if (isScripted)
+        FileChooser::install(nullptr); // a script can't answer the desktop's file dialog
     DialogScript script = ReadScript(commandLine.scriptPath);
     if (!script.error.isEmpty())
         return FailScript(script.error);

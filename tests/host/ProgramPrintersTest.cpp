@@ -82,19 +82,20 @@ TEST_F(ProgramPrintersTest, ThePaneTakesWhatTheDescriptionHas)
 {
     PPDVariant withoutGroup;
     expectPlays(withoutGroup.removeGroup("InstallableOptions"),
-                "choose \"Mirrored Output:\" Enabled\nexpect-enabled Help yes\npress \"About...\"\nkey Escape\nprint");
+                "panel Advanced\nchoose \"Mirrored Output:\" Enabled\nexpect-enabled Help yes\npress \"About...\"\nkey "
+                "Escape\nprint");
     PPDVariant withoutOffset;
-    expectPlays(withoutOffset.removeOption("Jog"), "choose \"Mirrored Output:\" Enabled\nprint");
+    expectPlays(withoutOffset.removeOption("Jog"), "panel Advanced\nchoose \"Mirrored Output:\" Enabled\nprint");
 }
 
 TEST_F(ProgramPrintersTest, MenusFollowTheFittedFinisher)
 {
     PPDVariant ppd;
-    expectPlays(ppd.setDefault("Option2", "OCT"), "choose \"Request Offset:\" #2\nprint");
-    const Ended simple =
-        playFor(ppd.setDefault("Option2", "None").path(), "expect \"Mirrored Output:\"\nexpect \"Request Offset:\"");
+    expectPlays(ppd.setDefault("Option2", "OCT"), "panel Advanced\nchoose \"Request Offset:\" #2\nprint");
+    const Ended simple = playFor(ppd.setDefault("Option2", "None").path(),
+                                 "panel Advanced\nexpect \"Mirrored Output:\"\nexpect \"Request Offset:\"");
     EXPECT_EQ(simple.status, 1);
-    EXPECT_TRUE(simple.errors.contains(u"script line 2: "_s)) << simple.errors.toStdString();
+    EXPECT_TRUE(simple.errors.contains(u"script line 3: "_s)) << simple.errors.toStdString();
 }
 
 TEST_F(ProgramPrintersTest, TextsReadInTheEncodingOfTheDescription)
@@ -112,7 +113,7 @@ TEST_F(ProgramPrintersTest, TextsReadInTheEncodingOfTheDescription)
         PPDVariant ppd;
         ppd.replaceLines("*LanguageEncoding:", QByteArray("*LanguageEncoding: ") + declared);
         expectPlays(ppd.setChoiceText("Jog", "None", bytes),
-                    "choose \"Request Offset:\" #2\nchoose \"Request Offset:\" \"" + shown +
+                    "panel Advanced\nchoose \"Request Offset:\" #2\nchoose \"Request Offset:\" \"" + shown +
                         "\"\nexpect-value \"Request Offset:\" #1\ncancel");
     }
 }
