@@ -2,6 +2,7 @@
 
 #include "pde/DialogCommands.h"
 #include "pde/MenuUtilities.h"
+#include "product/Westmarch2.h"
 #include "toolkit/InterfaceFile.h"
 #include "toolkit/PictureView.h"
 

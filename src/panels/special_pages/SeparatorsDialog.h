@@ -15,12 +15,6 @@ enum class ModalResult : SInt32;
 inline constexpr SInt32 kSeparatorsNone = 1;
 inline constexpr SInt32 kSeparatorsBlank = 2;
 inline constexpr SInt32 kSeparatorsPrinted = 3;
-inline constexpr auto _SeparatorOptionMap = std::to_array<SettingRow>({
-    {"Separator Option None", kSeparatorsNone},
-    {"Separator Option Blank", kSeparatorsBlank},
-    {"Separator Option Printed", kSeparatorsPrinted},
-});
-static_assert(_SeparatorOptionMap.size() == 3);
 
 // The stock, of which the colour alone counts, becomes a fresh one first. kMissingArgument without a ticket;
 // kNoSuchTicketEntry, with the colour unset, when there are separators but no colour is said.
