@@ -27,7 +27,7 @@ public:
 
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)
+        if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize || event->type() == QEvent::Show)
             follow();
         return false;
     }

@@ -1,9 +1,12 @@
 #include "panels/advanced/AboutDialog.h"
 #include "panels/advanced/AdvancedPanel.h"
+#include "panels/color_options/ColorOptionsPanel.h"
+#include "panels/image_options/ImageOptionsPanel.h"
 #include "pde/PDEShell.h"
 #include "platform/Bundle.h"
 #include "support/TestTexts.h"
 #include "toolkit/InterfaceFile.h"
+#include "toolkit/SliderField.h"
 
 #include <gtest/gtest.h>
 
@@ -50,6 +53,11 @@ const ExpectedControls kExpectedControls[] = {
      "About",
      about::kSignature,
      {about::kPicture, about::kVersionText, about::kModelText, about::kAccessoriesText}},
+    {"ImageOptionsPanel",
+     "Panel",
+     image_options::kSignature,
+     {image_options::kQualityPopup, image_options::kQualityIllustration, image_options::kMirrorCheckBox,
+      image_options::kInvertIllustration}},
     {"Utilities", "CustomValue", "Util"_code, {1}},
 };
 
@@ -184,6 +192,27 @@ std::string NameOfFile(const testing::TestParamInfo<QString>& info)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, InterfaceFileTest, testing::ValuesIn(InterfaceFiles()), NameOfFile);
+
+TEST(InterfaceFiles, OfOtherPlugInsHoldTheirControls)
+{
+    const auto root = CreateWindowFromNib(BundleOf(QStringLiteral(TEST_RESOURCES "/../ColorOptions")),
+                                          "ColorOptionsPanel", "ColorOptions");
+    ASSERT_TRUE(root);
+    const auto expectControl = [&](color::Control number) {
+        EXPECT_TRUE(FindControl(root.get(), {color::kSignature, number})) << number;
+    };
+    for (const color::NumberSetting& setting : color::NumberSettings()) {
+        expectControl(setting.control);
+        const auto* slider = FindControlAs<SliderField>(root.get(), {color::kSignature, setting.control});
+        EXPECT_TRUE(!slider || (slider->minimum() == -100 && slider->maximum() == 100)) << setting.control;
+    }
+    for (const color::NumberSetting& setting : color::ChoiceSettings())
+        expectControl(setting.control);
+    for (const color::NameSetting& setting : color::NameSettings())
+        expectControl(setting.control);
+    for (const color::Control number : {color::kBeforeStrip, color::kAfterStrip, color::kResetButton})
+        expectControl(number);
+}
 
 TEST(InterfaceFiles, HoldEveryControlThatTheCodeAsksFor)
 {
