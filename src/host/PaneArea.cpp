@@ -3,7 +3,6 @@
 #include "host/PrintDialogControls.h"
 #include "toolkit/InterfaceFile.h"
 
-#include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QProgressBar>
@@ -27,7 +26,7 @@ public:
 
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize || event->type() == QEvent::Show)
+        if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)
             follow();
         return false;
     }
@@ -39,8 +38,6 @@ private:
         const bool scrolls = needed.height() > scroll_.height();
         const int bar = scrolls ? scroll_.verticalScrollBar()->sizeHint().width() : 0;
         scroll_.setMinimumWidth(needed.width() + bar);
-        if (content_.height() < needed.height()) // what was asked for before the area was on the screen got lost
-            QCoreApplication::postEvent(&scroll_, new QEvent(QEvent::LayoutRequest));
     }
 
     QScrollArea& scroll_;
