@@ -6,9 +6,10 @@ namespace kesta {
 
 // The functions that make the panels' interfaces, in the order of the panels.
 inline constexpr auto _PanelInterfaces = std::to_array<const char*>({
+    "GetColorOptionPanelInterface",
     "GetAdvancedPanelInterface",
 });
-static_assert(_PanelInterfaces.size() == 1);
+static_assert(_PanelInterfaces.size() == 2);
 
 // The panels that are plug-ins of their own, with their places below the library root.
 struct PanelPlugIn {

@@ -54,8 +54,9 @@ protected:
 
 TEST_F(ProgramTest, PlaysAScriptWithoutADisplayAndSavesTheSame)
 {
-    const Ended first = play("choose \"Mirrored Output:\" Enabled\nsync to-tickets\ndump dump.plist\nsummary\nprint",
-                             {u"--save-settings"_s, u"saved.plist"_s, u"-n"_s, u"2"_s});
+    const Ended first = play(
+        "panel \"Advanced\"\nchoose \"Mirrored Output:\" Enabled\nsync to-tickets\ndump dump.plist\nsummary\nprint",
+        {u"--save-settings"_s, u"saved.plist"_s, u"-n"_s, u"2"_s});
     EXPECT_EQ(first.status, 0) << first.errors.toStdString();
     EXPECT_EQ(first.output, u"2 copies\n"_s);
     EXPECT_EQ(first.errors, QString());
@@ -66,8 +67,9 @@ TEST_F(ProgramTest, PlaysAScriptWithoutADisplayAndSavesTheSame)
     EXPECT_EQ(settings, dump.readAll());
     EXPECT_TRUE(settings.contains("com.kesta.print.InvertImageOptions"));
 
-    const Ended again = play("expect-value Copies 2\nexpect-value \"Mirrored Output:\" Enabled\nprint",
-                             {u"--settings"_s, u"saved.plist"_s, u"--save-settings"_s, u"again.plist"_s});
+    const Ended again =
+        play("expect-value Copies 2\npanel \"Advanced\"\nexpect-value \"Mirrored Output:\" Enabled\nprint",
+             {u"--settings"_s, u"saved.plist"_s, u"--save-settings"_s, u"again.plist"_s});
     EXPECT_EQ(again.status, 0) << again.errors.toStdString();
     QFile second(folder.filePath(u"again.plist"_s));
     ASSERT_TRUE(second.open(QIODevice::ReadOnly));

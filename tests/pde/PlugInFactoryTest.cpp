@@ -74,7 +74,8 @@ TEST_F(PanelLoadingTest, NullMeansTheProductsPanelsAndAnEmptyListNothing)
     EXPECT_EQ(KestaPDEUsePanels(none), kMissingArgument);
     EXPECT_EQ(shell::GetPanelFunctionNames(), (std::vector<std::string>{"A", "B"})) << "unchanged";
     EXPECT_EQ(KestaPDEUsePanels(nullptr), noErr);
-    EXPECT_EQ(shell::GetPanelFunctionNames(), std::vector<std::string>{"GetAdvancedPanelInterface"});
+    EXPECT_EQ(shell::GetPanelFunctionNames(),
+              (std::vector<std::string>{"GetColorOptionPanelInterface", "GetAdvancedPanelInterface"}));
 }
 
 TEST_F(PanelLoadingTest, APanelThatFailsIsTriedAgainAtItsPlace)

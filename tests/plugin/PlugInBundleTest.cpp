@@ -29,6 +29,11 @@ protected:
         return visible;
     }
 
+    static void ShowAdvancedPanel(FakeDialog& dialog)
+    {
+        EXPECT_TRUE(FindPopupButton(&dialog.window, {"Shel"_code, 16})->chooseItem(2));
+    }
+
     const KestaPlugInFactory factory = test::FindBuiltFactory();
 };
 
@@ -37,6 +42,7 @@ TEST_F(PlugInBundleTest, TwoPanesOneAfterTheOtherWriteTheirTickets)
     for (int run = 0; run < 2; ++run) {
         FakeDialog dialog;
         const auto mirror = [&](const PanelInterface&, KestaContextRef) {
+            ShowAdvancedPanel(dialog);
             auto* popup = FindPopupButton(&dialog.window, {"Advn"_code, 106});
             return test::Pick(popup, 1) ? noErr : OSStatus{-1};
         };
@@ -54,6 +60,7 @@ TEST_F(PlugInBundleTest, ASecondPaneShowsWhatTheFirstOneWrote)
 {
     FakeDialog first, second;
     const auto choose = [&](const PanelInterface&, KestaContextRef) {
+        ShowAdvancedPanel(first);
         test::Pick(FindPopupButton(&first.window, {"Advn"_code, 107}), 1);
         test::Pick(FindPopupButton(&first.window, {"Advn"_code, 105}), 1);
         return noErr;
