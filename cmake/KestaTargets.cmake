@@ -29,6 +29,32 @@ function(kesta_layer name)
   target_link_libraries(${name} PUBLIC ${ARG_USES})
 endfunction()
 
+# A target that fills a plug-in's resources folder from resources/NAME: files one by one, so that the build notices each
+# change, and the texts of translations/NAME_LOCALE.ts.
+function(kesta_bundle_resources target name folder)
+  set(resources ${PROJECT_SOURCE_DIR}/resources/${name})
+  file(GLOB_RECURSE files RELATIVE ${resources} CONFIGURE_DEPENDS ${resources}/*)
+  list(FILTER files EXCLUDE REGEX "^translations/|CMakeLists.txt$")
+  set(outputs)
+  foreach(file IN LISTS files)
+    add_custom_command(OUTPUT ${folder}/${file}
+      COMMAND ${CMAKE_COMMAND} -E copy ${resources}/${file} ${folder}/${file}
+      DEPENDS ${resources}/${file} VERBATIM)
+    list(APPEND outputs ${folder}/${file})
+  endforeach()
+  file(GLOB catalogues CONFIGURE_DEPENDS ${resources}/translations/${name}_*.ts)
+  foreach(catalogue IN LISTS catalogues)
+    get_filename_component(texts ${catalogue} NAME_WE)
+    set(place ${folder}/Translations/${texts}.qm)
+    add_custom_command(OUTPUT ${place}
+      COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}/Translations
+      COMMAND Qt6::lrelease -silent ${catalogue} -qm ${place}
+      DEPENDS ${catalogue} VERBATIM)
+    list(APPEND outputs ${place})
+  endforeach()
+  add_custom_target(${target} ALL DEPENDS ${outputs})
+endfunction()
+
 # One test program and its ctest entry. UI tests run on the offscreen platform.
 function(kesta_test name)
   cmake_parse_arguments(ARG "UI" "" "SOURCES;USES" ${ARGN})

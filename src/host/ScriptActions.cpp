@@ -59,7 +59,8 @@ QString TypeText(const QWidget& window, const ScriptStep& step, const ScriptText
     const auto* combo = qobject_cast<QComboBox*>(control);
     if (combo && !combo->isEditable())
         return u"%1 can't be typed into"_s.arg(Spelled(step.target));
-    const QPointer<QWidget> field = combo ? combo->lineEdit() : control;
+    const auto* slider = qobject_cast<SliderField*>(control);
+    const QPointer<QWidget> field = combo ? combo->lineEdit() : slider ? &slider->field() : control;
     control->setFocus(Qt::TabFocusReason);
     SelectAllText(*field);
     if (step.text.isEmpty())

@@ -84,6 +84,8 @@ QString ShownValue(const QWidget& widget)
         return field->text();
     if (const auto* spin = qobject_cast<const QAbstractSpinBox*>(&widget))
         return spin->text();
+    if (const auto* slider = qobject_cast<const SliderField*>(&widget))
+        return slider->field().text();
     if (const auto* area = qobject_cast<const QPlainTextEdit*>(&widget))
         return area->toPlainText();
     if (const auto* tabs = qobject_cast<const TabControl*>(&widget))

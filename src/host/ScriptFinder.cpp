@@ -2,6 +2,7 @@
 
 #include "toolkit/Controls.h"
 #include "toolkit/MenuControl.h"
+#include "toolkit/SliderField.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -33,11 +34,12 @@ bool IsNamed(const QWidget& widget, const QStringList& meanings)
                                [&](const QString& name) { return meanings.contains(ComparableName(name)); });
 }
 
-// The field in a combo box or spin box is its box.
+// The field in a combo box, spin box or slider is its box or slider.
 bool IsInnerPart(const QWidget& widget)
 {
     const QWidget* around = widget.parentWidget();
-    return around && (qobject_cast<const QAbstractSpinBox*>(around) || qobject_cast<const QComboBox*>(around));
+    return around && (qobject_cast<const QAbstractSpinBox*>(around) || qobject_cast<const QComboBox*>(around) ||
+                      qobject_cast<const SliderField*>(around));
 }
 
 void AddCells(const QAbstractItemView& view, QStringList& shown)

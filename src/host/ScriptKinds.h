@@ -5,6 +5,8 @@
 #include "toolkit/HistoryComboBox.h"
 #include "toolkit/ListView.h"
 #include "toolkit/MenuControl.h"
+#include "toolkit/SliderField.h"
+#include "toolkit/SpinField.h"
 #include "toolkit/TabControl.h"
 
 #include <QAbstractButton>
@@ -28,7 +30,7 @@ inline bool IsChoosable(const QWidget& widget)
 
 inline bool IsTypable(const QWidget& widget)
 {
-    return IsOneOf<QLineEdit, QAbstractSpinBox, QComboBox, QPlainTextEdit>(widget);
+    return IsOneOf<QLineEdit, QAbstractSpinBox, QComboBox, QPlainTextEdit, SliderField>(widget);
 }
 
 inline bool IsCheckable(const QWidget& widget)

@@ -15,11 +15,13 @@ using namespace Qt::StringLiterals;
 namespace kesta::host {
 namespace {
 
+constexpr int kLayoutRounds = 8;    // a layout may ask the one around it for room, and so on
 constexpr unsigned long kPause = 2; // milliseconds between looks at a dialog that is busy
 
 QString WriteScreenshot(QWidget& window, const QString& file)
 {
-    QApplication::sendPostedEvents(); // layouts that are due
+    for (int round = 0; round < kLayoutRounds; ++round)
+        QApplication::sendPostedEvents();
     return window.grab().save(file, "PNG") ? QString() : u"%1 can't be written"_s.arg(file);
 }
 

@@ -23,8 +23,6 @@ using namespace Qt::StringLiterals;
 namespace kesta::host {
 namespace {
 
-constexpr char kPaneBundle[] = "com.kesta.print.pde.kestafeatures.vt4100_4200_4300";
-
 int Fail(const QString& reason)
 {
     PrintFailure(reason);
@@ -68,9 +66,11 @@ DialogScript ReadScript(const QString& path)
 QStringList TranslationsOf(const QString& key, const Bundle& texts)
 {
     QStringList found;
-    for (const Bundle* bundle : {&texts, FindBundle(kPaneBundle)}) {
+    std::vector<const Bundle*> bundles = LoadedBundles(); // those of panels among them
+    bundles.insert(bundles.begin(), &texts);
+    for (const Bundle* bundle : bundles) {
         for (const char* table : {"Localizable", "LANFax"}) {
-            const QString text = bundle ? LocalizedString(*bundle, key, table) : QString();
+            const QString text = LocalizedString(*bundle, key, table);
             if (!text.isEmpty() && text != QLatin1StringView(kStringNotFound))
                 found << text;
         }

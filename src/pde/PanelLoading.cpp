@@ -13,6 +13,8 @@ using namespace Qt::StringLiterals;
 namespace kesta::shell {
 namespace {
 
+constexpr char kLibraryRootVariable[] = "KESTA_LIBRARY_ROOT";
+
 std::vector<std::string>& FunctionNames()
 {
     static std::vector<std::string> names(_PanelInterfaces.begin(), _PanelInterfaces.end());
@@ -24,7 +26,10 @@ BundleOrError BundleOfPanel(const Bundle& plugIn, std::string_view functionName)
     const auto own = std::ranges::find(_PanelPlugIns, functionName, &PanelPlugIn::functionName);
     if (own == _PanelPlugIns.end())
         return {&plugIn, {}};
-    return LoadBundleAt(GetLibraryRoot(plugIn) + QString::fromUtf8(own->path));
+    const QString plain = QString::fromUtf8(own->path);
+    const QString belowRoot = GetLibraryRoot(plugIn) + plain;
+    const bool isRootChosen = !qEnvironmentVariableIsEmpty(kLibraryRootVariable);
+    return LoadBundleAt(isRootChosen || QFileInfo::exists(belowRoot) || !QFileInfo::exists(plain) ? belowRoot : plain);
 }
 
 } // namespace
@@ -43,7 +48,7 @@ void SetPanelFunctionNames(std::vector<std::string> names)
 
 QString GetLibraryRoot(const Bundle& plugIn)
 {
-    const QString configured = qEnvironmentVariable("KESTA_LIBRARY_ROOT");
+    const QString configured = qEnvironmentVariable(kLibraryRootVariable);
     return configured.isEmpty() ? QFileInfo(plugIn.path).absolutePath() : configured;
 }
 

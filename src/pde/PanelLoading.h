@@ -19,7 +19,8 @@ namespace shell {
 const std::vector<std::string>& GetPanelFunctionNames();
 void SetPanelFunctionNames(std::vector<std::string> names); // an empty list: the product's again
 
-// Where plug-ins of other makers' panels lie: $KESTA_LIBRARY_ROOT, else the folder that holds the plug-in.
+// Where panels lie that are plug-ins of their own: $KESTA_LIBRARY_ROOT, else the folder that holds the plug-in. When
+// nobody chose a root and such a plug-in is not there, it is looked for under its path as it is.
 QString GetLibraryRoot(const Bundle& plugIn);
 
 struct PanelFunctionOrProblem {

@@ -7,9 +7,10 @@ namespace kesta {
 // The functions that make the panels' interfaces, in the order of the panels.
 inline constexpr auto _PanelInterfaces = std::to_array<const char*>({
     "GetPaperOutputPanelInterface",
+    "GetColorOptionPanelInterface",
     "GetAdvancedPanelInterface",
 });
-static_assert(_PanelInterfaces.size() == 2);
+static_assert(_PanelInterfaces.size() == 3);
 
 // The panels that are plug-ins of their own, with their places below the library root.
 struct PanelPlugIn {

@@ -8,6 +8,7 @@
 #include "toolkit/ListView.h"
 #include "toolkit/MenuButton.h"
 #include "toolkit/PictureView.h"
+#include "toolkit/SliderField.h"
 #include "toolkit/SpinField.h"
 #include "toolkit/SummaryTextView.h"
 #include "toolkit/TabControl.h"
@@ -40,6 +41,7 @@ constexpr auto kWidgetClasses = std::to_array<WidgetClass>({
     {"PopupButton", Make<PopupButton>},
     {"MenuButton", Make<MenuButton>},
     {"SpinField", Make<SpinField>},
+    {"SliderField", Make<SliderField>},
     {"HistoryComboBox", Make<HistoryComboBox>},
     {"ColorSwatch", Make<ColorSwatch>},
     {"ClickableText", Make<ClickableText>},

@@ -9,6 +9,7 @@
 #include "toolkit/Mnemonics.h"
 #include "toolkit/PictureView.h"
 #include "toolkit/Pictures.h"
+#include "toolkit/SliderField.h"
 #include "toolkit/TabControl.h"
 #include "toolkit/TextInput.h"
 
@@ -55,7 +56,8 @@ bool IsInnerPart(const QWidget& widget) // of a control that is made of several
 {
     const QWidget* around = widget.parentWidget();
     return around && (qobject_cast<const QAbstractSpinBox*>(around) || qobject_cast<const QComboBox*>(around) ||
-                      qobject_cast<const QAbstractItemView*>(around) || qobject_cast<const QTabBar*>(around));
+                      qobject_cast<const QAbstractItemView*>(around) || qobject_cast<const QTabBar*>(around) ||
+                      qobject_cast<const SliderField*>(around));
 }
 
 void SetUpStandardButtons(const QDialogButtonBox& box)
@@ -163,6 +165,8 @@ void NameControls(const QWidget& root)
         if (label->buddy() && label->buddy()->accessibleName().isEmpty())
             label->buddy()->setAccessibleName(WithoutMnemonic(label->text()));
     }
+    for (SliderField* slider : root.findChildren<SliderField*>())
+        slider->nameParts();
     for (QAbstractButton* button : root.findChildren<QAbstractButton*>()) {
         if (button->text().isEmpty() && button->accessibleName().isEmpty() && !button->toolTip().isEmpty())
             button->setAccessibleName(button->toolTip());

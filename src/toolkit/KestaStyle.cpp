@@ -227,6 +227,7 @@ int KestaProxyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_ExclusiveIndicatorHeight:
     case PM_ButtonIconSize:
     case PM_SmallIconSize:
+    case PM_SliderLength:
         return LookOf(widget) == "tile" ? 48 : kIndicator;
     case PM_MenuPanelWidth:
         return 1;

@@ -2,6 +2,7 @@
 
 #include "toolkit/ControlEvent.h"
 
+#include <QLineEdit>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -22,12 +23,25 @@ SpinField::SpinField(QWidget* parent) : QDoubleSpinBox(parent)
     setDecimals(0);
     setRange(0, 99);
     connect(this, &QDoubleSpinBox::valueChanged, this, &SpinField::sendHit);
+    // Becoming empty, and filled with the number that was there before, is no change of the value below.
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { empty_ = meansEmpty(text); });
+    connect(lineEdit(), &QLineEdit::textChanged, this, [this] {
+        if (hasAcceptableInput())
+            sendHit();
+    });
 }
 
 void SpinField::sendHit()
 {
-    if (settingByCode_ == 0)
-        SendControlEvent(*this, HitEvent{.value = number()});
+    if (settingByCode_ != 0 || number() == lastNumber_)
+        return;
+    lastNumber_ = number();
+    SendControlEvent(*this, HitEvent{.value = lastNumber_});
+}
+
+bool SpinField::meansEmpty(const QString& text) const
+{
+    return !emptyText().isEmpty() && text.trimmed().isEmpty();
 }
 
 SInt32 SpinField::toNumber(double shown) const
@@ -48,6 +62,7 @@ void SpinField::setLimits(SInt32 least, SInt32 most, int decimals)
     setDecimals(std::clamp(decimals, 0, kMostDecimals));
     setRange(toShown(least), toShown(most));
     setSingleStep(toShown(1));
+    lastNumber_ = number();
     --settingByCode_;
 }
 
@@ -63,14 +78,63 @@ SInt32 SpinField::mostNumber() const
 
 SInt32 SpinField::number() const
 {
-    return toNumber(value());
+    return empty_ ? kUnset : toNumber(value());
+}
+
+void SpinField::setShown(SInt32 number)
+{
+    ++settingByCode_;
+    setValue(toShown(number));
+    lastNumber_ = this->number();
+    --settingByCode_;
 }
 
 void SpinField::setNumber(SInt32 number)
 {
-    ++settingByCode_;
-    setValue(toShown(number));
-    --settingByCode_;
+    empty_ = number == kUnset && !emptyText().isEmpty();
+    setShown(empty_ ? 0 : number);
+}
+
+QString SpinField::emptyText() const
+{
+    return lineEdit()->placeholderText();
+}
+
+void SpinField::setEmptyText(const QString& text)
+{
+    lineEdit()->setPlaceholderText(text);
+    if (text.isEmpty() && empty_)
+        setNumber(0);
+}
+
+QValidator::State SpinField::validate(QString& text, int& position) const
+{
+    return meansEmpty(text) ? QValidator::Acceptable : QDoubleSpinBox::validate(text, position);
+}
+
+double SpinField::valueFromText(const QString& text) const
+{
+    return meansEmpty(text) ? value() : QDoubleSpinBox::valueFromText(text);
+}
+
+QString SpinField::textFromValue(double shown) const
+{
+    return empty_ ? QString() : QDoubleSpinBox::textFromValue(shown);
+}
+
+void SpinField::stepBy(int steps)
+{
+    if (empty_) {
+        setNumber(0);
+        lastNumber_ = kUnset;
+    }
+    QDoubleSpinBox::stepBy(steps);
+    sendHit(); // an end that is reached from empty is another number, too
+}
+
+QAbstractSpinBox::StepEnabled SpinField::stepEnabled() const
+{
+    return empty_ && !isReadOnly() ? StepUpEnabled | StepDownEnabled : QDoubleSpinBox::stepEnabled();
 }
 
 QSize SpinField::sizeHint() const

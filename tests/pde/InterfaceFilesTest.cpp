@@ -1,6 +1,8 @@
 #include "panels/advanced/AboutDialog.h"
 #include "panels/advanced/AdvancedPanel.h"
 #include "panels/booklet_watermark/BookletDialog.h"
+#include "panels/color_options/ColorOptionsPanel.h"
+#include "panels/image_options/ImageOptionsPanel.h"
 #include "panels/paper_output/JobTypeSetups.h"
 #include "panels/paper_output/PaperOutputPanel.h"
 #include "panels/special_pages/AdvancedStockDialog.h"
@@ -13,6 +15,7 @@
 #include "platform/Bundle.h"
 #include "support/TestTexts.h"
 #include "toolkit/InterfaceFile.h"
+#include "toolkit/SliderField.h"
 
 #include <gtest/gtest.h>
 
@@ -107,6 +110,11 @@ const ExpectedControls kExpectedControls[] = {
      advancedstock::kSignature,
      {advancedstock::kSizePopup, advancedstock::kColorPopup, advancedstock::kTypePopup, advancedstock::kPunchedPopup,
       advancedstock::kWeightField, advancedstock::kDescriptionField, advancedstock::kIcon}},
+    {"ImageOptionsPanel",
+     "Panel",
+     image_options::kSignature,
+     {image_options::kQualityPopup, image_options::kQualityIllustration, image_options::kMirrorCheckBox,
+      image_options::kInvertIllustration}},
     {"Utilities", "CustomValue", "Util"_code, {1}},
     {"SecurePrint",
      "SecurePrint",
@@ -258,6 +266,27 @@ std::string NameOfFile(const testing::TestParamInfo<QString>& info)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, InterfaceFileTest, testing::ValuesIn(InterfaceFiles()), NameOfFile);
+
+TEST(InterfaceFiles, OfOtherPlugInsHoldTheirControls)
+{
+    const auto root = CreateWindowFromNib(BundleOf(QStringLiteral(TEST_RESOURCES "/../ColorOptions")),
+                                          "ColorOptionsPanel", "ColorOptions");
+    ASSERT_TRUE(root);
+    const auto expectControl = [&](color::Control number) {
+        EXPECT_TRUE(FindControl(root.get(), {color::kSignature, number})) << number;
+    };
+    for (const color::NumberSetting& setting : color::NumberSettings()) {
+        expectControl(setting.control);
+        const auto* slider = FindControlAs<SliderField>(root.get(), {color::kSignature, setting.control});
+        EXPECT_TRUE(!slider || (slider->minimum() == -100 && slider->maximum() == 100)) << setting.control;
+    }
+    for (const color::NumberSetting& setting : color::ChoiceSettings())
+        expectControl(setting.control);
+    for (const color::NameSetting& setting : color::NameSettings())
+        expectControl(setting.control);
+    for (const color::Control number : {color::kBeforeStrip, color::kAfterStrip, color::kResetButton})
+        expectControl(number);
+}
 
 TEST(InterfaceFiles, HoldEveryControlThatTheCodeAsksFor)
 {

@@ -75,7 +75,8 @@ TEST_F(PanelLoadingTest, NullMeansTheProductsPanelsAndAnEmptyListNothing)
     EXPECT_EQ(shell::GetPanelFunctionNames(), (std::vector<std::string>{"A", "B"})) << "unchanged";
     EXPECT_EQ(KestaPDEUsePanels(nullptr), noErr);
     EXPECT_EQ(shell::GetPanelFunctionNames(),
-              (std::vector<std::string>{"GetPaperOutputPanelInterface", "GetAdvancedPanelInterface"}));
+              (std::vector<std::string>{"GetPaperOutputPanelInterface", "GetColorOptionPanelInterface",
+                                        "GetAdvancedPanelInterface"}));
 }
 
 TEST_F(PanelLoadingTest, APanelThatFailsIsTriedAgainAtItsPlace)

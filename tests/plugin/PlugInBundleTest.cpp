@@ -43,8 +43,8 @@ protected:
     {
         return FindPopupButton(&dialog.window, {"Shel"_code, 16})->chooseItem(position);
     }
-    static constexpr int kPanels = 2;
-    static constexpr int kAdvanced = 2;
+    static constexpr int kPanels = 3;
+    static constexpr int kAdvanced = 3;
 
     const KestaPlugInFactory factory = test::FindBuiltFactory();
 };

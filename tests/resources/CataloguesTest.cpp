@@ -89,8 +89,9 @@ TEST(EnglishTexts, KeepToTheWordingOfTheHouse)
 {
     const QRegularExpression unwanted(u":$|[!&]|\\.\\.\\.|%[@ds]|  |^ | $|'|\"|\\b(error|invalid|please)\\b"_s,
                                       QRegularExpression::CaseInsensitiveOption);
-    for (const auto& [key, text] : TextsOf(English(u"KestaFeatures"_s))) {
-        EXPECT_TRUE(key.second == u":" || !text.contains(unwanted)) << Name(key) << ": " << text.toStdString();
+    for (const QString& bundle : {u"KestaFeatures"_s, u"ColorOptions"_s}) {
+        for (const auto& [key, text] : TextsOf(English(bundle)))
+            EXPECT_TRUE(key.second == u":" || !text.contains(unwanted)) << Name(key) << ": " << text.toStdString();
     }
 }
 
@@ -112,7 +113,7 @@ TEST(Translations, FitTheEnglishTexts)
             }
         }
     }
-    EXPECT_GE(files, 4); // two bundles in English, and the pseudo-languages
+    EXPECT_GE(files, 5); // three bundles in English, and the pseudo-languages
 }
 
 TEST(PseudoLanguage, IsHalfAsLongAgain)

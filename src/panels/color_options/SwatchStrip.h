@@ -1,0 +1,13 @@
+#pragma once
+
+#include "panels/color_options/ColorSwatches.h"
+
+class QPainter;
+class QRect;
+
+namespace kesta::color {
+
+// Fills the bounds with the swatches side by side, as they are after the adjustments.
+void DrawSwatches(QPainter& painter, const QRect& bounds, const Adjustments& adjustments);
+
+} // namespace kesta::color

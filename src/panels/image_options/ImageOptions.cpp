@@ -1,0 +1,66 @@
+#include "panels/image_options/ImageOptions.h"
+
+#include "pde/TicketKeys.h"
+#include "pde/TicketUtilities.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::image_options {
+namespace {
+
+constexpr char kInvertClient[] = "X";
+
+// By quality, from 1.
+constexpr auto kQualityPictures = std::to_array<const char*>({
+    "ImageOptions_ImgQual_TonerSaver.gif",
+    "ImageOptions_ImgQual_Standard.gif",
+    "ImageOptions_ImgQual_Enhanced.gif",
+    "ImageOptions_ImgQual_TonerSaver.gif",
+    "ImageOptions_ImgQual_Standard.gif",
+    "ImageOptions_ImgQual_Enhanced.gif",
+});
+static_assert(kQualityPictures.size() == JCLPrintQualityMap.size());
+
+} // namespace
+
+void ReadQuality(ImageOptions& options, const Ticket& settings, ppd_file_t* ppd)
+{
+    options.quality = PPDGetTicketValueForChoiceOrDefault(ppd, settings, "JCLPrintQuality").value_or(options.quality);
+}
+
+void WriteQuality(const ImageOptions& options, Ticket& settings)
+{
+    WriteTicketValue(TicketWriter(settings, kPrintingManagerClient), key::ImageResolution, options.quality);
+    PPDSetChoiceForTicketValue(settings, "JCLPrintQuality", options.quality);
+}
+
+void ReadInvertImage(ImageOptions& options, const Ticket& settings)
+{
+    const Dictionary* dictionary = settings.values().dictionary(key::InvertImageOptions);
+    InvertImageSetOptionsFromTicket(options.invert, dictionary ? *dictionary : Dictionary());
+}
+
+void WriteInvertImage(ImageOptions& options, const InvertControls& controls, Ticket& settings)
+{
+    options.invert.negativeImage |= controls.negative;
+    options.invert.mirrorImage |= controls.mirror;
+    TicketWriter(settings, kInvertClient)
+        .set(key::InvertImageOptions, InvertImageCreateTicketFromOptions(options.invert));
+}
+
+QString InvertIllustration(const II_Options& options)
+{
+    const bool mirrored = options.mirrorImage && !options.negativeImage;
+    return mirrored ? u"ImageOptions_InvertImage_Mirror.gif"_s : u"ImageOptions_InvertImage_Off.gif"_s;
+}
+
+QString QualityIllustration(SInt32 quality)
+{
+    if (quality < 1 || quality > static_cast<SInt32>(kQualityPictures.size()))
+        return {};
+    return QString::fromLatin1(kQualityPictures[static_cast<std::size_t>(quality) - 1]);
+}
+
+} // namespace kesta::image_options

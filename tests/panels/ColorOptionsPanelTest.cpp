@@ -1,0 +1,179 @@
+#include "panels/color_options/ColorOptionsPanel.h"
+
+#include "panels/color_options/ColorMenus.h"
+#include "panels/color_options/SwatchStrip.h"
+#include "pde/MenuUtilities.h"
+#include "pde/TicketKeys.h"
+#include "support/TestTexts.h"
+#include "support/User.h"
+#include "toolkit/PictureView.h"
+#include "toolkit/SliderField.h"
+#include "toolkit/SpinField.h"
+#include "toolkit/TextInput.h"
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QPainter>
+#include <QSlider>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::color {
+namespace {
+
+// The panel in a pane, over a session with an empty print-settings ticket, driven through its slots.
+class ColorOptionsPanelTest : public testing::Test {
+protected:
+    ColorOptionsPanelTest()
+    {
+        LoadBundle(kColorOptionsIdentifier,
+                   Bundle{.resourcesPath = QStringLiteral(TEST_RESOURCES "/../ColorOptions"), .strings = {}});
+        LoadBundle(kPlugInIdentifier, test::BundleWithTexts({}));
+        PMSessionSetDataInSession(session, kPMPrintSettingsTicket, ticket.reference());
+        const PanelInterfaceHolder* holder = nullptr;
+        GetColorOptionPanelInterface(&holder);
+        slots = holder->table;
+        slots->Prologue(&prologue);
+    }
+    ~ColorOptionsPanelTest() override { slots->Terminate(prologue.context, noErr); }
+    void open()
+    {
+        ASSERT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session), noErr);
+        ASSERT_EQ(slots->Open(prologue.context), noErr);
+    }
+    template <class Widget> Widget& control(Control number)
+    {
+        auto* found = FindControlAs<Widget>(&pane, {kSignature, number});
+        EXPECT_TRUE(found) << number;
+        return *found;
+    }
+    PopupButton* popup(Control number) { return FindPopupButton(&pane, {kSignature, number}); }
+    OSStatus sync(bool toControls) { return slots->Sync(prologue.context, &session, toControls); }
+    Dictionary stored() const
+    {
+        const Dictionary* found = ticket.values().dictionary(key::FullColorOptions);
+        return found ? *found : Dictionary();
+    }
+    void answerName(const QString& name, FourCharCode command)
+    {
+        user.then([name, command](QWidget& window) {
+            TypeIntoField(FindTextField(&window, {"Util"_code, 1}), name);
+            test::Press(window, command);
+        });
+    }
+
+    PrintSession session;
+    Ticket ticket;
+    QWidget pane;
+    test::ModalUser user;
+    const PanelInterface* slots = nullptr;
+    KestaPrologue prologue{};
+};
+
+TEST_F(ColorOptionsPanelTest, WhatTheUserSetsReachesTheTicketAndComesBack)
+{
+    open();
+    control<SliderField>(kLightness).slider().setValue(30);
+    control<SliderField>(kCyanRed).field().stepBy(-5);
+    EXPECT_EQ(control<SliderField>(kYellowBlue).number(), 0) << "a cast is set whole";
+    EXPECT_TRUE(test::Pick(popup(kCMYKTextAndGraphics), 2));
+    EXPECT_TRUE(test::Pick(popup(kTrapping), 1));
+    control<SpinField>(kSlowDirection).stepBy(4);
+    EXPECT_TRUE(test::Pick(popup(kGraphicRendering), 0));
+    ASSERT_EQ(sync(false), noErr);
+    const auto n = [](int number) { return Value(Number::Index(number)); };
+    const Dictionary expected{
+        {"FCLightness", n(30)},
+        {"FCColorCast", Dictionary{{"FCCyanRed", n(-5)}, {"FCMagentaGreen", n(0)}, {"FCYellowBlue", n(0)}}},
+        {"CMYKTextAndGraphicsProfile", n(2)},
+        {"FCTrapping", n(1)},
+        {"FCTrappingSlowDirection", n(4)},
+        {"GraphicRendering", n(0)}};
+    EXPECT_EQ(stored(), expected);
+
+    ClickControl(&control<QWidget>(kResetButton));
+    EXPECT_EQ(control<SliderField>(kLightness).number(), kUnset);
+    EXPECT_FALSE(control<QWidget>(kResetButton).isEnabled());
+    ASSERT_EQ(sync(true), noErr);
+    EXPECT_EQ(control<SliderField>(kLightness).number(), 30);
+    EXPECT_EQ(control<SliderField>(kContrast).number(), kUnset);
+    EXPECT_TRUE(control<QWidget>(kResetButton).isEnabled());
+}
+
+TEST_F(ColorOptionsPanelTest, TheDirectionsGoWithTrapping)
+{
+    open();
+    const auto enabled = [&] {
+        return control<SpinField>(kFastDirection).isEnabled() && control<SpinField>(kSlowDirection).isEnabled();
+    };
+    EXPECT_FALSE(enabled());
+    EXPECT_TRUE(test::Pick(popup(kTrapping), 1));
+    EXPECT_TRUE(enabled());
+    EXPECT_TRUE(test::Pick(popup(kTrapping), 0));
+    EXPECT_FALSE(enabled());
+}
+
+TEST_F(ColorOptionsPanelTest, ANameIsAskedForAndShown)
+{
+    open();
+    answerName(u"Company RGB"_s, kCommandOK);
+    EXPECT_TRUE(test::Pick(popup(kRGBImages), kAskForName));
+    EXPECT_EQ(popup(kRGBImages)->text(), u"Company RGB"_s);
+
+    answerName(u"else"_s, kCommandCancel);
+    EXPECT_TRUE(test::Pick(popup(kRGBImages), kAskForName));
+    EXPECT_EQ(popup(kRGBImages)->text(), u"Company RGB"_s);
+    answerName(QString(256, u'x'), kCommandOK); // refused as it is pasted
+    EXPECT_TRUE(test::Pick(popup(kGrayImages), kAskForName));
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(stored(), (Dictionary{{"RGBImagesProfile", "Company RGB"}}));
+
+    EXPECT_TRUE(test::Pick(popup(kRGBImages), kUnset));
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(stored(), Dictionary());
+}
+
+TEST_F(ColorOptionsPanelTest, WhatIsOutOfAControlsRangeStaysAsItIs)
+{
+    const Dictionary beyond{{"FCSaturation", Number::Index(-700)}, {"TextRendering", Number::Index(12)}};
+    ticket.set("X", key::FullColorOptions, beyond);
+    open();
+    EXPECT_EQ(control<SliderField>(kSaturation).number(), -100);
+    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTextRendering)), 12);
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(stored(), beyond);
+}
+
+TEST_F(ColorOptionsPanelTest, TheStripsShowTheColorsBeforeAndAfter)
+{
+    open();
+    const auto drawn = [&](Control strip) {
+        QImage image(120, 20, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        const DrawEvent draw{.painter = &painter, .bounds = image.rect()};
+        EXPECT_EQ(SendControlEvent(control<PictureView>(strip), draw), EventResult::Handled);
+        return image;
+    };
+    EXPECT_EQ(drawn(kBeforeStrip), drawn(kAfterStrip));
+    control<SliderField>(kSaturation).slider().setValue(-100);
+    const QColor red = drawn(kBeforeStrip).pixelColor(55, 10), gray = drawn(kAfterStrip).pixelColor(55, 10);
+    EXPECT_EQ(red, QColor(204, 51, 51));
+    EXPECT_EQ(gray.saturation(), 0);
+}
+
+TEST_F(ColorOptionsPanelTest, SyncWorksBeforeThereAreControlsAndWithoutThem)
+{
+    ticket.set("X", key::FullColorOptions, Dictionary{{"FCContrast", Number::Index(3)}});
+    ASSERT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session), noErr);
+    LoadBundle(kColorOptionsIdentifier, Bundle{.resourcesPath = u"/nowhere"_s, .strings = {}});
+    EXPECT_EQ(slots->Open(prologue.context), noErr);
+    EXPECT_EQ(sync(false), noErr);
+    EXPECT_EQ(stored(), (Dictionary{{"FCContrast", Number::Index(3)}}));
+    session.data.clear();
+    EXPECT_EQ(sync(true), kNoSuchTicket);
+}
+
+} // namespace
+} // namespace kesta::color

@@ -1,0 +1,140 @@
+#include "panels/image_options/ImageOptionsPanel.h"
+
+#include "pde/MenuUtilities.h"
+#include "pde/TicketKeys.h"
+#include "pde/TicketUtilities.h"
+#include "support/CurrentPrinter.h"
+#include "support/TestTexts.h"
+#include "support/User.h"
+#include "toolkit/PictureView.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::image_options {
+namespace {
+
+Dictionary Invert(int negative, int mirror)
+{
+    return {{"NegativeImage", Number::Index(negative)}, {"MirrorImage", Number::Index(mirror)}};
+}
+
+// The panel in a pane, over a session with an empty print-settings ticket, driven through its slots.
+class ImageOptionsPanelTest : public testing::Test {
+protected:
+    ImageOptionsPanelTest()
+    {
+        LoadBundle(kPlugInIdentifier, test::BundleWithTexts({"ImageOptions"}));
+        PMSessionSetDataInSession(session, kPMPrintSettingsTicket, ticket.reference());
+        const PanelInterfaceHolder* holder = nullptr;
+        GetImageOptionsPanelInterface(&holder);
+        slots = holder->table;
+        slots->Prologue(&prologue);
+    }
+    ~ImageOptionsPanelTest() override { slots->Terminate(prologue.context, noErr); }
+    OSStatus initialize() { return slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session); }
+    void open()
+    {
+        ASSERT_EQ(initialize(), noErr);
+        ASSERT_EQ(slots->Open(prologue.context), noErr);
+    }
+    PopupButton* quality() { return FindPopupButton(&pane, {kSignature, kQualityPopup}); }
+    QCheckBox* mirror() { return FindControlAs<QCheckBox>(&pane, {kSignature, kMirrorCheckBox}); }
+    QString picture(Control number) { return FindControlAs<PictureView>(&pane, {kSignature, number})->picture(); }
+    OSStatus sync(bool toControls) { return slots->Sync(prologue.context, &session, toControls); }
+    const Dictionary& stored() const { return *ticket.values().dictionary(key::InvertImageOptions); }
+
+    test::CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
+    PrintSession& session = printer.session;
+    Ticket ticket;
+    QWidget pane;
+    const PanelInterface* slots = nullptr;
+    KestaPrologue prologue{};
+};
+
+TEST_F(ImageOptionsPanelTest, WhatTheUserPicksReachesTheTicketAndComesBack)
+{
+    open();
+    EXPECT_EQ(GetPopupButtonTicketValue(quality()), 2) << "the printer's default";
+    EXPECT_TRUE(test::Pick(quality(), 4));
+    EXPECT_EQ(picture(kQualityIllustration), u"ImageOptions_ImgQual_TonerSaver.gif"_s);
+    ClickControl(mirror());
+    EXPECT_EQ(picture(kInvertIllustration), u"ImageOptions_InvertImage_Mirror.gif"_s);
+
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(stored(), Invert(0, 1));
+    EXPECT_EQ(ticket.client(key::InvertImageOptions), u"X"_s);
+    EXPECT_EQ(ReadTicketValue(ticket, key::ImageResolution), 4);
+    EXPECT_EQ(ticket.client(key::ImageResolution), QLatin1StringView(kPrintingManagerClient));
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "JCLPrintQuality"), u"HighSpeed"_s);
+
+    quality()->setValue(1);
+    mirror()->setChecked(false);
+    ASSERT_EQ(sync(true), noErr);
+    EXPECT_EQ(GetPopupButtonTicketValue(quality()), 4);
+    EXPECT_TRUE(mirror()->isChecked());
+}
+
+TEST_F(ImageOptionsPanelTest, ReadingWritesTheQualityToo)
+{
+    PPDSetCurrentChoice(ticket, "JCLPrintQuality", "Enhanced");
+    ASSERT_EQ(initialize(), noErr);
+    EXPECT_EQ(ReadTicketValue(ticket, key::ImageResolution), 3);
+    EXPECT_FALSE(ticket.values().find(key::InvertImageOptions)) << "but nothing else";
+}
+
+TEST_F(ImageOptionsPanelTest, ANegativeImageStaysAndHidesTheMirrorPicture)
+{
+    ticket.set("X", key::InvertImageOptions, Invert(5, 1));
+    open();
+    EXPECT_TRUE(mirror()->isChecked());
+    EXPECT_EQ(picture(kInvertIllustration), u"ImageOptions_InvertImage_Off.gif"_s);
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(stored(), Invert(1, 1));
+}
+
+TEST_F(ImageOptionsPanelTest, TheInvertSectionsOwnControlsCountByBeingThere)
+{
+    open();
+    auto* negative = new QCheckBox(&pane);
+    SetControlID(*negative, {kSignature, kNegativeInvertControl});
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(stored(), Invert(1, 0)) << "though it is not checked";
+    ASSERT_EQ(sync(true), noErr);
+    EXPECT_TRUE(negative->isChecked());
+}
+
+TEST_F(ImageOptionsPanelTest, ItOpensOnce)
+{
+    open();
+    EXPECT_EQ(slots->Open(prologue.context), kInvalidContext);
+    EXPECT_EQ(slots->Close(prologue.context), noErr);
+    EXPECT_STREQ(prologue.title, "ImageOptions");
+    EXPECT_EQ(slots->Sync(prologue.context, nullptr, true), kSyncWithoutContext);
+}
+
+TEST_F(ImageOptionsPanelTest, WithoutAPPDThePopupIsEmptyAndTheQualityStays)
+{
+    PPDCloseCurrent();
+    printer.setPPD(u"/nowhere.ppd"_s);
+    PPDSetCurrentChoice(ticket, "JCLPrintQuality", "HighQuality");
+    open();
+    EXPECT_EQ(quality()->menu().count(), 0);
+    EXPECT_EQ(picture(kQualityIllustration), u"ImageOptions_ImgQual_Standard.gif"_s);
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(ReadTicketValue(ticket, key::ImageResolution), 5);
+}
+
+TEST(ImageOptions, QualitiesBeyondTheTableHaveNoPicture)
+{
+    EXPECT_EQ(QualityIllustration(0), QString());
+    EXPECT_EQ(QualityIllustration(7), QString());
+    EXPECT_EQ(QualityIllustration(kUnset), QString());
+    EXPECT_EQ(QualityIllustration(6), u"ImageOptions_ImgQual_Enhanced.gif"_s);
+}
+
+} // namespace
+} // namespace kesta::image_options

@@ -1,0 +1,147 @@
+#include "toolkit/SliderField.h"
+
+#include "support/TestTexts.h"
+#include "toolkit/Keys.h"
+#include "toolkit/SpinField.h"
+
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QSlider>
+
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta {
+namespace {
+
+class Hits {
+public:
+    explicit Hits(QWidget& control)
+        : handler_(InstallEventHandler(control, [this](const HitEvent& hit) {
+              numbers.push_back(hit.value);
+              return EventResult::Handled;
+          }))
+    {
+    }
+    std::vector<SInt32> numbers;
+
+private:
+    EventHandler handler_;
+};
+
+using Numbers = std::vector<SInt32>;
+
+struct OptionalField {
+    OptionalField()
+    {
+        spin.setEmptyText(u"Default"_s);
+        spin.setLimits(-100, 100);
+        spin.setNumber(kUnset);
+    }
+    void retype(const QString& text)
+    {
+        spin.selectAll();
+        if (text.isEmpty())
+            test::PressKey(spin, Qt::Key_Delete);
+        test::TypeKeys(spin, text);
+    }
+    SpinField spin;
+    Hits hits{spin};
+};
+
+TEST(SpinField, WithAnEmptyTextItMayHoldNothing)
+{
+    OptionalField field;
+    EXPECT_EQ(field.spin.text(), QString());
+    EXPECT_EQ(field.spin.number(), kUnset);
+
+    field.retype(u"0"_s); // the number that lies below the empty field
+    field.retype(QString());
+    field.retype(u"-7"_s);
+    field.retype(QString());
+    EXPECT_EQ(field.hits.numbers, (Numbers{0, kUnset, -7, kUnset}));
+
+    test::PressKey(field.spin, Qt::Key_Up);
+    EXPECT_EQ(field.hits.numbers.back(), 1) << "on from 0, not from what was typed before";
+    field.spin.setNumber(kUnset);
+    field.spin.setLimits(0, 20);
+    test::PressKey(field.spin, Qt::Key_Down);
+    EXPECT_EQ(field.hits.numbers.back(), 0);
+    EXPECT_EQ(field.spin.text(), u"0"_s);
+}
+
+TEST(SpinField, RefusesWhatIsOutOfRangeAsItIsTyped)
+{
+    OptionalField field;
+    field.retype(u"101"_s);
+    EXPECT_EQ(field.spin.text(), u"10"_s);
+    field.retype(u"-250"_s);
+    EXPECT_EQ(field.spin.text(), u"-25"_s);
+    field.retype(u"x4"_s);
+    EXPECT_EQ(field.hits.numbers.back(), 4);
+}
+
+TEST(SpinField, TellsOnlyChangesOfTheUsers)
+{
+    OptionalField field;
+    field.spin.setNumber(5000); // shown as 100
+    test::PressKey(field.spin, Qt::Key_Return);
+    EXPECT_TRUE(field.hits.numbers.empty());
+    field.spin.setNumber(kUnset);
+    test::PressKey(field.spin, Qt::Key_Return);
+    EXPECT_TRUE(field.hits.numbers.empty());
+    EXPECT_EQ(field.spin.number(), kUnset);
+
+    SpinField never;
+    never.setLimits(1, 9);
+    never.setNumber(kUnset);
+    EXPECT_EQ(never.number(), 1) << "a field without an empty text always has a number";
+}
+
+struct SliderFieldTest : testing::Test {
+    SliderFieldTest()
+    {
+        control.setEmptyText(u"Default"_s);
+        control.setMinimum(-100);
+        control.setMaximum(100);
+        control.setNumber(kUnset);
+    }
+    SliderField control;
+    Hits hits{control};
+};
+
+TEST_F(SliderFieldTest, SliderAndFieldAreOneControl)
+{
+    control.setNumber(30);
+    EXPECT_EQ(control.slider().value(), 30);
+    EXPECT_TRUE(hits.numbers.empty()) << "code sends nothing";
+
+    control.slider().setValue(-40); // as dragging does
+    EXPECT_EQ(control.field().text(), u"-40"_s);
+    test::PressKey(control.field(), Qt::Key_Down);
+    EXPECT_EQ(control.slider().value(), -41);
+    control.field().selectAll();
+    test::PressKey(control.field(), Qt::Key_Delete);
+    EXPECT_EQ(control.slider().value(), 0);
+    EXPECT_EQ(control.number(), kUnset);
+    EXPECT_EQ(hits.numbers, (Numbers{-40, -41, kUnset}));
+
+    control.setNumber(5000);
+    EXPECT_EQ(control.number(), 100);
+    EXPECT_EQ(control.slider().value(), 100);
+}
+
+TEST_F(SliderFieldTest, TheFieldHasTheFocusAndBothHaveTheName)
+{
+    control.setAccessibleName(u"Lightness"_s);
+    control.nameParts();
+    EXPECT_EQ(control.focusProxy(), &control.field());
+    EXPECT_EQ(control.slider().focusPolicy(), Qt::NoFocus);
+    EXPECT_EQ(control.field().accessibleName(), u"Lightness"_s);
+    EXPECT_EQ(control.slider().accessibleName(), u"Lightness"_s);
+}
+
+} // namespace
+} // namespace kesta
