@@ -7,6 +7,7 @@
 #include "platform/SafeFile.h"
 #include "toolkit/InterfaceFile.h"
 #include "toolkit/ModalLoop.h"
+#include "toolkit/SummaryTextView.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -202,7 +203,7 @@ QByteArray PrintDialog::jobSettings() const
 
 QString PrintDialog::summaryText()
 {
-    QStringList panels;
+    QStringList panels = pane_ ? ShownSummaries(paneArea_->host()) : QStringList();
     for (const PaneSummary& summary : pane_ ? pane_->summaries() : std::vector<PaneSummary>())
         panels << summary.text;
     return SummaryLine(fields_->settings(), panels, *start_.texts);
