@@ -3,6 +3,7 @@
 #include "host/ScriptKinds.h"
 
 #include <QApplication>
+#include <QDateTimeEdit>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QWindow>
@@ -31,6 +32,8 @@ void SelectAllText(QWidget& field)
 {
     if (auto* line = qobject_cast<QLineEdit*>(&field))
         line->selectAll();
+    else if (auto* moment = qobject_cast<QDateTimeEdit*>(&field))
+        moment->setSelectedSection(moment->sectionAt(0)); // its parts are typed one after the other
     else if (auto* spin = qobject_cast<QAbstractSpinBox*>(&field))
         spin->selectAll();
     else if (auto* area = qobject_cast<QPlainTextEdit*>(&field))

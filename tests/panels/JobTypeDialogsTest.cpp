@@ -260,12 +260,19 @@ TEST_F(JobTypeDialogsTest, TheKeyboardAloneWillDo)
 
     const QTime before = QTime(12, 34, 56);
     SInt64 time = before.msecsSinceStartOfDay() / 1000;
-    user.then([](QWidget& window) {
-        for (const char c : std::string("21\r"))
-            press(window, c);
-    });
-    RunModalDelayedPrintSetup(bundle, time);
-    EXPECT_EQ(time % 86'400, 21 * 3600 + 34 * 60 + 56);
+    const auto typed = [&](const char* keys) {
+        ModalUser person;
+        person.then([=](QWidget& window) {
+            for (const char c : std::string(keys))
+                press(window, c);
+        });
+        RunModalDelayedPrintSetup(bundle, time);
+        return time % 86'400;
+    };
+    EXPECT_EQ(typed("21\r"), 21 * 3600 + 34 * 60 + 56);
+    EXPECT_EQ(typed("08:45:30\r"), 8 * 3600 + 45 * 60 + 30);
+    EXPECT_EQ(typed("070501\r"), 7 * 3600 + 5 * 60 + 1);
+    EXPECT_EQ(typed("9:7:8\r"), 9 * 3600 + 7 * 60 + 8);
 }
 
 TEST_F(JobTypeDialogsTest, DelayedPrintStoresTheNextMomentOfATime)

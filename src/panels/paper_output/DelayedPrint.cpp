@@ -24,6 +24,19 @@ QString TimeFormat(const QLocale& locale)
     return format;
 }
 
+// A part with all its digits goes on to the next one by itself; the separator that people type then must not skip that.
+EventHandler InstallTypingHandler(QTimeEdit& field)
+{
+    return InstallEventHandler(field,
+                               [&field, typedInto = std::optional<QTimeEdit::Section>()](const KeyEvent& key) mutable {
+                                   const bool isDigit = key.text.size() == 1 && key.text.front().isDigit();
+                                   const bool hasGoneOn = typedInto && typedInto != field.currentSection();
+                                   typedInto = isDigit ? std::optional(field.currentSection()) : std::nullopt;
+                                   const bool isSeparator = key.text == u":" || key.text == u".";
+                                   return hasGoneOn && isSeparator ? EventResult::Handled : EventResult::NotHandled;
+                               });
+}
+
 } // namespace
 
 OSStatus RunModalDelayedPrintSetup(const Bundle& bundle, SInt64& time)
@@ -37,6 +50,7 @@ OSStatus RunModalDelayedPrintSetup(const Bundle& bundle, SInt64& time)
     field->setTime(QTime::fromMSecsSinceStartOfDay(TimeOfDay(time) * 1000));
     field->setFocus();
     field->setSelectedSection(QDateTimeEdit::HourSection); // typing starts here
+    const EventHandler typing = InstallTypingHandler(*field);
 
     if (RunSetupDialog(bundle, *window, kDelayedPrintHelp, [] { return true; }) == ModalResult::OK)
         time = NextMomentAt(field->time().msecsSinceStartOfDay() / 1000, GetClock());
