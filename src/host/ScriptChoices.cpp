@@ -47,7 +47,7 @@ MenuPath FindWalkedPath(const std::vector<MenuItem>& items, const QString& text,
     const std::vector<MenuItem>* menu = &items;
     for (const QString& title : text.split(u'>')) {
         const auto item = std::ranges::find_if(
-            *menu, [&](const MenuItem& one) { return !one.separator && texts.matches(one.title, title); });
+            *menu, [&](const MenuItem& one) { return !one.separator && texts.matches(one.title, title.trimmed()); });
         if (item == menu->end())
             return {};
         path.push_back(static_cast<int>(item - menu->begin()) + 1);
