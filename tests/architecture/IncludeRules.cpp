@@ -10,8 +10,8 @@ namespace {
 
 // Sources below src/pde by what they build; what is not named here is the shell.
 constexpr auto kPdeHelpers =
-    std::to_array<std::string_view>({"CFAdditions", "JobContext", "JobTypeCheck", "LocalizedText", "RecordFields",
-                                     "TicketEntries", "TicketKeys", "TicketUtilities", "XMLEntities"});
+    std::to_array<std::string_view>({"CFAdditions", "JobContext", "JobTypeCheck", "LocalizedText", "PlugInBundle",
+                                     "RecordFields", "TicketEntries", "TicketKeys", "TicketUtilities", "XMLEntities"});
 constexpr auto kPdeMenus = std::to_array<std::string_view>(
     {"BundleUtilities", "CustomValueDialog", "DialogCommands", "LocalizationUtilities", "Mappings", "MediaLimits",
      "MenuUtilities", "SettingMap", "SystemUtilities", "TextFieldUtilities", "ViewUtilities"});
