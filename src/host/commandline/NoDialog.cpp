@@ -4,6 +4,7 @@
 #include "host/commandline/DialogOptions.h"
 #include "host/ppd/Constraints.h"
 #include "host/ppd/ListOptions.h"
+#include "host/server/DocumentSource.h"
 #include "host/server/Queues.h"
 #include "host/server/Submission.h"
 #include "host/settings/JobComposition.h"
@@ -192,6 +193,8 @@ Failure Print(Run& run)
     const bool hasQueue = run.commandLine.ppdPath.isEmpty();
     if (!hasQueue && run.commandLine.saveSettingsPath.isEmpty())
         return u"--ppd prints nothing: add --save-settings FILE, or print to a queue with -d."_s;
+    if (Failure failure = hasQueue ? FindFileProblem(run.commandLine.files) : std::nullopt)
+        return failure;
     if (Failure failure = ReadSettings(run))
         return failure;
     if (Failure failure = FindPrinter(run))

@@ -119,14 +119,18 @@ void PrintDialog::enableButtons()
 PaneMessage PrintDialog::whyNoPane() const
 {
     const Bundle& texts = *start_.texts;
+    const QString stillWorks = start_.commandLine.ppdPath.isEmpty() ? PrintText(texts, "Printing Still Works")
+                                                                    : PrintText(texts, "Saving Still Works");
     if (!start_.plugIn.plugIn)
-        return {PrintText(texts, "No Plug-in Title"), PrintText(texts, "No Plug-in Message").arg(start_.plugIn.error)};
+        return {PrintText(texts, "No Plug-in Title"),
+                PrintText(texts, "No Plug-in Message").arg(start_.plugIn.error, stillWorks)};
     const QString name = PrinterTitle(printer_->queue, texts);
     const QString& maker = facts_.manufacturer;
     const QString message =
-        !facts_.problem.isEmpty()            ? PrintText(texts, "No Description Message").arg(name, facts_.problem)
-        : maker == QLatin1StringView(kMaker) ? PrintText(texts, "Pane Failed Message").arg(name).arg(paneStatus_)
-                                             : PrintText(texts, "Other Maker Message").arg(name, maker);
+        !facts_.problem.isEmpty() ? PrintText(texts, "No Description Message").arg(facts_.problem, stillWorks)
+        : maker == QLatin1StringView(kMaker)
+            ? PrintText(texts, "Pane Failed Message").arg(name, QString::number(paneStatus_), stillWorks)
+            : PrintText(texts, "Other Maker Message").arg(name, maker, stillWorks);
     return {PrintText(texts, "Plain Options Title"), message};
 }
 

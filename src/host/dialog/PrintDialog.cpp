@@ -4,6 +4,7 @@
 #include "host/dialog/DialogSummary.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
+#include "host/server/DocumentSource.h"
 #include "platform/SafeFile.h"
 #include "toolkit/InterfaceFile.h"
 #include "toolkit/ModalLoop.h"
@@ -63,6 +64,10 @@ PrintDialog::~PrintDialog()
 std::optional<QString> PrintDialog::prepare()
 {
     const CommandLine& options = start_.commandLine;
+    if (options.ppdPath.isEmpty()) {
+        if (std::optional<QString> problem = FindFileProblem(options.files))
+            return problem;
+    }
     if (!options.settingsPath.isEmpty()) {
         const FileContent content = ReadFile(options.settingsPath, kLargestSettings);
         if (!content.bytes)

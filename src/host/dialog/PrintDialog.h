@@ -31,7 +31,8 @@ public:
     explicit PrintDialog(DialogStart start);
     ~PrintDialog() override;
 
-    // Why the dialog can't be shown, in one line: its window or the saved settings can't be read. Nothing when it can.
+    // Why the dialog can't be shown, in one line: its window, the saved settings or a file to print
+    // can't be read. Nothing when it can.
     std::optional<QString> prepare();
 
     // Shows the window until the user prints or cancels. The program's exit status: 1 when the last attempt to print

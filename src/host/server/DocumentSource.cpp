@@ -48,6 +48,11 @@ QString NoAccess(const QString& path, int error)
     return u"unable to access \"%1\" - %2"_s.arg(path, Reason(error));
 }
 
+QString IsEmpty(const QString& path)
+{
+    return u"\"%1\" is empty, so no job has been sent."_s.arg(path);
+}
+
 // Bytes read into the buffer, 0 at the end, -1 with errno. Looks at the cancellation while nothing comes.
 ssize_t ReadSome(int descriptor, std::span<char> buffer, Cancellation& cancellation)
 {
@@ -103,6 +108,16 @@ std::optional<QString> OpenStandardInput(Document& document, Cancellation& cance
     return problem;
 }
 
+// Of what is known without reading.
+std::optional<QString> FaultOf(const QString& path, const struct stat& status)
+{
+    if (S_ISDIR(status.st_mode))
+        return NoAccess(path, EISDIR);
+    if (S_ISREG(status.st_mode) && status.st_size == 0)
+        return IsEmpty(path);
+    return std::nullopt;
+}
+
 std::optional<QString> OpenPath(const QByteArray& encoded, Document& document, Cancellation& cancellation)
 {
     const QString path = QFile::decodeName(encoded);
@@ -111,8 +126,8 @@ std::optional<QString> OpenPath(const QByteArray& encoded, Document& document, C
     struct stat status {};
     if (descriptor.number() < 0 || ::fstat(descriptor.number(), &status) != 0)
         return NoAccess(path, errno);
-    if (S_ISDIR(status.st_mode))
-        return NoAccess(path, EISDIR);
+    if (auto fault = FaultOf(path, status))
+        return fault;
     if (!S_ISREG(status.st_mode)) {
         if (auto problem = Spool(descriptor.number(), path, document, cancellation))
             return problem;
@@ -122,10 +137,23 @@ std::optional<QString> OpenPath(const QByteArray& encoded, Document& document, C
             return NoAccess(path, EIO);
         document.size = status.st_size;
     }
-    return document.size == 0 ? std::optional(u"\"%1\" is empty, so no job has been sent."_s.arg(path)) : std::nullopt;
+    return document.size == 0 ? std::optional(IsEmpty(path)) : std::nullopt;
 }
 
 } // namespace
+
+std::optional<QString> FindFileProblem(const QByteArrayList& paths)
+{
+    for (const QByteArray& encoded : paths) {
+        const QString path = QFile::decodeName(encoded);
+        struct stat status {};
+        if (::stat(encoded.constData(), &status) != 0 || ::access(encoded.constData(), R_OK) != 0)
+            return NoAccess(path, errno);
+        if (auto fault = FaultOf(path, status))
+            return fault;
+    }
+    return std::nullopt;
+}
 
 DocumentList OpenDocuments(const QByteArrayList& paths, Cancellation& cancellation)
 {
