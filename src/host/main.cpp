@@ -1,10 +1,10 @@
 // kesta-print: a print dialog, and lp with the pane's options.
 
-#include "host/Console.h"
-#include "host/NoDialog.h"
-#include "host/PrintDialog.h"
-#include "host/QtTexts.h"
-#include "host/ScriptPlayer.h"
+#include "host/commandline/Console.h"
+#include "host/commandline/NoDialog.h"
+#include "host/dialog/PrintDialog.h"
+#include "host/dialog/QtTexts.h"
+#include "host/script/ScriptPlayer.h"
 #include "platform/Bundle.h"
 #include "platform/FileChooser.h"
 #include "platform/SafeFile.h"
