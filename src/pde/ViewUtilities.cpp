@@ -6,6 +6,19 @@
 #include <QVBoxLayout>
 
 namespace kesta {
+namespace {
+
+constexpr qsizetype kLongestSummary = 1000; // UTF-16 units
+
+QString Cut(const QString& text)
+{
+    if (text.size() <= kLongestSummary)
+        return text;
+    const bool splitsPair = text[kLongestSummary - 1].isHighSurrogate();
+    return text.first(kLongestSummary - (splitsPair ? 1 : 0)) + u'\u2026';
+}
+
+} // namespace
 
 void UpdateTabControl(TabControl* tabs, std::span<QWidget* const> panes)
 {
@@ -51,7 +64,7 @@ OSStatus UpdateSummaryTextView(QWidget* view, const QString& text)
 {
     if (text.isNull())
         return kMissingArgument;
-    SetControlText(view, text);
+    SetControlText(view, Cut(text));
     return noErr;
 }
 

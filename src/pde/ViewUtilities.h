@@ -25,6 +25,7 @@ void TranslateView(QWidget* view, int dx, int dy); // in pixels; for views that 
 // Makes a label an empty text of that font size in points.
 void SetupTextViewControl(QWidget* control, Float32 fontSize);
 
+// A text may hold names from settings files: it is cut to what can be laid out at once.
 OSStatus UpdateSummaryTextView(QWidget* view, const QString& text);
 
 } // namespace kesta

@@ -8,7 +8,7 @@
 namespace kesta {
 namespace {
 
-constexpr PropertyListLimits kLimits{.bytes = 4 * 1024 * 1024, .values = 200'000, .depth = 50};
+constexpr PropertyListLimits kLimits{.bytes = kLargestJobSettings, .values = 200'000, .depth = 50};
 
 constexpr QLatin1String kPPD("PPD");
 constexpr QLatin1String kClients("Clients");

@@ -24,6 +24,8 @@ struct NestedEntry {
 };
 QByteArray WriteJobSettings(const JobTickets& tickets, std::span<const NestedEntry> leftOut = {});
 
+inline constexpr qsizetype kLargestJobSettings = 16 * 1024 * 1024; // bytes of a file
+
 // Replaces everything in the tickets; nothing on success. Otherwise one line that says what is wrong and where, and the
 // tickets are as they were.
 std::optional<QString> ReadJobSettings(const QByteArray& bytes, JobTickets& tickets);

@@ -46,7 +46,9 @@ QSize SummaryTextView::sizeHint() const
 
 QSize SummaryTextView::minimumSizeHint() const
 {
-    return withRoom(QLabel::minimumSizeHint());
+    constexpr int kLongestWord = 40; // what is longer is no word and must not widen the window
+    const QSize size = QLabel::minimumSizeHint();
+    return withRoom({std::min(size.width(), fontMetrics().averageCharWidth() * kLongestWord), size.height()});
 }
 
 QStringList ShownSummaries(const QWidget& root)

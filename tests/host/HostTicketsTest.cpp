@@ -105,7 +105,7 @@ TEST(HostTickets, ForeignValuesGiveDefaults)
     printSettings.set("x", key::Copies, Number::SInt64(1LL << 40));
     EXPECT_EQ(ReadTickets(printSettings, pageFormat).copies, 1);
     printSettings.set("x", key::Copies, Number::Index(1'000'000));
-    EXPECT_EQ(ReadTickets(printSettings, pageFormat).copies, kMostCopies);
+    EXPECT_EQ(ReadTickets(printSettings, pageFormat).copies, 1);
 }
 
 TEST(HostTickets, PaperAndSides)

@@ -1,6 +1,7 @@
 // Each job type through the plug-in, the program and a print server to the printer: the dialog scripts of the job
 // types, printed.
 
+#include "host/FileContent.h"
 #include "host/PrivateServer.h"
 #include "host/ProgramFixture.h"
 
@@ -21,15 +22,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using kesta::test::CapturedJob;
+using kesta::test::Content;
 using kesta::test::Ended;
 using kesta::test::PrivateServer;
 using kesta::test::ProgramTest;
-
-QByteArray Content(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QStringList FilesBelow(const QString& folder)
 {

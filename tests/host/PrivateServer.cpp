@@ -1,7 +1,8 @@
 #include "host/PrivateServer.h"
 
+#include "host/FileContent.h"
+
 #include <QDeadlineTimer>
-#include <QFile>
 #include <QProcess>
 #include <QStringList>
 #include <QThread>
@@ -17,12 +18,6 @@ namespace kesta::test {
 namespace {
 
 constexpr char kScript[] = PRIVATE_CUPS;
-
-QByteArray Content(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 bool RunScript(const QStringList& arguments)
 {

@@ -85,7 +85,7 @@ TEST(JobSettings, WhatIsNotOursIsRefusedAndNothingOfItUsed)
     for (const Value& root : wrong)
         expectRefusal(WritePropertyList(root), u"not a job settings file: ");
     expectRefusal(before.first(before.size() / 2), u"line ");
-    expectRefusal(QByteArray(5 * 1024 * 1024, ' '), u"line 1, column 1: larger than");
+    expectRefusal(QByteArray(17 * 1024 * 1024, ' '), u"line 1, column 1: larger than");
 }
 
 } // namespace

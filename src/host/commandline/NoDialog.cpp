@@ -19,8 +19,6 @@ using namespace Qt::StringLiterals;
 namespace kesta::host {
 namespace {
 
-constexpr qsizetype kLargestSettings = 64 * 1024 * 1024; // bytes
-
 // Nothing on success; otherwise what stopped the run.
 using Failure = std::optional<QString>;
 
@@ -71,7 +69,7 @@ Failure ReadSettings(Run& run)
     const QString& path = run.commandLine.settingsPath;
     if (path.isEmpty())
         return std::nullopt;
-    const FileContent content = ReadFile(path, kLargestSettings);
+    const FileContent content = ReadFile(path, kLargestJobSettings);
     if (!content.bytes)
         return content.error.text;
     if (const auto problem = ReadJobSettings(*content.bytes, run.tickets))

@@ -27,7 +27,6 @@ namespace kesta::host {
 namespace {
 
 constexpr QSize kUsualSize(640, 650);
-constexpr qsizetype kLargestSettings = 8 * 1024 * 1024; // bytes
 
 void SendCommand(QWidget& window, FourCharCode command)
 {
@@ -70,7 +69,7 @@ std::optional<QString> PrintDialog::prepare()
             return problem;
     }
     if (!options.settingsPath.isEmpty()) {
-        const FileContent content = ReadFile(options.settingsPath, kLargestSettings);
+        const FileContent content = ReadFile(options.settingsPath, kLargestJobSettings);
         if (!content.bytes)
             return content.error.text;
         if (const std::optional<QString> problem = ReadJobSettings(*content.bytes, tickets_))

@@ -51,7 +51,9 @@ HostSettings ReadTickets(const Ticket& printSettings, const Ticket& pageFormat)
 {
     HostSettings settings{.jobName = StringAt(printSettings, key::JobName),
                           .pageRanges = ReadPageRanges(printSettings)};
-    settings.copies = std::clamp(NumberAt(printSettings, key::Copies).value_or(1), SInt32{1}, kMostCopies);
+    const SInt32 copies = NumberAt(printSettings, key::Copies).value_or(1);
+    if (copies >= 1 && copies <= kMostCopies)
+        settings.copies = copies;
     const SInt32 pages = NumberAt(printSettings, key::PagesPerSheet).value_or(1);
     if (std::ranges::find(kPagesPerSheet, pages) != kPagesPerSheet.end())
         settings.pagesPerSheet = pages;

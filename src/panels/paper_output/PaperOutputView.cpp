@@ -142,9 +142,11 @@ void RestoreSummary(QWidget* room)
 // What the trailing button changes is its description for those who can't see the summary.
 void ShowSummary(const _PaperOutputContext& panel, Control view, Control button, const QString& text)
 {
+    const auto* summary = FindControlAs<SummaryTextView>(panel.pane, {kSignature, view});
     UpdateSummaryTextView(FindHere(panel, view), text);
-    if (QWidget* trailing = FindHere(panel, button))
-        trailing->setAccessibleDescription(text);
+    QWidget* trailing = FindHere(panel, button);
+    if (summary && trailing)
+        trailing->setAccessibleDescription(summary->text());
 }
 
 void ShowPicture(const _PaperOutputContext& panel, Control number, const QString& picture)

@@ -3,17 +3,32 @@
 #include "panels/special_pages/StockIcon.h"
 #include "pde/TicketKeys.h"
 #include "pde/TicketUtilities.h"
+#include "product/Westmarch2.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace kesta {
+namespace {
+
+// An option that the dialog does not offer counts as none.
+SInt32 ReadOption(const Ticket& settings)
+{
+    const std::optional<SInt32> option = ReadTicketValue(settings, key::SeparatorOption);
+    const bool isOffered =
+        std::ranges::find(_SeparatorOptionMap, option, &SettingRow::value) != _SeparatorOptionMap.end();
+    return isOffered ? *option : kSeparatorsNone;
+}
+
+} // namespace
 
 OSStatus SyncSeparatorsFromTicket(const Ticket* settings, SInt32& option, Stock& stock)
 {
     if (!settings)
         return kMissingArgument;
     stock = Stock();
-    option = ReadTicketValue(*settings, key::SeparatorOption).value_or(kSeparatorsNone);
+    option = ReadOption(*settings);
     if (option == kSeparatorsNone)
         return noErr;
     const std::optional<SInt32> color = ReadTicketValue(*settings, key::SeparatorColor);
