@@ -4,12 +4,12 @@
 
 namespace kesta {
 
-inline constexpr char kPlugInBundleIdentifier[] = "com.kesta.print.pde.kestafeatures.vt4100_4200_4300";
+inline constexpr char kPlugInIdentifier[] = "com.kesta.print.pde.kestafeatures.vt4100_4200_4300";
 
 // The bundle that this code belongs to; null before it is loaded.
 inline const Bundle* PlugInBundle()
 {
-    return FindBundle(kPlugInBundleIdentifier);
+    return FindBundle(kPlugInIdentifier);
 }
 
 } // namespace kesta

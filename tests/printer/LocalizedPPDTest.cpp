@@ -25,7 +25,7 @@ private:
 // The text of a choice that the localisation bundle of these resources translates.
 QString TextWith(const QString& resources, std::optional<SystemVersion> version)
 {
-    LoadBundle(kPlugInBundleIdentifier, {.resourcesPath = resources});
+    LoadBundle(kPlugInIdentifier, {.resourcesPath = resources});
     SystemOfVersion system(version);
     const WhileInstalled installed(system);
     const test::CurrentPrinter printer;
