@@ -1,5 +1,7 @@
 #include "model/FullColorOptions.h"
 
+#include "model/Stored.h"
+
 #include <gtest/gtest.h>
 
 namespace kesta::full_color_options_test {
@@ -63,7 +65,7 @@ TEST(FullColorOptions, EveryFieldSurvivesTheTicket)
         EXPECT_EQ(status, noErr);
     EXPECT_EQ(options.asTicket(), EveryKey());
     EXPECT_EQ(FullColorOptions(EveryKey()), options);
-    EXPECT_EQ(FullColorOptions(EveryKey()).asTicket(), EveryKey());
+    EXPECT_EQ(FullColorOptions(*test::Stored(EveryKey()).dictionary()).asTicket(), EveryKey());
     EXPECT_EQ(FullColorOptions().asTicket(), Dictionary());
 }
 

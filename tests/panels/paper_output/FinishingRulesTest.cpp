@@ -15,30 +15,7 @@ namespace {
 
 const Bundle& Texts()
 {
-    static const Bundle bundle = test::BundleWithTexts({"None",
-                                                        "No Staple Value",
-                                                        "1 Staple",
-                                                        "2 Staples",
-                                                        "4 Staples",
-                                                        "NoHolePunch",
-                                                        "HolePunch",
-                                                        "2HolePunch",
-                                                        "3HolePunch",
-                                                        "4HolePunch",
-                                                        "2 Hole Punch",
-                                                        "3 Hole Punch",
-                                                        "4 Hole Punch",
-                                                        "No Fold",
-                                                        "BiFoldNoStaple",
-                                                        "FoldCFold",
-                                                        "FoldZFold",
-                                                        "Z Fold Half Sheet",
-                                                        "Booklet Creation...",
-                                                        "Booklet Fold",
-                                                        "Booklet FoldStaple",
-                                                        "Booklet Layout",
-                                                        "Separators",
-                                                        ":"});
+    static const Bundle bundle = test::BundleWithAllTexts();
     return bundle;
 }
 
