@@ -1,6 +1,6 @@
+#include "pde/PlugInBundle.h"
 #include "platform/SystemConfiguration.h"
 #include "printer/PPDUtilities.h"
-#include "printer/PlugInBundle.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
 
