@@ -112,13 +112,6 @@ TEST_F(AdvancedPanelTest, WithoutADialogBehindItTheWebLinksButtonIsOutOfView)
     EXPECT_FALSE(control(kAboutButton)->isHidden());
 }
 
-TEST_F(AdvancedPanelTest, TheHandlerPassesEveryEventOn)
-{
-    open();
-    for (QWidget* control : {popup(kMirrorPopup), popup(kBannerPopup)})
-        EXPECT_EQ(SendControlEvent(*control, HitEvent{.value = 1, .ticketValue = 1}), EventResult::NotHandled);
-}
-
 TEST_F(AdvancedPanelTest, OpenedAgainItKeepsItsControls)
 {
     open();

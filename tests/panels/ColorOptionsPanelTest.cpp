@@ -99,17 +99,6 @@ TEST_F(ColorOptionsPanelTest, ANameIsAskedForAndShown)
     EXPECT_EQ(stored(), Dictionary());
 }
 
-TEST_F(ColorOptionsPanelTest, WhatIsOutOfAControlsRangeStaysAsItIs)
-{
-    const Dictionary beyond{{"FCSaturation", Number::Index(-700)}, {"TextRendering", Number::Index(12)}};
-    ticket.set("X", key::FullColorOptions, beyond);
-    open();
-    EXPECT_EQ(control<SliderField>(kSaturation).number(), -100);
-    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTextRendering)), 12);
-    ASSERT_EQ(sync(false), noErr);
-    EXPECT_EQ(stored(), beyond);
-}
-
 TEST_F(ColorOptionsPanelTest, TheStripsShowTheColorsBeforeAndAfter)
 {
     open();

@@ -1,0 +1,180 @@
+// Saves a picture of every dialog of the panels, for people to look at:
+//     dialog_gallery PLUG_IN OUT_DIR
+// KESTA_COLOR_SCHEME=dark gives dark ones, QT_SCALE_FACTOR=2 those at 2x, LC_ALL another language.
+
+#include "model/ImageShift.h"
+#include "panels/special_pages/AdvancedStockDialog.h"
+#include "panels/special_pages/CustomStockSizeDialog.h"
+#include "panels/special_pages/PreCutTabStockSetup.h"
+#include "panels/special_pages/SeparatorsDialog.h"
+#include "panels/special_pages/StockDescriptionSetup.h"
+#include "panels/special_pages/StockMenu.h"
+#include "panels/special_pages/StockTypeSetupDialog.h"
+#include "platform/Bundle.h"
+#include "printer/InstallableOptions.h"
+#include "printer/PPDUtilities.h"
+#include "product/InstalledFeatures.h"
+#include "support/CurrentPrinter.h"
+#include "toolkit/KestaStyle.h"
+#include "toolkit/MenuButton.h"
+#include "toolkit/ModalLoop.h"
+#include "toolkit/PictureView.h"
+#include "toolkit/Pictures.h"
+#include "toolkit/SummaryTextView.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QGridLayout>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta {
+namespace {
+
+class Gallery {
+public:
+    Gallery(const Bundle& bundle, const QDir& folder) : bundle_(bundle), folder_(folder) {}
+
+    // Runs the dialog, saves it as the user would find it, and cancels.
+    template <class Run> void add(const QString& name, Run run)
+    {
+        SetModalIdleAction([this, name](QWidget& window) {
+            save(window, name);
+            EndModalLoop(window, ModalResult::Cancel);
+        });
+        ModalResult result{};
+        if (run(bundle_, result) != noErr)
+            complete_ = false;
+        SetModalIdleAction(nullptr);
+    }
+    void save(QWidget& window, const QString& name)
+    {
+        const QString file = folder_.filePath(name + ".png"_L1);
+        const bool saved = window.grab().save(file);
+        std::printf("%s %s\n", saved ? "saved" : "could not save", qUtf8Printable(file));
+        complete_ = complete_ && saved;
+    }
+    bool isComplete() const { return complete_; }
+
+private:
+    const Bundle& bundle_;
+    QDir folder_;
+    bool complete_ = true;
+};
+
+Stock MakeStock(SInt32 type, SInt32 color, SInt32 size = kUnset)
+{
+    Stock stock;
+    stock.setSize(size);
+    stock.setType(type);
+    stock.setColor(color);
+    return stock;
+}
+
+void AddStockDialogs(Gallery& gallery)
+{
+    Stock stock = MakeStock(kStockTypeTabStock, kStockColorBlue, kStockSizeA4);
+    stock.setDescription(u"For the annual report"_s);
+    gallery.add(u"description"_s, [&](const Bundle& bundle, ModalResult& result) {
+        return RunModalStockDescriptionSetup(bundle, DialogMode::Edit, JobContext::Insert, stock, result);
+    });
+    gallery.add(u"precut-tabs"_s, [&](const Bundle& bundle, ModalResult& result) {
+        return RunModalPreCutTabStockSetup(bundle, DialogMode::Add, JobContext::Insert, stock, result);
+    });
+    gallery.add(u"advanced-stock"_s, [&](const Bundle& bundle, ModalResult& result) {
+        return RunModalAdvancedStockDialog(bundle, JobContext::Insert, stock, result);
+    });
+    _IS_Options shift;
+    for (const SInt32 millimetres : {13, 20}) {
+        shift.option = 1;
+        shift.X1 = millimetres;
+        gallery.add(u"tab-stock-%1"_s.arg(millimetres), [&](const Bundle& bundle, ModalResult& result) {
+            return RunModalTabStockSetupDialog(bundle, stock, shift, result);
+        });
+    }
+}
+
+void AddSizesAndSeparators(Gallery& gallery)
+{
+    for (const SizeUnits units : {SizeUnits::Inches, SizeUnits::Millimetres}) {
+        gCurrentUnits = units;
+        PaperSize size;
+        gallery.add(u"custom-size-%1"_s.arg(static_cast<SInt32>(units)),
+                    [&](const Bundle& bundle, ModalResult& result) {
+                        return RunModalCustomStockSizeDialog(bundle, result, size);
+                    });
+    }
+    for (SInt32 option : {kSeparatorsNone, kSeparatorsBlank, kSeparatorsPrinted}) {
+        Stock stock = MakeStock(kStockTypeStandard, kStockColorYellow);
+        gallery.add(u"separators-%1"_s.arg(option), [&](const Bundle& bundle, ModalResult& result) {
+            return RunModalSeparatorsDialog(bundle, option, stock, result);
+        });
+    }
+}
+
+// Paper icons with their summaries, and the menu's button.
+void AddPapers(Gallery& gallery, const Bundle& bundle)
+{
+    QWidget window;
+    window.resize(800, 400);
+    auto* grid = new QGridLayout(&window);
+    std::vector<Stock> stocks{MakeStock(kStockTypeTransparency, kStockColorClear),
+                              MakeStock(kStockTypeEnvelopes, kStockColorGoldenrod),
+                              MakeStock(kStockTypePunched, kStockColorYellow),
+                              MakeStock(kStockTypeHeavyTabStock, kStockColorGreen),
+                              MakeStock(kStockTypeHeavyLabels, kStockColorWhite),
+                              MakeStock(kStockTypeExtraHeavyPlusReloaded, kStockColorRed),
+                              MakeStock(kStockTypeLetterhead, kStockColorIvory),
+                              MakeStock(kStockTypeArchival, kStockColorGray),
+                              MakeStock(kStockTypeCustom7, kStockColorPink),
+                              MakeStock(kStockTypeHeavyGlossReloaded, kStockColorBlue)};
+    std::vector<_StockMenuCommandEventHandlerData> data(stocks.size());
+    for (std::size_t i = 0; i < stocks.size(); ++i) {
+        auto* icon = new PictureView(&window);
+        icon->setFolder(PictureFolder(bundle));
+        auto* summary = new SummaryTextView(&window);
+        auto* button = new MenuButton(&window);
+        button->setText(u"Choose Paper"_s);
+        data[i].bundle = &bundle;
+        data[i].stock = &stocks[i];
+        data[i].summaryView = summary;
+        data[i].iconView = icon;
+        InitializeStockMenuButton(button, data[i]);
+        ShowStock(data[i]);
+        const int row = static_cast<int>(i) / 2;
+        const int column = static_cast<int>(i) % 2 * 3;
+        grid->addWidget(icon, row, column);
+        grid->addWidget(summary, row, column + 1);
+        grid->addWidget(button, row, column + 2);
+        grid->setColumnStretch(column + 1, 1);
+    }
+    gallery.save(window, u"papers"_s);
+}
+
+} // namespace
+} // namespace kesta
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    if (argc != 3 || !QDir().mkpath(QString::fromLocal8Bit(argv[2]))) {
+        std::fprintf(stderr, "usage: dialog_gallery PLUG_IN OUT_DIR\n");
+        return 1;
+    }
+    const kesta::BundleOrError loaded = kesta::LoadBundleAt(QString::fromLocal8Bit(argv[1]));
+    if (!loaded.bundle) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(loaded.error));
+        return 1;
+    }
+    kesta::InstallKestaStyle(*qApp);
+    const kesta::test::CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
+    kesta::LoadInstallableOptions(kesta::PPDGetCurrent(), kesta::InstalledFeatures);
+    kesta::Gallery gallery(*loaded.bundle, QDir(QString::fromLocal8Bit(argv[2])));
+    kesta::AddStockDialogs(gallery);
+    kesta::AddSizesAndSeparators(gallery);
+    kesta::AddPapers(gallery, *loaded.bundle);
+    kesta::UnloadInstallableOptions();
+    return gallery.isComplete() ? 0 : 1;
+}
