@@ -15,6 +15,8 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <malloc.h>
+
 #include <cstdio>
 #include <span>
 
@@ -150,5 +152,6 @@ int Run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    mallopt(M_ARENA_MAX, 1); // the threads beside the window wait for a server: a heap each would be memory for nothing
     return kesta::host::Run(argc, argv);
 }
