@@ -5,7 +5,9 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QFrame>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QScrollArea>
 #include <QStyleOption>
 
 #include <algorithm>
@@ -109,21 +111,12 @@ void PolishAgain(QWidget& widget)
     widget.update();
 }
 
-// Colours of looks are mixes of the palette's, so they follow it.
-class PaletteFollower : public QObject {
-public:
-    using QObject::QObject;
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::ApplicationPaletteChange && watched == QCoreApplication::instance()) {
-            for (QWidget* widget : QApplication::allWidgets()) {
-                if (!LookOf(widget).isEmpty())
-                    PolishAgain(*widget);
-            }
-        }
-        return false;
-    }
-};
+// Whether a scroll bar is that of a scrolled page, not of a list or text.
+bool IsInPage(const QWidget* bar)
+{
+    const QWidget* container = bar ? bar->parentWidget() : nullptr;
+    return container && qobject_cast<const QScrollArea*>(container->parentWidget());
+}
 
 int ControlHeight(const QStyleOption* option)
 {
@@ -166,7 +159,7 @@ void InstallKestaStyle(QApplication& application)
     const bool dark = wished ? scheme == "dark" : ColorsOf(before).dark;
     if (!installed) {
         QApplication::setStyle(new KestaProxyStyle(own));
-        application.installEventFilter(new PaletteFollower(application.style()));
+        application.installEventFilter(application.style());
     }
     if (own)
         QApplication::setPalette(OwnPalette(dark));
@@ -189,6 +182,44 @@ void KestaProxyStyle::unpolish(QWidget* widget)
     QProxyStyle::unpolish(widget);
 }
 
+// Colours of looks are mixes of the palette's, so they follow it.
+void KestaProxyStyle::followPalette()
+{
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (!LookOf(widget).isEmpty())
+            PolishAgain(*widget);
+    }
+}
+
+void KestaProxyStyle::underlineShortcuts(bool underlined)
+{
+    if (std::exchange(shortcutsUnderlined_, underlined) == underlined)
+        return;
+    for (QWidget* widget : QApplication::allWidgets())
+        widget->update();
+}
+
+bool KestaProxyStyle::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::ApplicationPaletteChange:
+        if (watched == QCoreApplication::instance())
+            followPalette();
+        break;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt)
+            underlineShortcuts(event->type() == QEvent::KeyPress);
+        break;
+    case QEvent::WindowDeactivate: // where the release would go unseen
+        underlineShortcuts(false);
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
 int KestaProxyStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                                QStyleHintReturn* data) const
 {
@@ -198,6 +229,8 @@ int KestaProxyStyle::styleHint(StyleHint hint, const QStyleOption* option, const
     case SH_DitherDisabledText:
     case SH_ComboBox_Popup: // a list below the field, not a menu over it
         return 0;
+    case SH_UnderlineShortcut:
+        return shortcutsUnderlined_;
     case SH_DialogButtonLayout:
         if (ownPalette_) // no desktop that has an order of its own
             return 3;    // QDialogButtonBox::GnomeLayout
@@ -229,6 +262,13 @@ int KestaProxyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_SmallIconSize:
     case PM_SliderLength:
         return LookOf(widget) == "tile" ? 48 : kIndicator;
+    case PM_SliderThickness:
+    case PM_SliderControlThickness:
+        return kSliderHandle;
+    case PM_ScrollBarExtent:
+        return kScrollBarWidth;
+    case PM_ScrollView_ScrollBarOverlap: // in the page's own margin, so that nothing gets narrower
+        return IsInPage(widget) ? kScrollBarWidth : 0;
     case PM_MenuPanelWidth:
         return 1;
     case PM_MenuVMargin:

@@ -39,6 +39,8 @@ QRect KestaProxyStyle::subControlRect(ComplexControl control, const QStyleOption
     if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
         combo && control == CC_ComboBox && part != SC_ComboBoxListBoxPopup)
         return visualRect(option->direction, option->rect, ComboBoxPart(option->rect, part, combo->editable));
+    if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option); bar && control == CC_ScrollBar)
+        return visualRect(option->direction, option->rect, ScrollBarPart(*bar, part));
     if (control == CC_SpinBox)
         return visualRect(option->direction, option->rect, SpinBoxPart(option->rect, part));
     return QProxyStyle::subControlRect(control, option, part, widget);
