@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QStyleOption>
+#include <QTextBrowser>
 
 #include <algorithm>
 #include <utility>
@@ -111,11 +112,12 @@ void PolishAgain(QWidget& widget)
     widget.update();
 }
 
-// Whether a scroll bar is that of a scrolled page, not of a list or text.
+// Whether a scroll bar is that of a page, which has margins, not of a list.
 bool IsInPage(const QWidget* bar)
 {
     const QWidget* container = bar ? bar->parentWidget() : nullptr;
-    return container && qobject_cast<const QScrollArea*>(container->parentWidget());
+    const QWidget* scrolled = container ? container->parentWidget() : nullptr;
+    return qobject_cast<const QScrollArea*>(scrolled) || qobject_cast<const QTextBrowser*>(scrolled);
 }
 
 int ControlHeight(const QStyleOption* option)
