@@ -317,6 +317,9 @@ QSize KestaProxyStyle::sizeFromContents(ContentsType type, const QStyleOption* o
         return {size.width() + kTextInset + kStepperWidth, ControlHeight(option)};
     case CT_LineEdit:
         return {size.width() + 2 * kTextInset, ControlHeight(option)};
+    case CT_CheckBox:
+    case CT_RadioButton: // room for the focus ring
+        return QProxyStyle::sizeFromContents(type, option, size, widget) + QSize(kTextInset, 4);
     case CT_MenuItem:
         if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
             return MenuItemSize(*item, size);
