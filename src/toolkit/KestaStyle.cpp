@@ -3,6 +3,7 @@
 #include "toolkit/KestaProxyStyle.h"
 
 #include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QFrame>
 #include <QKeyEvent>
@@ -97,12 +98,12 @@ void ApplyLook(QWidget& widget, const QByteArray& look)
     }
 }
 
-// A label goes by the direction of its text; beside its control it must go by that of the window.
-void AlignByWindow(QLabel& label)
+// Labels and numbers go by the direction of their text; beside their controls and arrows they must go by the window's.
+template <class Aligned> void AlignByWindow(Aligned& widget)
 {
-    const Qt::Alignment alignment = label.alignment();
-    if (label.isRightToLeft() && alignment & Qt::AlignLeft && !(alignment & Qt::AlignAbsolute))
-        label.setAlignment((alignment & Qt::AlignVertical_Mask) | Qt::AlignRight | Qt::AlignAbsolute);
+    const Qt::Alignment alignment = widget.alignment();
+    if (widget.isRightToLeft() && alignment & Qt::AlignLeft && !(alignment & Qt::AlignAbsolute))
+        widget.setAlignment((alignment & Qt::AlignVertical_Mask) | Qt::AlignRight | Qt::AlignAbsolute);
 }
 
 void PolishAgain(QWidget& widget)
@@ -175,6 +176,8 @@ void KestaProxyStyle::polish(QWidget* widget)
     ApplyLook(*widget, LookOf(widget));
     if (auto* label = qobject_cast<QLabel*>(widget))
         AlignByWindow(*label);
+    else if (auto* number = qobject_cast<QAbstractSpinBox*>(widget))
+        AlignByWindow(*number);
     if (widget->focusPolicy() != Qt::NoFocus)
         widget->setAttribute(Qt::WA_Hover);
 }
