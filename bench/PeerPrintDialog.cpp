@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QEvent>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTabWidget>
@@ -14,7 +15,25 @@
 
 namespace {
 
-// The options are shown when the tab that holds their pop-ups is in front and painted.
+// Ends the program with their number once all options have been painted.
+class EndWhenPainted : public QObject {
+public:
+    EndWhenPainted(QWidget& page, int options) : QObject(&page), _options(options) { page.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            QTimer::singleShot(0, this, [this] { // after the windows have been flushed
+                std::printf("%d options\n", _options);
+                std::exit(std::fflush(stdout));
+            });
+        return false;
+    }
+
+private:
+    const int _options;
+};
+
+// Brings the tab that holds the options' pop-ups to the front; false while there is no such window yet.
 bool ShowOptions()
 {
     for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -25,10 +44,8 @@ bool ShowOptions()
         const auto options = page->findChildren<QComboBox*>().size();
         if (tabs->indexOf(page) < 0 || options == 0)
             continue;
+        new EndWhenPainted(*page, static_cast<int>(options));
         tabs->setCurrentWidget(page);
-        QApplication::sendPostedEvents(); // the layout
-        window->repaint();
-        std::printf("%d options\n", static_cast<int>(options));
         return true;
     }
     return false;
@@ -48,9 +65,9 @@ int main(int argc, char** argv)
     QPrintDialog dialog(&printer);
 
     QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, [] {
+    QObject::connect(&poll, &QTimer::timeout, [&poll] {
         if (ShowOptions())
-            std::exit(std::fflush(stdout));
+            poll.stop();
     });
     QTimer::singleShot(0, &dialog, [&] {
         auto* properties = dialog.findChild<QAbstractButton*>(QStringLiteral("properties"));

@@ -1,7 +1,7 @@
 // A dialog script: steps in their order, or one error and no step.
 
 #include "Input.h"
-#include "host/DialogScript.h"
+#include "host/script/DialogScript.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {

@@ -2,7 +2,7 @@
 // they expand to, and what the dialog writes reads back.
 
 #include "Input.h"
-#include "host/PageRanges.h"
+#include "host/settings/PageRanges.h"
 #include "model/PageRanges.h"
 
 using namespace kesta;

@@ -1,10 +1,10 @@
 // kesta-print: a print dialog, and lp with the pane's options.
 
-#include "host/Console.h"
-#include "host/NoDialog.h"
-#include "host/PrintDialog.h"
-#include "host/QtTexts.h"
-#include "host/ScriptPlayer.h"
+#include "host/commandline/Console.h"
+#include "host/commandline/NoDialog.h"
+#include "host/dialog/PrintDialog.h"
+#include "host/dialog/QtTexts.h"
+#include "host/script/ScriptPlayer.h"
 #include "platform/Bundle.h"
 #include "platform/FileChooser.h"
 #include "platform/SafeFile.h"
@@ -14,6 +14,8 @@
 #include <QApplication>
 #include <QLocale>
 #include <QTranslator>
+
+#include <malloc.h>
 
 #include <cstdio>
 #include <span>
@@ -150,5 +152,6 @@ int Run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    mallopt(M_ARENA_MAX, 1); // the threads beside the window wait for a server: a heap each would be memory for nothing
     return kesta::host::Run(argc, argv);
 }

@@ -73,7 +73,7 @@ OSStatus Prologue(KestaPrologue* answer)
         auto shell = std::make_unique<PDEShellContext>();
         CurrentShell() = shell.get();
         GetShownPanel().gCurrentPanel = 0;
-        if (const Bundle* found = FindBundle(kPlugInIdentifier)) {
+        if (const Bundle* found = PlugInBundle()) {
             PDEBundle() = found;
             shell->bundle = found;
             shell->title = LocalizedString(*found, "PDE Shell").toUtf8();

@@ -1,5 +1,6 @@
 #include "pde/PanelLoading.h"
 
+#include "pde/LocalizedText.h"
 #include "pde/PanelOperations.h"
 #include "platform/Bundle.h"
 #include "product/PanelInterfaces.h"
@@ -57,10 +58,10 @@ PanelFunctionOrProblem FindPanelFunction(const Bundle& plugIn, const std::string
     const auto [bundle, error] = BundleOfPanel(plugIn, functionName);
     const QString name = QString::fromStdString(functionName);
     if (!bundle)
-        return {nullptr, u"The panel of %1 can't be loaded: %2"_s.arg(name, error)};
+        return {nullptr, LocalizedFormat(plugIn, "Panel Not Loaded", {name, error})};
     if (const BundleFunction function = FunctionNamed(*bundle, name))
         return {reinterpret_cast<PanelInterfaceFunction>(function), {}};
-    return {nullptr, u"The panel of %1 can't be found in %2."_s.arg(name, bundle->path)};
+    return {nullptr, LocalizedFormat(plugIn, "Panel Not Found", {name, bundle->path})};
 }
 
 std::optional<QString> FindPanelProblem(const Bundle* plugIn)

@@ -103,8 +103,7 @@ KestaStatus KestaPDEFindPanels(const char** problem)
 {
     return kesta::Guarded([&] {
         static QByteArray sentence;
-        const std::optional<QString> found =
-            kesta::shell::FindPanelProblem(kesta::FindBundle(kesta::kPlugInIdentifier));
+        const std::optional<QString> found = kesta::shell::FindPanelProblem(kesta::PlugInBundle());
         sentence = found.value_or(QString()).toUtf8();
         if (problem)
             *problem = found ? sentence.constData() : nullptr;

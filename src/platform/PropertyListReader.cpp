@@ -2,8 +2,8 @@
 
 #include "platform/DateText.h"
 #include "platform/NumberText.h"
+#include "platform/PropertyListMarkup.h"
 
-#include <QRegularExpression>
 #include <QStringDecoder>
 #include <QXmlStreamReader>
 
@@ -21,40 +21,6 @@ QString ErrorAtOffset(QStringView text, qsizetype offset, const QString& what)
 {
     const QStringView before = text.first(offset);
     return ErrorAt(before.count(u'\n') + 1, offset - before.lastIndexOf(u'\n'), what);
-}
-
-// Any DOCTYPE but a plain one is refused before the XML reader sees it, so that no entity can be declared.
-std::optional<QString> ForeignDoctype(const QString& text)
-{
-    const QStringView declaration = u"<!DOCTYPE";
-    const qsizetype first = text.indexOf(declaration, 0, Qt::CaseInsensitive);
-    if (first < 0)
-        return std::nullopt;
-    static const QRegularExpression plain(QStringLiteral(R"(<!DOCTYPE[ \t\r\n]+plist([ \t\r\n][^\[\]<>]{0,300})?>)"));
-    const bool isPlain =
-        plain.match(text, first, QRegularExpression::NormalMatch, QRegularExpression::AnchorAtOffsetMatchOption)
-            .hasMatch();
-    const qsizetype second = text.indexOf(declaration, first + 1, Qt::CaseInsensitive);
-    if (isPlain && second < 0)
-        return std::nullopt;
-    return ErrorAtOffset(text, isPlain ? second : first,
-                         QStringLiteral("only a plain DOCTYPE named plist is accepted"));
-}
-
-// Any attribute but the version of plist is refused likewise: the XML reader's time grows with their square.
-std::optional<QString> ForeignAttribute(const QString& text)
-{
-    static const QRegularExpression withAttributes(QStringLiteral(R"(<[^\s<>/!?]++\s++[^\s/>])"));
-    static const QRegularExpression plain(QStringLiteral(R"(<plist\s++version\s*+=\s*+["'][0-9.]{1,10}["']\s*+>)"));
-    QRegularExpressionMatch match;
-    for (qsizetype at = 0; (at = text.indexOf(withAttributes, at, &match)) >= 0; at += match.capturedLength()) {
-        const bool isPlain =
-            plain.match(text, at, QRegularExpression::NormalMatch, QRegularExpression::AnchorAtOffsetMatchOption)
-                .hasMatch();
-        if (!isPlain)
-            return ErrorAtOffset(text, at, QStringLiteral("an element with attributes"));
-    }
-    return std::nullopt;
 }
 
 std::optional<QString> TextItself(QStringView text)
@@ -291,10 +257,8 @@ PropertyListResult ParsePropertyList(const QByteArray& xml, const PropertyListLi
     const QString text = decoder(xml);
     if (decoder.hasError())
         return {std::nullopt, ErrorAt(1, 1, QStringLiteral("not UTF-8"))};
-    if (const std::optional<QString> foreign = ForeignDoctype(text))
-        return {std::nullopt, *foreign};
-    if (const std::optional<QString> foreign = ForeignAttribute(text))
-        return {std::nullopt, *foreign};
+    if (const std::optional<ForeignMarkup> foreign = FindForeignMarkup(text))
+        return {std::nullopt, ErrorAtOffset(text, foreign->offset, foreign->problem)};
     return Reader(text, limits).read();
 }
 

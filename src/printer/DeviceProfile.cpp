@@ -1,7 +1,7 @@
 #include "printer/DeviceProfile.h"
 
+#include "pde/PlugInBundle.h"
 #include "platform/PropertyList.h"
-#include "printer/PlugInBundle.h"
 
 #include <QFile>
 

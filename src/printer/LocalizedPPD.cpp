@@ -1,7 +1,7 @@
 #include "printer/LocalizedPPD.h"
 
+#include "pde/PlugInBundle.h"
 #include "platform/SystemConfiguration.h"
-#include "printer/PlugInBundle.h"
 
 namespace kesta {
 

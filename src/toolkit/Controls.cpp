@@ -41,7 +41,7 @@ QWidget* FindControl(const QWidget* root, ControlID id)
     if (!root)
         return nullptr;
     for (QWidget* widget : root->findChildren<QWidget*>()) {
-        if (GetControlID(*widget) == id)
+        if (IsControl(*widget) && GetControlID(*widget) == id)
             return widget;
     }
     return nullptr;

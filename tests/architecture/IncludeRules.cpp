@@ -10,8 +10,8 @@ namespace {
 
 // Sources below src/pde by what they build; what is not named here is the shell.
 constexpr auto kPdeHelpers =
-    std::to_array<std::string_view>({"CFAdditions", "JobContext", "JobTypeCheck", "LocalizedText", "RecordFields",
-                                     "TicketEntries", "TicketKeys", "TicketUtilities", "XMLEntities"});
+    std::to_array<std::string_view>({"CFAdditions", "JobContext", "JobTypeCheck", "LocalizedText", "PlugInBundle",
+                                     "RecordFields", "TicketEntries", "TicketKeys", "TicketUtilities", "XMLEntities"});
 constexpr auto kPdeMenus = std::to_array<std::string_view>(
     {"BundleUtilities", "CustomValueDialog", "DialogCommands", "LocalizationUtilities", "Mappings", "MediaLimits",
      "MenuUtilities", "SettingMap", "SystemUtilities", "TextFieldUtilities", "ViewUtilities"});
@@ -45,8 +45,17 @@ const std::vector<Rule>& Rules()
         {"pde-shell",
          {"platform", "toolkit", "pde-helpers", "pde-menus", "pde-interface", "pde-panel-interface", "printer", "model",
           "product", "panels", "fax", "weblink"}},
-        {"host", {"platform", "toolkit", "pde-interface"}, true},
-        {"ticket-tool", {"platform", "host"}},
+        {"host/settings", {"platform"}},
+        {"host/ppd", {"platform", "host/settings"}, true},
+        {"host/server", {"platform", "host/settings"}, true},
+        {"host/commandline", {"platform", "host/settings", "host/ppd", "host/server"}},
+        {"host/script", {"platform", "toolkit", "host/commandline"}},
+        {"host/pane", {"platform", "toolkit", "pde-interface"}},
+        {"host/dialog",
+         {"platform", "toolkit", "host/settings", "host/ppd", "host/server", "host/commandline", "host/script",
+          "host/pane"}},
+        {"host", {"platform", "toolkit", "host/commandline", "host/script", "host/pane", "host/dialog"}},
+        {"ticket-tool", {"platform", "host/settings"}},
     };
     return rules;
 }
@@ -67,6 +76,10 @@ bool Names(auto& units, const std::string& stem)
 std::optional<std::string> PartOf(const std::filesystem::path& source)
 {
     const std::string folder = source.begin()->string();
+    if (folder == "host" && source.has_parent_path() && source.parent_path() != folder) {
+        const std::string part = source.parent_path().generic_string();
+        return FindRule(part) ? std::optional(part) : std::nullopt;
+    }
     if (folder != "pde")
         return FindRule(folder) ? std::optional(folder) : std::nullopt;
     const std::string stem = source.stem().string();

@@ -17,11 +17,14 @@ TEST(IncludeRules, TellsAForbiddenArrowFromAnAllowedOne)
     EXPECT_THAT(ForbiddenIncludes("toolkit/Menu.h", "#include \"platform/Types.h\"\n#include <vector>\n"), IsEmpty());
     EXPECT_THAT(ForbiddenIncludes("platform/Value.h", "  #  include \"toolkit/Menu.h\"\n"),
                 ElementsAre(HasSubstr("no arrow from platform to toolkit")));
-    EXPECT_THAT(ForbiddenIncludes("host/Main.cpp", "#include \"pde/PanelInterface.h\"\n"), IsEmpty());
-    EXPECT_THAT(ForbiddenIncludes("host/Main.cpp", "#include \"pde/TicketUtilities.h\"\n"),
+    EXPECT_THAT(ForbiddenIncludes("host/pane/A.cpp", "#include \"pde/PanelInterface.h\"\n"), IsEmpty());
+    EXPECT_THAT(ForbiddenIncludes("host/pane/A.cpp", "#include \"pde/TicketUtilities.h\"\n"),
                 ElementsAre(HasSubstr("to pde-helpers")));
     EXPECT_THAT(ForbiddenIncludes("panels/advanced/A.cpp", "#include \"pde/PDEShell.h\"\n#include <cups/ppd.h>\n"),
                 ElementsAre(HasSubstr("to pde-shell"), HasSubstr("reads PPDs")));
+    EXPECT_THAT(ForbiddenIncludes("host/server/A.cpp", "#include \"host/dialog/PrintDialog.h\"\n"),
+                ElementsAre(HasSubstr("to host/dialog")));
+    EXPECT_THAT(ForbiddenIncludes("host/misc/A.cpp", ""), ElementsAre(HasSubstr("in no part")));
     EXPECT_THAT(ForbiddenIncludes("misc/A.cpp", ""), ElementsAre(HasSubstr("in no part")));
 }
 

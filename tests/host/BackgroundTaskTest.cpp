@@ -1,4 +1,4 @@
-#include "host/BackgroundTask.h"
+#include "host/server/BackgroundTask.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

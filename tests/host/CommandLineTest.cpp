@@ -1,4 +1,4 @@
-#include "host/CommandLine.h"
+#include "host/commandline/CommandLine.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "host/Constraints.h"
-#include "host/ListOptions.h"
+#include "host/ppd/Constraints.h"
+#include "host/ppd/ListOptions.h"
 
 #include "support/PPDVariant.h"
 

@@ -1,7 +1,7 @@
 // The dialog with the real pane: without a mouse, and with large texts.
 
-#include "host/PrintDialogControls.h"
 #include "host/PrintDialogFixture.h"
+#include "host/dialog/PrintDialogControls.h"
 #include "toolkit/Controls.h"
 #include "toolkit/ModalLoop.h"
 

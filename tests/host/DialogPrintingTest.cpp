@@ -1,8 +1,8 @@
 // The dialog on a print server of the tests' own.
 
-#include "host/PrintDialogControls.h"
 #include "host/PrintDialogFixture.h"
 #include "host/PrivateServer.h"
+#include "host/dialog/PrintDialogControls.h"
 #include "toolkit/Controls.h"
 
 #include <QApplication>

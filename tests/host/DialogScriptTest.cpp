@@ -1,5 +1,5 @@
-#include "host/DialogScript.h"
-#include "host/ScriptKeys.h"
+#include "host/script/DialogScript.h"
+#include "host/script/ScriptKeys.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>

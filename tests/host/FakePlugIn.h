@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/PlugInHost.h"
+#include "host/pane/PlugInHost.h"
 #include "toolkit/ControlEvent.h"
 
 #include <QStringList>

@@ -1,5 +1,5 @@
-#include "host/HostTickets.h"
-#include "host/PageRanges.h"
+#include "host/settings/HostTickets.h"
+#include "host/settings/PageRanges.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "host/JobComposition.h"
+#include "host/settings/JobComposition.h"
 
-#include "host/TicketTransport.h"
+#include "host/settings/TicketTransport.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/Pane.h"
+#include "host/pane/Pane.h"
 
 #include "host/FakePlugIn.h"
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/FakePlugIn.h"
-#include "host/PrintDialog.h"
+#include "host/dialog/PrintDialog.h"
 #include "platform/Bundle.h"
 #include "platform/SafeFile.h"
 #include "toolkit/ToolkitServices.h"

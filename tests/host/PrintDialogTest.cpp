@@ -1,8 +1,8 @@
-#include "host/PrintDialog.h"
+#include "host/dialog/PrintDialog.h"
 
-#include "host/DialogSummary.h"
-#include "host/PrintDialogControls.h"
 #include "host/PrintDialogFixture.h"
+#include "host/dialog/DialogSummary.h"
+#include "host/dialog/PrintDialogControls.h"
 #include "platform/FileChooser.h"
 #include "platform/SafeFile.h"
 #include "support/PPDVariant.h"

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
+#include <QDirIterator>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -31,9 +31,9 @@ QStringList Found(const QString& text, const QString& pattern)
 QStringList UsedKeys()
 {
     QStringList keys;
-    const QDir sources(QStringLiteral(HOST_SOURCES));
-    for (const QString& name : sources.entryList({u"*.cpp"_s})) {
-        const QString text = QString::fromUtf8(Content(sources.filePath(name)));
+    QDirIterator sources(QStringLiteral(HOST_SOURCES), {u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+    while (sources.hasNext()) {
+        const QString text = QString::fromUtf8(Content(sources.next()));
         keys += Found(text, u"PrintText\\([^\"()+]*\"([^\"]+)\""_s);
         keys += Found(text, u"say\\(u\"([^\"]+)\""_s);
         for (const QString& problem : Found(text, u"return u\"(Pages [^\"]+)\""_s))

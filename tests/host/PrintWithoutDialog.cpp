@@ -1,8 +1,8 @@
 // The host's window-less half as a program: PATIENCE (milliseconds), then kesta-print's arguments.
 
-#include "host/CommandLine.h"
-#include "host/Console.h"
-#include "host/NoDialog.h"
+#include "host/commandline/CommandLine.h"
+#include "host/commandline/Console.h"
+#include "host/commandline/NoDialog.h"
 
 #include <cstdlib>
 

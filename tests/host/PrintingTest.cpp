@@ -1,5 +1,5 @@
-#include "host/JobOptions.h"
 #include "host/PrivateServer.h"
+#include "host/settings/JobOptions.h"
 
 #include "platform/JobSettings.h"
 #include "platform/PropertyList.h"

@@ -22,8 +22,8 @@ protected:
     // The plain options work and are saved; the reason why there is no pane is in the window.
     void expectPlainOptions(const QString& ppd, const QByteArray& reason) const
     {
-        const QByteArray script =
-            "expect \"Plain Options Title\"\nexpect \"" + reason + "\"\nexpect-enabled Help no\ntype Copies 3\nprint";
+        const QByteArray script = "expect \"Plain Options Title\"\nexpect \"" + reason +
+                                  "\"\nexpect \"You can still save\"\nexpect-enabled Help no\ntype Copies 3\nprint";
         const Ended ended = playFor(ppd, script, {u"--save-settings"_s, u"plain.plist"_s});
         EXPECT_EQ(ended.status, 0) << ended.errors.toStdString();
         QFile saved(folder.filePath(u"plain.plist"_s));

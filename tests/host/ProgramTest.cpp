@@ -65,6 +65,25 @@ TEST_F(ProgramTest, FailuresSayWhereAndEndWithOne)
     EXPECT_EQ(settings.errors.count(u'\n'), 1) << settings.errors.toStdString();
 }
 
+TEST_F(ProgramTest, AFileThatCannotBePrintedIsNamedBeforeAServerIsAsked)
+{
+    const QString server = folder.filePath(u"nobody"_s);
+    ASSERT_TRUE(QFile(folder.filePath(u"empty.pdf"_s)).open(QIODevice::WriteOnly));
+    const QStringList ways[] = {{u"--no-dialog"_s}, {u"--script"_s, u"-"_s}};
+    for (const QStringList& way : ways) {
+        const auto errorFor = [&](const QString& file) {
+            const Ended ended = run(QStringList{u"-h"_s, server, u"-d"_s, u"q"_s} + way + QStringList{file}, "cancel");
+            EXPECT_EQ(ended.status, 1);
+            return ended.errors;
+        };
+        const QString start = u"kesta-print: Error - "_s;
+        EXPECT_EQ(errorFor(u"missing.pdf"_s),
+                  start + u"unable to access \"missing.pdf\" - No such file or directory\n"_s);
+        EXPECT_EQ(errorFor(u"."_s), start + u"unable to access \".\" - Is a directory\n"_s);
+        EXPECT_EQ(errorFor(u"empty.pdf"_s), start + u"\"empty.pdf\" is empty, so no job has been sent.\n"_s);
+    }
+}
+
 TEST_F(ProgramTest, WorksWithoutItsPlugIn)
 {
     environment.insert(u"KESTA_PLUGIN_PATH"_s, folder.path()); // nothing there: the places beside the program count

@@ -1,4 +1,4 @@
-#include "host/QtTexts.h"
+#include "host/dialog/QtTexts.h"
 #include "platform/Bundle.h"
 #include "support/TestTexts.h"
 

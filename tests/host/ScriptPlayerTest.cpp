@@ -1,5 +1,5 @@
-#include "host/ScriptPlayer.h"
-#include "host/ScriptActions.h"
+#include "host/script/ScriptPlayer.h"
+#include "host/script/ScriptActions.h"
 #include "support/TestTexts.h"
 #include "toolkit/Controls.h"
 #include "toolkit/HistoryComboBox.h"

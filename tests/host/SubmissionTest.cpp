@@ -1,5 +1,5 @@
-#include "host/Submission.h"
-#include "host/Queues.h"
+#include "host/server/Submission.h"
+#include "host/server/Queues.h"
 
 #include "host/PrivateServer.h"
 

@@ -1,6 +1,6 @@
 #include "ticket-tool/TicketTool.h"
 
-#include "host/TicketTransport.h"
+#include "host/settings/TicketTransport.h"
 
 #include "platform/PropertyList.h"
 

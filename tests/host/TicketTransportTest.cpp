@@ -1,4 +1,4 @@
-#include "host/TicketTransport.h"
+#include "host/settings/TicketTransport.h"
 
 #include <gtest/gtest.h>
 

@@ -49,14 +49,15 @@ protected:
 
 TEST_F(PanelLoadingTest, TheProblemNamesWhatIsMissingAndWhere)
 {
-    Bundle bundle{.path = u"/some/where/KestaFeatures.plugin"_s};
+    Bundle bundle{.strings = Dictionary{{"Localizable", Dictionary{{"Panel Not Found", u"%2 hat %1 nicht"_s},
+                                                                   {"Panel Not Loaded", u"%1: %2"_s}}}},
+                  .path = u"/some/where/KestaFeatures.plugin"_s};
     test::FakePanel<'1'>::AddTo(bundle);
     LoadBundle(kPlugInIdentifier, std::move(bundle));
     EXPECT_EQ(problemOf({"Get1", nullptr}), QString());
 
     const QString unknown = problemOf({"Get1", "GetNothing", nullptr});
-    EXPECT_TRUE(unknown.contains(u"GetNothing")) << unknown.toStdString();
-    EXPECT_TRUE(unknown.contains(u"/some/where/KestaFeatures.plugin"));
+    EXPECT_EQ(unknown, u"/some/where/KestaFeatures.plugin hat GetNothing nicht"_s) << "in the plug-in's own words";
 
     const QString colors = problemOf({"GetColorOptionPanelInterface", nullptr});
     EXPECT_TRUE(colors.contains(u"/some/where/Library/Printers/Kesta/PDEs/ColorOptions.plugin"))

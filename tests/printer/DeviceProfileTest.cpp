@@ -1,5 +1,5 @@
 #include "printer/DeviceProfile.h"
-#include "printer/PlugInBundle.h"
+#include "pde/PlugInBundle.h"
 #include "product/InstalledFeatures.h"
 #include "support/TestTexts.h"
 
@@ -17,7 +17,7 @@ namespace {
 void LoadProfile(const QString& resources)
 {
     KDPFinalize();
-    LoadBundle(kPlugInBundleIdentifier, {.resourcesPath = resources});
+    LoadBundle(kPlugInIdentifier, {.resourcesPath = resources});
     KDPInitialize();
 }
 
@@ -114,7 +114,7 @@ TEST_F(DeviceProfile, ALoadedProfileStays)
 {
     LoadProfile(QStringLiteral(TEST_RESOURCES));
     const Dictionary* staple = KDPGetFeature("Staple");
-    LoadBundle(kPlugInBundleIdentifier, {.resourcesPath = QStringLiteral("/nowhere")});
+    LoadBundle(kPlugInIdentifier, {.resourcesPath = QStringLiteral("/nowhere")});
     KDPInitialize();
     EXPECT_EQ(KDPGetFeature("Staple"), staple);
 }

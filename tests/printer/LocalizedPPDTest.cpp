@@ -1,6 +1,6 @@
+#include "pde/PlugInBundle.h"
 #include "platform/SystemConfiguration.h"
 #include "printer/PPDUtilities.h"
-#include "printer/PlugInBundle.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
 
@@ -25,7 +25,7 @@ private:
 // The text of a choice that the localisation bundle of these resources translates.
 QString TextWith(const QString& resources, std::optional<SystemVersion> version)
 {
-    LoadBundle(kPlugInBundleIdentifier, {.resourcesPath = resources});
+    LoadBundle(kPlugInIdentifier, {.resourcesPath = resources});
     SystemOfVersion system(version);
     const WhileInstalled installed(system);
     const test::CurrentPrinter printer;

@@ -5,7 +5,10 @@
 #include "weblink/PrinterAddress.h"
 
 #include <arpa/inet.h>
+#include <net/if.h>
 #include <poll.h>
+#include <sched.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -106,8 +109,24 @@ Bytes ServiceReply(Bytes query)
     return query;
 }
 
+// Where the system allows it the tests have a network of their own, whose only interface is a loopback: nothing of the
+// machine's can answer on the port, or hear the queries. Elsewhere they use the machine's loopback.
+void EnterOwnNetwork()
+{
+    if (unshare(CLONE_NEWNET) != 0 && unshare(CLONE_NEWUSER | CLONE_NEWNET) != 0)
+        return;
+    const int control = socket(AF_INET, SOCK_DGRAM, 0);
+    ifreq loopback{};
+    std::ranges::copy("lo", loopback.ifr_name);
+    loopback.ifr_flags = IFF_UP;
+    EXPECT_EQ(ioctl(control, SIOCSIFFLAGS, &loopback), 0);
+    close(control);
+}
+
 class MulticastDNS : public testing::Test {
 protected:
+    static void SetUpTestSuite() { EnterOwnNetwork(); }
+
     MulticastDNS() { system_.version = SystemVersion{10, 2, 2}; }
 
     test::FakeSystem system_;

@@ -8,6 +8,16 @@
         <translation>Kesta Features</translation>
     </message>
     <message>
+        <source>Panel Not Found</source>
+        <extracomment>%1: the name of a function that shows a panel; %2: the plug-in that should have it</extracomment>
+        <translation>The panel of %1 can’t be found in %2.</translation>
+    </message>
+    <message>
+        <source>Panel Not Loaded</source>
+        <extracomment>%1: the name of a function that shows a panel; %2: a sentence that says why</extracomment>
+        <translation>The panel of %1 can’t be loaded: %2</translation>
+    </message>
+    <message>
         <source>Invalid Secure Print Passcode Header</source>
         <translation>Secure Print needs a valid passcode</translation>
     </message>

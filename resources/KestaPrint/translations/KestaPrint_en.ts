@@ -125,17 +125,20 @@
     </message>
     <message>
         <source>Other Maker Message</source>
-        <translation>%1 has "%2" as its maker, and the pane is for printers whose maker is "Kesta". You can still print with copies, pages and orientation as set above.</translation>
+        <extracomment>%1: the printer; %2: its maker; %3: what can be done all the same</extracomment>
+        <translation>%1 has "%2" as its maker, and the pane is for printers whose maker is "Kesta". %3</translation>
     </message>
     <message>
         <source>Pane Failed Message</source>
-        <translation>The pane for %1 could not be started (%2). You can still print with copies, pages and orientation as set above.</translation>
+        <extracomment>%1: the printer; %2: a status number; %3: what can be done all the same</extracomment>
+        <translation>The pane for %1 could not be started (%2). %3</translation>
     </message>
     <message>
         <source>No Description Message</source>
-        <translation>%2
+        <extracomment>%1: a sentence that says why; %2: what can be done all the same</extracomment>
+        <translation>%1
 
-You can still print to %1 with copies, pages and orientation as set above.</translation>
+%2</translation>
     </message>
     <message>
         <source>No Plug-in Title</source>
@@ -143,7 +146,16 @@ You can still print to %1 with copies, pages and orientation as set above.</tran
     </message>
     <message>
         <source>No Plug-in Message</source>
-        <translation>%1 You can still print with copies, pages and orientation as set above.</translation>
+        <extracomment>%1: a sentence that says what is missing; %2: what can be done all the same</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Printing Still Works</source>
+        <translation>You can still print with copies, pages and orientation as set above.</translation>
+    </message>
+    <message>
+        <source>Saving Still Works</source>
+        <translation>You can still save copies, pages and orientation as set above.</translation>
     </message>
     <message>
         <source>Pages Not Understood Title</source>

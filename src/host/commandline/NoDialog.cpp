@@ -1,0 +1,232 @@
+#include "host/commandline/NoDialog.h"
+
+#include "host/commandline/Console.h"
+#include "host/commandline/DialogOptions.h"
+#include "host/ppd/Constraints.h"
+#include "host/ppd/ListOptions.h"
+#include "host/server/DocumentSource.h"
+#include "host/server/Queues.h"
+#include "host/server/Submission.h"
+#include "host/settings/JobComposition.h"
+#include "host/settings/SavedSettings.h"
+
+#include "platform/JobSettings.h"
+#include "platform/PropertyList.h"
+#include "platform/SafeFile.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::host {
+namespace {
+
+constexpr qsizetype kLargestSettings = 64 * 1024 * 1024; // bytes
+
+// Nothing on success; otherwise what stopped the run.
+using Failure = std::optional<QString>;
+
+// The run of one command line.
+struct Run {
+    const CommandLine& commandLine;
+    PrintServer server;
+    Cancellation cancellation = {}; // never asked for: the user presses Ctrl-C
+    JobTickets tickets = {};
+    NamedQueue queue = {};
+    QueuePPD ppd = {}; // the path is --ppd's, or that of a private copy; empty for a queue without a PPD
+    PPDFacts facts = {};
+};
+
+Failure FindPrinter(Run& run)
+{
+    if (!run.commandLine.ppdPath.isEmpty()) {
+        run.ppd.path = run.commandLine.ppdPath;
+        return std::nullopt;
+    }
+    run.queue = FindQueue(run.server, run.commandLine.queue, run.cancellation);
+    if (!run.queue.problem.isEmpty())
+        return run.queue.problem;
+    run.ppd = FetchQueuePPD(run.server, run.queue.queue.name, run.cancellation);
+    if (run.ppd.path.isEmpty() && !run.ppd.hasNone)
+        return run.ppd.problem;
+    return std::nullopt;
+}
+
+Failure ListPrinterOptions(Run& run)
+{
+    if (Failure failure = FindPrinter(run))
+        return failure;
+    if (run.ppd.path.isEmpty())
+        return run.ppd.problem;
+    JobOptions marked = run.queue.defaults;
+    for (const JobOption& option : run.commandLine.options)
+        SetJobOption(marked, option.name, option.value);
+    const OptionList list = ListOptions(run.ppd.path, marked);
+    if (!list.problem.isEmpty())
+        return list.problem;
+    PrintLine(list.text.chopped(list.text.endsWith(u'\n') ? 1 : 0));
+    return std::nullopt;
+}
+
+Failure ReadSettings(Run& run)
+{
+    const QString& path = run.commandLine.settingsPath;
+    if (path.isEmpty())
+        return std::nullopt;
+    const FileContent content = ReadFile(path, kLargestSettings);
+    if (!content.bytes)
+        return content.error.text;
+    if (const auto problem = ReadJobSettings(*content.bytes, run.tickets))
+        return u"%1: %2"_s.arg(path, *problem);
+    return std::nullopt;
+}
+
+// What the command line says goes into the tickets, so that what is saved is what is printed.
+void ApplyCommandLine(Run& run)
+{
+    Ticket& settings = run.tickets.printSettings;
+    PresetChoices(run.commandLine.options, run.facts, Preset::Prevails, settings.ppdDict());
+    const HostSettings saved = ReadTickets(settings, run.tickets.pageFormat);
+    const HostSettings wanted = StartingSettings(run.commandLine, saved);
+    if (wanted != saved)
+        WriteTickets(wanted, settings, run.tickets.pageFormat);
+}
+
+bool IsChoiceOfCommandLine(const Run& run, const QString& keyword)
+{
+    return FindJobOption(run.commandLine.options, keyword).has_value();
+}
+
+// Choices of -o that the printer does not have stop the job: the print server would take the default in silence. Those
+// of settings that were saved for another printer are left out.
+Failure SettleUnknown(Run& run, const QStringList& unknown)
+{
+    for (const QString& fault : unknown) {
+        const QString keyword = fault.section(u'=', 0, 0);
+        if (IsChoiceOfCommandLine(run, keyword))
+            return u"the printer does not offer \"%1\": see kesta-print --list-options."_s.arg(fault);
+        run.tickets.printSettings.ppdDict().remove(keyword);
+        PrintNote(u"the printer does not offer \"%1\" of the saved settings; it is left out."_s.arg(fault));
+    }
+    return std::nullopt;
+}
+
+Failure CheckChoices(Run& run)
+{
+    if (run.ppd.path.isEmpty())
+        return std::nullopt;
+    Dictionary choices = run.tickets.printSettings.ppdDict();
+    for (const JobOption& option : run.commandLine.options) {
+        if (run.facts.choices.contains(option.name))
+            choices.set(option.name, option.value);
+    }
+    const ConflictReport report = FindConflicts(run.ppd.path, choices);
+    if (!report.problem.isEmpty())
+        return report.problem;
+    if (Failure failure = SettleUnknown(run, report.unknown))
+        return failure;
+    QStringList sentences;
+    for (const ChoiceConflict& conflict : report.conflicts) {
+        QString sentence = conflict.sentence;
+        for (const ChoiceChange& change : conflict.changes)
+            sentence += u" %1 (-o %2=%3)."_s.arg(change.text, change.keyword, change.choice);
+        sentences << sentence;
+    }
+    return sentences.isEmpty() ? std::nullopt : std::optional(sentences.join(u'\n'));
+}
+
+Failure SaveSettings(const Run& run)
+{
+    const QString& path = run.commandLine.saveSettingsPath;
+    if (path.isEmpty())
+        return std::nullopt;
+    const auto error = WriteFile(path, WriteSavedSettings(run.tickets), FileAccess::OwnerOnly);
+    return error ? std::optional(error->text) : std::nullopt;
+}
+
+// The host's own fields as far as the tickets or the command line name them; what -o names is sent as it was given.
+JobFields FieldsOf(const Run& run)
+{
+    const Ticket& settings = run.tickets.printSettings;
+    const HostSettings values = ReadTickets(settings, run.tickets.pageFormat);
+    const CommandLine& line = run.commandLine;
+    const auto counts = [&](const Ticket& ticket, const char* key, const char* option) {
+        return ticket.values().find(key) && !FindJobOption(line.options, option);
+    };
+    JobFields fields;
+    if (line.copies || counts(settings, key::Copies, "copies"))
+        fields.copies = values.copies;
+    if (!line.pageRanges.isEmpty() || counts(settings, key::PageRanges, "page-ranges"))
+        fields.pageRanges = values.pageRanges;
+    if (counts(settings, key::PagesPerSheet, "number-up"))
+        fields.pagesPerSheet = values.pagesPerSheet;
+    if (counts(run.tickets.pageFormat, key::Orientation, "orientation-requested") &&
+        !FindJobOption(line.options, "landscape"))
+        fields.orientation = values.orientation;
+    return fields;
+}
+
+Failure Send(Run& run)
+{
+    const Ticket& settings = run.tickets.printSettings;
+    const bool hasTicket = settings.values().count() > 0;
+    const ComposedOptions composed =
+        ComposeJobOptions({.queueDefaults = run.queue.defaults,
+                           .ppdChoices = settings.ppdDict(),
+                           .commandLine = run.commandLine.options,
+                           .fields = FieldsOf(run),
+                           .ticket = hasTicket ? WritePropertyList(settings.values()) : QByteArray()});
+    if (!composed.problem.isEmpty())
+        return composed.problem;
+    const PrintJob job{.queue = run.queue.queue.name,
+                       .title = run.commandLine.title,
+                       .files = run.commandLine.files,
+                       .options = composed.options};
+    const SubmissionResult result = SubmitJob(run.server, job, run.cancellation);
+    if (!result.sent())
+        return result.message;
+    if (!run.commandLine.silent)
+        PrintLine(result.message);
+    return std::nullopt;
+}
+
+Failure Print(Run& run)
+{
+    const bool hasQueue = run.commandLine.ppdPath.isEmpty();
+    if (!hasQueue && run.commandLine.saveSettingsPath.isEmpty())
+        return u"--ppd prints nothing: add --save-settings FILE, or print to a queue with -d."_s;
+    if (Failure failure = hasQueue ? FindFileProblem(run.commandLine.files) : std::nullopt)
+        return failure;
+    if (Failure failure = ReadSettings(run))
+        return failure;
+    if (Failure failure = FindPrinter(run))
+        return failure;
+    if (!run.ppd.path.isEmpty())
+        run.facts = ReadPPDFacts(run.ppd.path, {});
+    ApplyCommandLine(run);
+    if (Failure failure = CheckChoices(run))
+        return failure;
+    if (Failure failure = SaveSettings(run)) // before sending: they are there to try again
+        return failure;
+    return hasQueue ? Send(run) : std::nullopt;
+}
+
+} // namespace
+
+bool RunsWithoutDialog(const CommandLine& commandLine)
+{
+    return commandLine.help || commandLine.version || commandLine.listOptions || commandLine.noDialog;
+}
+
+int RunWithoutDialog(const CommandLine& commandLine, std::chrono::milliseconds patience)
+{
+    if (commandLine.help || commandLine.version) {
+        PrintLine(commandLine.help ? UsageText().trimmed() : u"kesta-print "_s + QLatin1StringView(KESTA_VERSION));
+        return 0;
+    }
+    Run run{commandLine, {.address = commandLine.server, .patience = patience}};
+    const Failure failure = commandLine.listOptions ? ListPrinterOptions(run) : Print(run);
+    if (failure)
+        PrintFailure(*failure);
+    return failure ? 1 : 0;
+}
+
+} // namespace kesta::host

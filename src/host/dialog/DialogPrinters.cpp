@@ -1,0 +1,145 @@
+// The chosen printer and its pane.
+
+#include "host/commandline/DialogOptions.h"
+#include "host/dialog/PrintDialog.h"
+#include "host/dialog/PrintDialogControls.h"
+#include "host/dialog/PrintTexts.h"
+#include "toolkit/InterfaceFile.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::host {
+namespace {
+
+constexpr char kMaker[] = "Kesta"; // whose printers the pane takes
+
+} // namespace
+
+void PrintDialog::startPrinters()
+{
+    const CommandLine& options = start_.commandLine;
+    if (options.ppdPath.isEmpty()) {
+        finder_.start(options.queue);
+        enableButtons();
+        return;
+    }
+    DialogPrinter printer;
+    printer.queue.displayName = QFileInfo(options.ppdPath).fileName();
+    printer.queue.deviceURI = options.deviceURI;
+    printer.ppd.path = options.ppdPath;
+    usePrinter(printer);
+    fillPrinterChoice();
+}
+
+void PrintDialog::fillPrinterChoice()
+{
+    PopupButton* choice = FindPopupButton(window_.get(), {kPrintSignature, kPrinterChoice});
+    if (!choice)
+        return;
+    Menu menu;
+    int position = finder_.position();
+    if (printer_ && !printer_->isQueue()) {
+        menu.items.push_back({.title = printer_->queue.displayName});
+        position = 1;
+    }
+    for (const Queue& queue : finder_.queues())
+        menu.items.push_back({.title = PrinterTitle(queue, *start_.texts)});
+    choice->setMenu(std::move(menu));
+    if (position)
+        choice->setValue(position);
+}
+
+void PrintDialog::choosePrinter(int position)
+{
+    if (sending_ || (printer_ && !printer_->isQueue()))
+        return;
+    closePane();
+    printer_.reset();
+    enableButtons();
+    finder_.choose(position);
+}
+
+void PrintDialog::usePrinter(const DialogPrinter& printer)
+{
+    closePane();
+    printer_ = printer;
+    session_.printer = PMPrinter{.queue = printer.queue.name,
+                                 .name = PrinterTitle(printer.queue, *start_.texts),
+                                 .ppdPath = printer.ppd.path,
+                                 .deviceURI = printer.queue.deviceURI};
+    if (!start_.commandLine.deviceURI.isEmpty())
+        session_.printer->deviceURI = start_.commandLine.deviceURI;
+    presetFromPrinter();
+    openPane();
+}
+
+// What the panels read of the print system's own keys.
+void PrintDialog::presetFromPrinter()
+{
+    Dictionary& choices = tickets_.printSettings.ppdDict();
+    facts_ = printer_->ppd.path.isEmpty() ? PPDFacts{.problem = printer_->ppd.problem}
+                                          : ReadPPDFacts(printer_->ppd.path, choices);
+    PresetChoices(printer_->defaults, facts_, Preset::Fills, choices);
+    PresetChoices(start_.commandLine.options, facts_, Preset::Prevails, choices);
+    if (facts_.paper)
+        WritePaperRect(*facts_.paper, tickets_.pageFormat);
+    WriteInitialDuplexing(DuplexingOfChoice(facts_.duplexChoice), tickets_.printSettings);
+    if (!printer_->isQueue() && !facts_.name.isEmpty())
+        printer_->queue.displayName = facts_.name;
+}
+
+void PrintDialog::openPane()
+{
+    if (start_.plugIn.plugIn && facts_.problem.isEmpty())
+        pane_.emplace(*start_.plugIn.plugIn, paneArea_->host(), session_);
+    paneStatus_ = pane_ ? pane_->status() : noErr;
+    if (paneStatus_ != noErr)
+        pane_.reset();
+    if (pane_)
+        paneArea_->showPane();
+    else
+        paneArea_->showMessage(whyNoPane());
+    std::vector<QWidget*> below;
+    for (const PrintControl button : {kHelpButton, kSaveSettingsButton, kCancelButton, kPrintButton})
+        below.push_back(FindControl(window_.get(), {kPrintSignature, button}));
+    paneArea_->placeInFocusOrder(below);
+    enableButtons();
+    updateSummary();
+}
+
+// What can't be done now can't be pressed: without a printer there is nothing to print to, without a pane no help.
+void PrintDialog::enableButtons()
+{
+    SetControlEnabled(FindControl(window_.get(), {kPrintSignature, kHelpButton}), pane_.has_value());
+    SetControlEnabled(FindControl(window_.get(), {kPrintSignature, kPrintButton}), printer_ && !sending_);
+}
+
+PaneMessage PrintDialog::whyNoPane() const
+{
+    const Bundle& texts = *start_.texts;
+    const QString stillWorks = start_.commandLine.ppdPath.isEmpty() ? PrintText(texts, "Printing Still Works")
+                                                                    : PrintText(texts, "Saving Still Works");
+    if (!start_.plugIn.plugIn)
+        return {PrintText(texts, "No Plug-in Title"),
+                PrintText(texts, "No Plug-in Message").arg(start_.plugIn.error, stillWorks)};
+    const QString name = PrinterTitle(printer_->queue, texts);
+    const QString& maker = facts_.manufacturer;
+    const QString message =
+        !facts_.problem.isEmpty() ? PrintText(texts, "No Description Message").arg(facts_.problem, stillWorks)
+        : maker == QLatin1StringView(kMaker)
+            ? PrintText(texts, "Pane Failed Message").arg(name, QString::number(paneStatus_), stillWorks)
+            : PrintText(texts, "Other Maker Message").arg(name, maker, stillWorks);
+    return {PrintText(texts, "Plain Options Title"), message};
+}
+
+void PrintDialog::closePane()
+{
+    if (!pane_)
+        return;
+    pane_->syncToTickets();
+    pane_.reset();
+}
+
+} // namespace kesta::host

@@ -1,0 +1,51 @@
+#include "host/dialog/DialogSummary.h"
+
+#include "host/dialog/PrintTexts.h"
+#include "host/settings/PageRanges.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::host {
+namespace {
+
+QString PanelPhrase(const QString& summary)
+{
+    QStringList facts;
+    for (QString fact : summary.split(u'\n', Qt::SkipEmptyParts)) {
+        fact = fact.trimmed();
+        if (fact.startsWith(u"- "_s))
+            fact = fact.sliced(2).trimmed();
+        if (!fact.isEmpty())
+            facts << fact;
+    }
+    return facts.join(u", "_s);
+}
+
+QString CopiesAndPages(const HostSettings& settings, const Bundle& texts)
+{
+    QStringList facts;
+    if (settings.copies > 1)
+        facts << PrintText(texts, "Copies Summary").arg(settings.copies);
+    if (!settings.pageRanges.isEmpty()) {
+        const QString shown = WritePageRanges(ParsePageRanges(settings.pageRanges).ranges, u", "_s);
+        facts << PrintText(texts, "Pages Summary").arg(shown);
+    }
+    return facts.join(u", "_s);
+}
+
+} // namespace
+
+QString SummaryLine(const HostSettings& settings, const QStringList& panelSummaries, const Bundle& texts)
+{
+    QStringList phrases{CopiesAndPages(settings, texts)};
+    if (settings.pagesPerSheet > 1)
+        phrases << PrintText(texts, "Per Sheet Summary").arg(settings.pagesPerSheet);
+    if (settings.orientation == Orientation::Landscape || settings.orientation == Orientation::ReverseLandscape)
+        phrases << PrintText(texts, "Landscape Summary");
+    for (const QString& summary : panelSummaries)
+        phrases << PanelPhrase(summary);
+    phrases.removeAll(QString());
+    return phrases.isEmpty() ? PrintText(texts, "Default Summary") : phrases.join(u" \u00B7 "_s);
+}
+
+} // namespace kesta::host

@@ -1,0 +1,37 @@
+#include "host/dialog/ElidedText.h"
+
+#include <QEvent>
+
+namespace kesta::host {
+
+ElidedText::ElidedText(QLabel& label) : QObject(&label), label_(label)
+{
+    label.setTextFormat(Qt::PlainText);
+    label.setWordWrap(false);
+    label.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    label.installEventFilter(this);
+}
+
+void ElidedText::setText(const QString& text)
+{
+    text_ = text;
+    label_.setAccessibleDescription(text);
+    elide();
+}
+
+void ElidedText::elide()
+{
+    const QString shown = label_.fontMetrics().elidedText(text_, Qt::ElideRight, label_.contentsRect().width());
+    if (shown != label_.text())
+        label_.setText(shown);
+    label_.setToolTip(shown == text_ ? QString() : text_);
+}
+
+bool ElidedText::eventFilter(QObject*, QEvent* event)
+{
+    if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange)
+        elide();
+    return false;
+}
+
+} // namespace kesta::host

@@ -1,0 +1,236 @@
+#include "host/dialog/PrintDialog.h"
+
+#include "host/commandline/DialogOptions.h"
+#include "host/dialog/DialogSummary.h"
+#include "host/dialog/PrintDialogControls.h"
+#include "host/dialog/PrintTexts.h"
+#include "host/server/DocumentSource.h"
+#include "platform/SafeFile.h"
+#include "toolkit/InterfaceFile.h"
+#include "toolkit/ModalLoop.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QEvent>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::host {
+namespace {
+
+constexpr QSize kUsualSize(640, 650);
+constexpr qsizetype kLargestSettings = 8 * 1024 * 1024; // bytes
+
+void SendCommand(QWidget& window, FourCharCode command)
+{
+    SendControlEvent(window, CommandEvent{.command = command});
+}
+
+void AddPanelShortcuts(QWidget& window)
+{
+    const auto add = [&window](Qt::Key key, FourCharCode command) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), &window);
+        QObject::connect(shortcut, &QShortcut::activated, &window,
+                         [&window, command] { SendCommand(window, command); });
+    };
+    add(Qt::Key_PageDown, kCommandPanelUp); // "up" counts the panels up
+    add(Qt::Key_PageUp, kCommandPanelDown);
+}
+
+} // namespace
+
+PrintDialog::PrintDialog(DialogStart start)
+    : start_(std::move(start)),
+      finder_(*start_.texts, {.address = start_.commandLine.server},
+              {.listChanged = [this] { fillPrinterChoice(); },
+               .word = [this](const PaneMessage& message) { paneArea_->showMessage(message); },
+               .found = [this](const DialogPrinter& printer) { usePrinter(printer); }})
+{
+    AddToSession(tickets_, session_);
+}
+
+PrintDialog::~PrintDialog()
+{
+    pane_.reset();
+}
+
+std::optional<QString> PrintDialog::prepare()
+{
+    const CommandLine& options = start_.commandLine;
+    if (options.ppdPath.isEmpty()) {
+        if (std::optional<QString> problem = FindFileProblem(options.files))
+            return problem;
+    }
+    if (!options.settingsPath.isEmpty()) {
+        const FileContent content = ReadFile(options.settingsPath, kLargestSettings);
+        if (!content.bytes)
+            return content.error.text;
+        if (const std::optional<QString> problem = ReadJobSettings(*content.bytes, tickets_))
+            return u"%1: %2"_s.arg(options.settingsPath, *problem);
+    }
+    window_ = CreateWindowFromNib(*start_.texts, "PrintDialog", "Window");
+    if (!window_)
+        return u"The dialog's own window can't be read."_s;
+    setUpWindow();
+    return std::nullopt;
+}
+
+QString PrintDialog::documentName() const
+{
+    const CommandLine& options = start_.commandLine;
+    if (!options.title.isEmpty())
+        return options.title;
+    if (options.files.isEmpty())
+        return options.ppdPath.isEmpty() ? PrintText(*start_.texts, "Standard Input") : QString();
+    return QFileInfo(QString::fromLocal8Bit(options.files.front())).fileName();
+}
+
+void PrintDialog::setUpWindow()
+{
+    const Bundle& texts = *start_.texts;
+    const QString document = documentName();
+    window_->setWindowTitle(document.isEmpty() ? PrintText(texts, "Window Title No Document")
+                                               : PrintText(texts, "Window Title").arg(document));
+    QSize size = kUsualSize;
+    if (const QScreen* screen = window_->screen())
+        size = size.boundedTo(screen->availableSize());
+    window_->resize(size);
+
+    paneArea_.emplace(*window_);
+    fields_.emplace(*window_, texts);
+    if (auto* label = FindControlAs<QLabel>(window_.get(), {kPrintSignature, kSummaryLine}))
+        summary_ = new ElidedText(*label);
+    handler_ = InstallEventHandler(
+        *window_, [this](const HitEvent& hit) { return handleHit(hit); },
+        [this](const CommandEvent& command) { return handleCommand(command); });
+    AddPanelShortcuts(*window_);
+    if (!start_.commandLine.ppdPath.isEmpty()) { // nothing is submitted
+        SetControlText(FindControl(window_.get(), {kPrintSignature, kPrintButton}), PrintText(texts, "Save"));
+        SetControlVisible(FindControl(window_.get(), {kPrintSignature, kSaveSettingsButton}), false);
+    }
+}
+
+// Starts with what the command line says over what the saved settings say.
+void PrintDialog::showFields()
+{
+    const CommandLine& options = start_.commandLine;
+    HostSettings settings = StartingSettings(options, ReadTickets(tickets_.printSettings, tickets_.pageFormat));
+    settings.jobName = documentName();
+    fields_->show(settings);
+    WriteTickets(settings, tickets_.printSettings, tickets_.pageFormat);
+}
+
+int PrintDialog::run()
+{
+    showFields();
+    startPrinters();
+    qApp->installEventFilter(this);
+    if (auto* copies = FindControlAs<QAbstractSpinBox>(window_.get(), {kPrintSignature, kCopiesField})) {
+        copies->setFocus();
+        copies->selectAll();
+    }
+    RunModalLoop(*window_);
+    qApp->removeEventFilter(this);
+    sending_.reset();
+    pane_.reset(); // Cancel: nothing more goes to the tickets
+    return status_;
+}
+
+void PrintDialog::end(int status)
+{
+    status_ = status;
+    EndModalLoop(*window_, status == 0 ? ModalResult::OK : ModalResult::Cancel);
+}
+
+EventResult PrintDialog::handleHit(const HitEvent& hit)
+{
+    if (hit.control.signature != kPrintSignature)
+        return EventResult::NotHandled;
+    switch (hit.control.number) {
+    case kPrinterChoice:
+        choosePrinter(hit.value);
+        return EventResult::Handled;
+    case kTryAgainButton:
+        startPrinters();
+        return EventResult::Handled;
+    case kStopButton:
+        if (sending_)
+            sending_->cancel();
+        return EventResult::Handled;
+    case kSaveSettingsButton:
+        saveSettings();
+        return EventResult::Handled;
+    default:
+        return EventResult::NotHandled;
+    }
+}
+
+EventResult PrintDialog::handleCommand(const CommandEvent& command)
+{
+    switch (command.command) {
+    case kCommandOK:
+        return print();
+    case kCommandCancel:
+        if (sending_)
+            sending_->cancel();
+        else
+            EndModalLoop(*window_, ModalResult::Cancel);
+        return EventResult::Handled;
+    default:
+        return EventResult::NotHandled;
+    }
+}
+
+bool PrintDialog::syncPane(bool toControls)
+{
+    if (!toControls) {
+        storeInTickets();
+        return pane_.has_value();
+    }
+    fields_->show(ReadTickets(tickets_.printSettings, tickets_.pageFormat));
+    if (pane_)
+        pane_->syncToControls();
+    return pane_.has_value();
+}
+
+QByteArray PrintDialog::jobSettings() const
+{
+    return WriteJobSettings(tickets_);
+}
+
+QString PrintDialog::summaryText()
+{
+    QStringList panels;
+    for (const PaneSummary& summary : pane_ ? pane_->summaries() : std::vector<PaneSummary>())
+        panels << summary.text;
+    return SummaryLine(fields_->settings(), panels, *start_.texts);
+}
+
+void PrintDialog::updateSummary()
+{
+    summaryIsDue_ = false;
+    if (summary_)
+        summary_->setText(summaryText());
+}
+
+// What a person does anywhere in our windows may change the summary.
+bool PrintDialog::eventFilter(QObject*, QEvent* event)
+{
+    const bool isAction = event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyRelease ||
+                          event->type() == QEvent::Wheel;
+    if (isAction && !summaryIsDue_) {
+        summaryIsDue_ = true;
+        QMetaObject::invokeMethod(
+            this, [this] { updateSummary(); }, Qt::QueuedConnection);
+    }
+    return false;
+}
+
+} // namespace kesta::host

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "host/commandline/CommandLine.h"
+#include "host/dialog/DialogFields.h"
+#include "host/dialog/ElidedText.h"
+#include "host/dialog/PaneArea.h"
+#include "host/dialog/PrinterFinder.h"
+#include "host/pane/Pane.h"
+#include "host/ppd/PPDFacts.h"
+#include "host/script/ScriptPlayer.h"
+#include "host/server/Submission.h"
+#include "platform/JobSettings.h"
+#include "toolkit/ControlEvent.h"
+
+#include <memory>
+#include <optional>
+
+namespace kesta::host {
+
+// What the dialog starts from.
+struct DialogStart {
+    CommandLine commandLine;
+    const Bundle* texts = nullptr;
+    PlugInOrError plugIn;
+    bool scripted = false; // nobody is there to be asked for a file name
+};
+
+// The print dialog: its window, the chosen printer with its pane, and the job's tickets.
+class PrintDialog : public QObject, public ScriptedDialog {
+public:
+    explicit PrintDialog(DialogStart start);
+    ~PrintDialog() override;
+
+    // Why the dialog can't be shown, in one line: its window, the saved settings or a file to print
+    // can't be read. Nothing when it can.
+    std::optional<QString> prepare();
+
+    // Shows the window until the user prints or cancels. The program's exit status: 1 when the last attempt to print
+    // failed, else 0, also after Cancel.
+    int run();
+
+    QWidget& window() override { return *window_; }
+    bool isBusy() const override { return finder_.isBusy() || sending_.has_value(); }
+    bool syncPane(bool toControls) override;
+    QByteArray jobSettings() const override;
+    QString summaryText() override;
+    void updateSummary() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    // PrintDialog.cpp: the window and its events
+    void setUpWindow();
+    EventResult handleHit(const HitEvent& hit);
+    EventResult handleCommand(const CommandEvent& command);
+    void showFields();
+    QString documentName() const;
+
+    // DialogPrinters.cpp: the printer and its pane
+    void startPrinters();
+    void fillPrinterChoice();
+    void usePrinter(const DialogPrinter& printer);
+    void choosePrinter(int position);
+    void presetFromPrinter();
+    void openPane();
+    void closePane(); // what the pane shows goes to the tickets first
+    void enableButtons();
+    PaneMessage whyNoPane() const;
+
+    // DialogPrinting.cpp: what Print and Save Settings do
+    EventResult print();
+    bool acceptQueue() const;
+    void storeInTickets();
+    bool settleConflicts();
+    bool saveSettingsTo(const QString& path);
+    void saveSettings();
+    std::optional<QString> askForFile(); // where to save; nothing when the user cancels
+    bool saveAfterPrint();
+    void send();
+    void sent(const SubmissionResult& result);
+    void failedToPrint(const QString& reason);
+    void end(int status);
+
+    DialogStart start_;
+    JobTickets tickets_;
+    PrintSession session_;
+    std::unique_ptr<QWidget> window_;
+    std::optional<PaneArea> paneArea_;
+    std::optional<DialogFields> fields_;
+    ElidedText* summary_ = nullptr; // of the window's summary line
+    EventHandler handler_;          // before the pane's, which come first
+    PrinterFinder finder_;
+    std::optional<DialogPrinter> printer_;
+    PPDFacts facts_; // of the printer
+    std::optional<Pane> pane_;
+    OSStatus paneStatus_ = noErr; // of the last attempt to open one
+    std::optional<BackgroundTask> sending_;
+    bool summaryIsDue_ = false;
+    int status_ = 0;
+};
+
+} // namespace kesta::host

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "host/dialog/PaneArea.h"
+#include "host/server/Queues.h"
+
+#include <optional>
+
+namespace kesta {
+struct Bundle;
+}
+
+namespace kesta::host {
+
+// The printer that the dialog prints to. A PPD alone has no queue.
+struct DialogPrinter {
+    Queue queue;         // without a name: a PPD alone
+    JobOptions defaults; // the user's own for this queue
+    QueuePPD ppd;
+
+    bool isQueue() const { return !queue.name.isEmpty(); }
+};
+
+// Looks for printers aside, so that the window never waits for a server, and says meanwhile what it is doing.
+class PrinterFinder {
+public:
+    // All are called from the event loop, never from within start() or choose(), but "word".
+    struct Listener {
+        std::function<void()> listChanged;               // queues() and position() have something new
+        std::function<void(const PaneMessage&)> word;    // what goes on, or what is wrong and the way out
+        std::function<void(const DialogPrinter&)> found; // the chosen printer with everything known about it
+    };
+
+    PrinterFinder(const Bundle& texts, PrintServer server, Listener listener);
+
+    // Asks for the list of printers and for the one that is wanted: "queue", "queue/instance", or the default one.
+    void start(const QString& wanted);
+    void choose(int position); // in queues(), from 1
+
+    const std::vector<Queue>& queues() const { return list_.queues; }
+    int position() const; // of the chosen printer in queues(), from 1; 0 while there is none
+    bool isBusy() const { return busy_; }
+
+private:
+    void find(const QString& name);
+    void arrived();
+    void reportMissing();
+    void fetchPPD();
+    void say(const QString& titleKey, const QString& text, bool canTryAgain);
+
+    const Bundle& texts_;
+    PrintServer server_;
+    Listener listener_;
+    QString asked_;
+    QueueList list_;
+    bool hasList_ = false;
+    bool busy_ = false;
+    std::optional<NamedQueue> found_;
+    QString fetching_; // the queue whose PPD was asked for
+    std::optional<BackgroundTask> listTask_;
+    std::optional<BackgroundTask> findTask_;
+    std::optional<BackgroundTask> ppdTask_;
+};
+
+// As a person picks it: the printer's description, with its place unless the description says it already.
+QString PrinterTitle(const Queue& queue, const Bundle& texts);
+
+} // namespace kesta::host

@@ -1,0 +1,58 @@
+#include "host/ppd/PPDFacts.h"
+
+#include "host/ppd/PPDFile.h"
+
+namespace kesta::host {
+namespace {
+
+QString Text(const char* utf8)
+{
+    return QString::fromUtf8(utf8); // libcups turns texts into UTF-8; null is an empty text
+}
+
+void AddChoices(const ppd_group_t& group, PPDFacts& facts)
+{
+    for (int i = 0; i < group.num_options; ++i) {
+        const ppd_option_t& option = group.options[i];
+        std::set<QString>& choices = facts.choices[Text(option.keyword)];
+        for (int j = 0; j < option.num_choices; ++j)
+            choices.insert(Text(option.choices[j].choice));
+    }
+    for (int i = 0; i < group.num_subgroups; ++i)
+        AddChoices(group.subgroups[i], facts);
+}
+
+std::optional<PaperRect> PaperOf(ppd_file_t& ppd, const Dictionary& chosen)
+{
+    if (const QString* size = chosen.string("PageSize"))
+        ppdMarkOption(&ppd, "PageSize", size->toUtf8().constData());
+    const ppd_size_t* size = ppdPageSize(&ppd, nullptr);
+    if (!size)
+        return std::nullopt;
+    return PaperRect{.top = 0, .left = 0, .bottom = size->length, .right = size->width};
+}
+
+} // namespace
+
+bool PPDFacts::offers(const QString& keyword, const QString& choice) const
+{
+    const auto option = choices.find(keyword);
+    return option != choices.end() && option->second.contains(choice);
+}
+
+PPDFacts ReadPPDFacts(const QString& ppdPath, const Dictionary& chosen)
+{
+    const auto [ppd, problem] = OpenPPDFile(ppdPath);
+    if (!ppd)
+        return {.problem = problem};
+    PPDFacts facts{.name = Text(ppd->nickname ? ppd->nickname : ppd->modelname),
+                   .manufacturer = Text(ppd->manufacturer),
+                   .paper = PaperOf(*ppd, chosen)};
+    for (int i = 0; i < ppd->num_groups; ++i)
+        AddChoices(ppd->groups[i], facts);
+    if (const ppd_option_t* duplex = ppdFindOption(ppd.get(), "Duplex"))
+        facts.duplexChoice = Text(duplex->defchoice);
+    return facts;
+}
+
+} // namespace kesta::host

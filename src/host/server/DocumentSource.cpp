@@ -1,0 +1,173 @@
+#include "host/server/DocumentSource.h"
+
+#include <QTemporaryFile>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <span>
+#include <utility>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::host {
+namespace {
+
+constexpr int kLookAgainMilliseconds = 100;
+
+class Descriptor {
+public:
+    explicit Descriptor(int number) : number_(number) {}
+    ~Descriptor()
+    {
+        if (number_ > STDERR_FILENO)
+            ::close(number_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    int number() const { return number_; }
+    int release() { return std::exchange(number_, -1); }
+
+private:
+    int number_;
+};
+
+QString Reason(int error)
+{
+    return QString::fromLocal8Bit(std::strerror(error));
+}
+
+QString NoAccess(const QString& path, int error)
+{
+    return u"unable to access \"%1\" - %2"_s.arg(path, Reason(error));
+}
+
+QString IsEmpty(const QString& path)
+{
+    return u"\"%1\" is empty, so no job has been sent."_s.arg(path);
+}
+
+// Bytes read into the buffer, 0 at the end, -1 with errno. Looks at the cancellation while nothing comes.
+ssize_t ReadSome(int descriptor, std::span<char> buffer, Cancellation& cancellation)
+{
+    for (;;) {
+        if (cancellation.requested()) {
+            errno = ECANCELED;
+            return -1;
+        }
+        pollfd wait{descriptor, POLLIN, 0};
+        const int ready = ::poll(&wait, 1, kLookAgainMilliseconds);
+        if (ready < 0 && errno != EINTR)
+            return -1;
+        if (ready <= 0)
+            continue;
+        const ssize_t count = ::read(descriptor, buffer.data(), buffer.size());
+        if (count >= 0 || (errno != EINTR && errno != EAGAIN))
+            return count;
+    }
+}
+
+std::optional<QString> Copy(int descriptor, QTemporaryFile& copy, Cancellation& cancellation)
+{
+    std::array<char, 65'536> buffer;
+    for (;;) {
+        const ssize_t count = ReadSome(descriptor, buffer, cancellation);
+        if (count == 0)
+            return copy.flush() && copy.seek(0) ? std::nullopt : std::optional(copy.errorString());
+        if (count < 0)
+            return Reason(errno);
+        if (copy.write(buffer.data(), count) != count)
+            return copy.errorString();
+    }
+}
+
+std::optional<QString> Spool(int descriptor, const QString& name, Document& document, Cancellation& cancellation)
+{
+    auto copy = std::make_unique<QTemporaryFile>();
+    if (!copy->open())
+        return u"unable to create temporary file - %1."_s.arg(copy->errorString());
+    if (const auto reason = Copy(descriptor, *copy, cancellation))
+        return u"unable to read %1 - %2."_s.arg(name, *reason);
+    document.size = copy->size();
+    document.file = std::move(copy);
+    return std::nullopt;
+}
+
+std::optional<QString> OpenStandardInput(Document& document, Cancellation& cancellation)
+{
+    document.name = u"(stdin)"_s;
+    auto problem = Spool(STDIN_FILENO, u"standard input"_s, document, cancellation);
+    if (!problem && document.size == 0)
+        return u"stdin is empty, so no job has been sent."_s;
+    return problem;
+}
+
+// Of what is known without reading.
+std::optional<QString> FaultOf(const QString& path, const struct stat& status)
+{
+    if (S_ISDIR(status.st_mode))
+        return NoAccess(path, EISDIR);
+    if (S_ISREG(status.st_mode) && status.st_size == 0)
+        return IsEmpty(path);
+    return std::nullopt;
+}
+
+std::optional<QString> OpenPath(const QByteArray& encoded, Document& document, Cancellation& cancellation)
+{
+    const QString path = QFile::decodeName(encoded);
+    document.name = path.section(u'/', -1);
+    Descriptor descriptor(::open(encoded.constData(), O_RDONLY | O_CLOEXEC));
+    struct stat status {};
+    if (descriptor.number() < 0 || ::fstat(descriptor.number(), &status) != 0)
+        return NoAccess(path, errno);
+    if (auto fault = FaultOf(path, status))
+        return fault;
+    if (!S_ISREG(status.st_mode)) {
+        if (auto problem = Spool(descriptor.number(), path, document, cancellation))
+            return problem;
+    } else {
+        document.file = std::make_unique<QFile>(path);
+        if (!document.file->open(descriptor.release(), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+            return NoAccess(path, EIO);
+        document.size = status.st_size;
+    }
+    return document.size == 0 ? std::optional(IsEmpty(path)) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<QString> FindFileProblem(const QByteArrayList& paths)
+{
+    for (const QByteArray& encoded : paths) {
+        const QString path = QFile::decodeName(encoded);
+        struct stat status {};
+        if (::stat(encoded.constData(), &status) != 0 || ::access(encoded.constData(), R_OK) != 0)
+            return NoAccess(path, errno);
+        if (auto fault = FaultOf(path, status))
+            return fault;
+    }
+    return std::nullopt;
+}
+
+DocumentList OpenDocuments(const QByteArrayList& paths, Cancellation& cancellation)
+{
+    DocumentList list;
+    const qsizetype count = std::max<qsizetype>(paths.size(), 1);
+    for (qsizetype i = 0; i < count; ++i) {
+        Document document;
+        const auto problem =
+            paths.isEmpty() ? OpenStandardInput(document, cancellation) : OpenPath(paths[i], document, cancellation);
+        if (problem)
+            return {{}, *problem};
+        list.documents.push_back(std::move(document));
+    }
+    return list;
+}
+
+} // namespace kesta::host

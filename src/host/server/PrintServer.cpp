@@ -1,0 +1,73 @@
+#include "host/server/PrintServer.h"
+
+#include <cups/cups.h>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta::host {
+namespace {
+
+constexpr double kLookAgainSeconds = 0.1;
+
+// A window has no terminal to ask on, and a job without an answer must end.
+const char* NoPassword(const char*, http_t*, const char*, const char*, void*)
+{
+    return nullptr;
+}
+
+} // namespace
+
+QString ServerName(const PrintServer& server)
+{
+    return server.address.isEmpty() ? u"The print server"_s : u"The print server \"%1\""_s.arg(server.address);
+}
+
+QString ServerSilentMessage(const PrintServer& server)
+{
+    return u"%1 does not answer. Start it, or name another one with -h, and try again."_s.arg(ServerName(server));
+}
+
+ServerConnection::ServerConnection(const PrintServer& server, Cancellation& cancellation)
+    : server_(server), cancellation_(cancellation)
+{
+    cupsSetServer(server.address.isEmpty() ? nullptr : server.address.toUtf8().constData());
+    cupsSetPasswordCB2(NoPassword, nullptr);
+    http_ = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                         static_cast<int>(server.patience.count()), cancellation.flag());
+    if (http_)
+        httpSetTimeout(http_, kLookAgainSeconds, WaitLonger, this);
+    expectAnswer();
+}
+
+ServerConnection::~ServerConnection()
+{
+    httpClose(http_);
+}
+
+void ServerConnection::expectAnswer()
+{
+    deadline_ = std::chrono::steady_clock::now() + server_.patience;
+}
+
+int ServerConnection::WaitLonger(http_t*, void* connection)
+{
+    auto& self = *static_cast<ServerConnection*>(connection);
+    if (self.cancellation_.requested() || std::chrono::steady_clock::now() >= self.deadline_)
+        self.gaveUp_ = true;
+    return self.gaveUp_ ? 0 : 1;
+}
+
+QString ServerConnection::problem() const
+{
+    if (!http_ || gaveUp_ || httpError(http_) != 0 || cupsLastError() == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE)
+        return ServerSilentMessage(server_);
+    if (cupsLastError() == IPP_STATUS_ERROR_BAD_REQUEST)
+        return u"%1 does not understand this program: add '/version=1.1' to server name."_s.arg(ServerName(server_));
+    if (cupsLastError() == IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED ||
+        cupsLastError() == IPP_STATUS_ERROR_NOT_AUTHORIZED || cupsLastError() == IPP_STATUS_ERROR_NOT_AUTHENTICATED)
+        return u"%1 asks for a password or does not let you print. Ask who runs it for access."_s.arg(
+            ServerName(server_));
+    return u"%1 says: %2"_s.arg(ServerName(server_), QString::fromUtf8(cupsLastErrorString()));
+}
+
+} // namespace kesta::host
