@@ -33,6 +33,15 @@ void SetMenu(PopupButton* popup, Menu menu)
         popup->setMenu(std::move(menu));
 }
 
+// One field of the row ends where the others of the panel do, two have its whole width.
+void ShareRow(const QWidget& row, bool isShared)
+{
+    for (QWidget* widget : row.findChildren<QWidget*>()) {
+        if (widget->property("look").toString() == QLatin1StringView("trailing"))
+            widget->setVisible(!isShared);
+    }
+}
+
 // Stapling and holes share a row; the row of neither is left out.
 void AppendOfficeFinishing(QWidget& target, QWidget& window, const FinishingAccessories& accessories, int& offset)
 {
@@ -44,6 +53,7 @@ void AppendOfficeFinishing(QWidget& target, QWidget& window, const FinishingAcce
         AppendViewFromWindowAndUnpack(*row, window, {kSignature, kStaplingView}, heightOfRow);
     if (accessories.hasPunch)
         AppendViewFromWindowAndUnpack(*row, window, {kSignature, kPunchView}, heightOfRow);
+    ShareRow(*row, accessories.hasStapler && accessories.hasPunch);
     AppendViewFromWindowAndUnpack(target, window, {kSignature, kOfficeFinishingRow}, offset);
 }
 

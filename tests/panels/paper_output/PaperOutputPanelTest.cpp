@@ -149,7 +149,7 @@ TEST_F(PaperOutputPanelTest, ThePaperMenuChangesTheJobsPaper)
         return static_cast<int>(std::ranges::find(items, value, &MenuItem::value) - items.begin()) + 1;
     };
     EXPECT_TRUE(paper->chooseItem(colors, position(colors, 3)));
-    EXPECT_EQ(text(kPaperSummary), u"- Yellow\n- Printer default"_s);
+    EXPECT_EQ(text(kPaperSummary), u"- Yellow\n- Printer default type"_s);
     EXPECT_EQ(picture(kPaperPicture), u"Paper_Plain-Yellow.gif"_s);
 
     options().separatorCount = kSeparatorsBlank;
