@@ -7,6 +7,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace kesta {
 namespace {
 
@@ -16,6 +18,12 @@ QSize WantedSize(const QWidget& window)
     if (window.layout()->hasHeightForWidth())
         size.setHeight(window.layout()->totalHeightForWidth(size.width()));
     return size;
+}
+
+bool HasFields(const QWidget& content)
+{
+    const QList<QWidget*> widgets = content.findChildren<QWidget*>();
+    return std::ranges::any_of(widgets, [](const QWidget* widget) { return widget->focusPolicy() & Qt::TabFocus; });
 }
 
 // The layout and all that is in it, in an area as wide as it asks for.
@@ -30,7 +38,8 @@ QScrollArea* MakeScrolling(QWidget& window)
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->viewport()->setAutoFillBackground(false);
     scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setFocusPolicy(HasFields(*content) ? Qt::NoFocus : Qt::TabFocus); // the arrow keys scroll mere text
+    scroll->setAccessibleName(window.windowTitle());
     scroll->setMinimumWidth(content->sizeHint().width() + scroll->verticalScrollBar()->sizeHint().width());
     return scroll;
 }
