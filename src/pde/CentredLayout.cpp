@@ -44,18 +44,23 @@ QLayoutItem* CentredLayout::takeAt(int index)
 
 QSize CentredLayout::sizeHint() const
 {
-    QSize size;
-    for (const auto& item : items_)
-        size = size.expandedTo(item->sizeHint());
-    return size;
+    return roomFor(&QLayoutItem::sizeHint);
 }
 
 QSize CentredLayout::minimumSize() const
 {
-    QSize size;
-    for (const auto& item : items_)
-        size = size.expandedTo(item->minimumSize());
-    return size;
+    return roomFor(&QLayoutItem::minimumSize);
+}
+
+QSize CentredLayout::roomFor(QSize (QLayoutItem::*needed)() const) const
+{
+    QSize room(0, 0);
+    for (const auto& item : items_) {
+        const QSize size = (item.get()->*needed)();
+        const bool isShown = item->widget() && !item->widget()->isHidden();
+        room = room.expandedTo({size.width(), isShown ? size.height() : 0});
+    }
+    return room;
 }
 
 void CentredLayout::setGeometry(const QRect& room)

@@ -8,8 +8,9 @@
 namespace kesta::shell {
 
 // Puts all its widgets at the same place: they fill the room that there is. Where there is less than they need, they
-// keep their smallest size, and what is cut off is their right side and, evenly, top and bottom. Hidden widgets count,
-// so that nothing jumps when another is shown.
+// keep their smallest size, and what is cut off is their right side and, evenly, top and bottom. Hidden widgets count
+// for the width, so that the window stays as wide when another is shown, but not for the height: only a panel that is
+// too high itself scrolls.
 class CentredLayout : public QLayout {
 public:
     explicit CentredLayout(QWidget& parent);
@@ -25,6 +26,8 @@ public:
     void setGeometry(const QRect& room) override;
 
 private:
+    QSize roomFor(QSize (QLayoutItem::*needed)() const) const;
+
     std::vector<std::unique_ptr<QLayoutItem>> items_;
 };
 

@@ -8,12 +8,17 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScreen>
 
 namespace kesta {
 namespace {
 
 constexpr QSize kWindowSize{620, 520}; // points
-constexpr int kDeepestFolder = 6;      // of a page below the start page
+constexpr int kMargin = 16;
+constexpr int kBandSpacing = 12;
+constexpr char kPageStyle[] = "h1 { font-size: x-large; margin-top: 0; } h2 { font-size: large; }"
+                              "p, li, td { line-height: 130%; } p, li { margin-top: 4px; margin-bottom: 4px; }";
+constexpr int kDeepestFolder = 6; // of a page below the start page
 
 // The start page of the book that the page belongs to; empty without one.
 QUrl StartPage(const QUrl& page)
@@ -37,6 +42,9 @@ QPushButton* MakeButton(const char* context, const char* text)
 HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent)
 {
     setOpenLinks(true);
+    setFrameShape(QFrame::NoFrame);
+    document()->setDocumentMargin(kMargin);
+    document()->setDefaultStyleSheet(QLatin1StringView(kPageStyle));
     setAccessibleName(QCoreApplication::translate("QShortcut", "Help"));
 }
 
@@ -59,7 +67,7 @@ HelpWindow::HelpWindow(QWidget* parent) : QWidget(parent, Qt::Window), browser_(
 {
     setObjectName(QStringLiteral("Help"));
     setAttribute(Qt::WA_DeleteOnClose);
-    resize(kWindowSize);
+    resize(screen() ? kWindowSize.boundedTo(screen()->availableSize()) : kWindowSize);
     QPushButton* back = MakeButton("QFileDialog", "Back");
     QPushButton* close = MakeButton("QPlatformTheme", "Close");
     back->setEnabled(false);
@@ -69,8 +77,14 @@ HelpWindow::HelpWindow(QWidget* parent) : QWidget(parent, Qt::Window), browser_(
     connect(browser_, &QTextBrowser::sourceChanged, this, [this] { setWindowTitle(browser_->documentTitle()); });
 
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     auto* buttons = new QHBoxLayout;
+    buttons->setContentsMargins(kMargin, kBandSpacing, kMargin, kMargin);
+    auto* hairline = new QFrame;
+    hairline->setFrameShape(QFrame::HLine);
     layout->addWidget(browser_);
+    layout->addWidget(hairline);
     layout->addLayout(buttons);
     buttons->addWidget(back);
     buttons->addStretch();

@@ -16,9 +16,8 @@ struct Bundle;
 // In the file: texts (also tool tips, placeholders, titles of tabs and columns) are keys of the bundle's default table;
 // the key stays on the widget as its dynamic property "localizableKey". `controlSignature` (four characters, on the
 // root) and `controlNumber` make a widget a control; `menuCommand` (four characters) is a button's command; `picture` a
-// picture view's or button's file; `look` see KestaStyle.h; `unsaidValue` see SummaryTextView.h. The standard buttons
-// OK, Cancel and Help of a button box carry their commands. Where no button is the default one, the one of kCommandOK
-// becomes it.
+// picture view's or button's file; `look` see KestaStyle.h. The standard buttons OK, Cancel and Help of a button box
+// carry their commands. Where no button is the default one, the one of kCommandOK becomes it.
 //
 // In the window: buttons send hits and commands; fields, spin fields, combo boxes, tabs and lists what their headers
 // say; controls send key events; a control without an accessible name has that of its label; trailing widgets are of

@@ -7,6 +7,7 @@
 class QStyleOptionButton;
 class QStyleOptionHeader;
 class QStyleOptionMenuItem;
+class QStyleOptionSlider;
 class QStyleOptionTab;
 
 namespace kesta {
@@ -15,6 +16,8 @@ namespace kesta {
 inline constexpr int kTextInset = 8;
 inline constexpr int kArrowWidth = 28;
 inline constexpr int kStepperWidth = 24;
+inline constexpr int kSliderHandle = 16;
+inline constexpr int kScrollBarWidth = 12;
 
 // What InstallKestaStyle installs. Sizes and looks are in KestaStyle.cpp, drawing in KestaStyleControls.cpp and
 // KestaStyleMenus.cpp.
@@ -40,12 +43,16 @@ public:
                      const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+    bool eventFilter(QObject* watched, QEvent* event) override; // of the application
 
 private:
+    void followPalette();
+    void underlineShortcuts(bool underlined); // as long as Alt is held
     void drawButtonLabel(const QStyleOptionButton& button, QPainter& painter, const QWidget* widget) const;
     bool drawFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
 
     const bool ownPalette_;
+    bool shortcutsUnderlined_ = false;
 };
 
 // The look property of a widget, empty without one.
@@ -54,6 +61,9 @@ QByteArray LookOf(const QWidget* widget);
 void DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter);
 QSize MenuItemSize(const QStyleOptionMenuItem& item, const QSize& contents);
 void DrawHeaderSection(const QStyleOptionHeader& section, QPainter& painter);
+void DrawSlider(const QStyleOptionSlider& slider, QPainter& painter, const QRect& handle);
+void DrawScrollBar(const QStyleOptionSlider& bar, QPainter& painter, const QRect& handle);
+QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part);
 void DrawTab(const QStyleOptionTab& tab, QPainter& painter);
 
 } // namespace kesta

@@ -3,10 +3,14 @@
 #include "toolkit/KestaProxyStyle.h"
 
 #include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QFrame>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QScrollArea>
 #include <QStyleOption>
+#include <QTextBrowser>
 
 #include <algorithm>
 #include <utility>
@@ -94,12 +98,12 @@ void ApplyLook(QWidget& widget, const QByteArray& look)
     }
 }
 
-// A label goes by the direction of its text; beside its control it must go by that of the window.
-void AlignByWindow(QLabel& label)
+// Labels and numbers go by the direction of their text; beside their controls and arrows they must go by the window's.
+template <class Aligned> void AlignByWindow(Aligned& widget)
 {
-    const Qt::Alignment alignment = label.alignment();
-    if (label.isRightToLeft() && alignment & Qt::AlignLeft && !(alignment & Qt::AlignAbsolute))
-        label.setAlignment((alignment & Qt::AlignVertical_Mask) | Qt::AlignRight | Qt::AlignAbsolute);
+    const Qt::Alignment alignment = widget.alignment();
+    if (widget.isRightToLeft() && alignment & Qt::AlignLeft && !(alignment & Qt::AlignAbsolute))
+        widget.setAlignment((alignment & Qt::AlignVertical_Mask) | Qt::AlignRight | Qt::AlignAbsolute);
 }
 
 void PolishAgain(QWidget& widget)
@@ -109,21 +113,13 @@ void PolishAgain(QWidget& widget)
     widget.update();
 }
 
-// Colours of looks are mixes of the palette's, so they follow it.
-class PaletteFollower : public QObject {
-public:
-    using QObject::QObject;
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::ApplicationPaletteChange && watched == QCoreApplication::instance()) {
-            for (QWidget* widget : QApplication::allWidgets()) {
-                if (!LookOf(widget).isEmpty())
-                    PolishAgain(*widget);
-            }
-        }
-        return false;
-    }
-};
+// Whether a scroll bar is that of a page, which has margins, not of a list.
+bool IsInPage(const QWidget* bar)
+{
+    const QWidget* container = bar ? bar->parentWidget() : nullptr;
+    const QWidget* scrolled = container ? container->parentWidget() : nullptr;
+    return qobject_cast<const QScrollArea*>(scrolled) || qobject_cast<const QTextBrowser*>(scrolled);
+}
 
 int ControlHeight(const QStyleOption* option)
 {
@@ -166,7 +162,7 @@ void InstallKestaStyle(QApplication& application)
     const bool dark = wished ? scheme == "dark" : ColorsOf(before).dark;
     if (!installed) {
         QApplication::setStyle(new KestaProxyStyle(own));
-        application.installEventFilter(new PaletteFollower(application.style()));
+        application.installEventFilter(application.style());
     }
     if (own)
         QApplication::setPalette(OwnPalette(dark));
@@ -180,6 +176,8 @@ void KestaProxyStyle::polish(QWidget* widget)
     ApplyLook(*widget, LookOf(widget));
     if (auto* label = qobject_cast<QLabel*>(widget))
         AlignByWindow(*label);
+    else if (auto* number = qobject_cast<QAbstractSpinBox*>(widget))
+        AlignByWindow(*number);
     if (widget->focusPolicy() != Qt::NoFocus)
         widget->setAttribute(Qt::WA_Hover);
 }
@@ -187,6 +185,44 @@ void KestaProxyStyle::polish(QWidget* widget)
 void KestaProxyStyle::unpolish(QWidget* widget)
 {
     QProxyStyle::unpolish(widget);
+}
+
+// Colours of looks are mixes of the palette's, so they follow it.
+void KestaProxyStyle::followPalette()
+{
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (!LookOf(widget).isEmpty())
+            PolishAgain(*widget);
+    }
+}
+
+void KestaProxyStyle::underlineShortcuts(bool underlined)
+{
+    if (std::exchange(shortcutsUnderlined_, underlined) == underlined)
+        return;
+    for (QWidget* widget : QApplication::allWidgets())
+        widget->update();
+}
+
+bool KestaProxyStyle::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::ApplicationPaletteChange:
+        if (watched == QCoreApplication::instance())
+            followPalette();
+        break;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt)
+            underlineShortcuts(event->type() == QEvent::KeyPress);
+        break;
+    case QEvent::WindowDeactivate: // where the release would go unseen
+        underlineShortcuts(false);
+        break;
+    default:
+        break;
+    }
+    return false;
 }
 
 int KestaProxyStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -198,6 +234,8 @@ int KestaProxyStyle::styleHint(StyleHint hint, const QStyleOption* option, const
     case SH_DitherDisabledText:
     case SH_ComboBox_Popup: // a list below the field, not a menu over it
         return 0;
+    case SH_UnderlineShortcut:
+        return shortcutsUnderlined_;
     case SH_DialogButtonLayout:
         if (ownPalette_) // no desktop that has an order of its own
             return 3;    // QDialogButtonBox::GnomeLayout
@@ -229,6 +267,13 @@ int KestaProxyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_SmallIconSize:
     case PM_SliderLength:
         return LookOf(widget) == "tile" ? 48 : kIndicator;
+    case PM_SliderThickness:
+    case PM_SliderControlThickness:
+        return kSliderHandle;
+    case PM_ScrollBarExtent:
+        return kScrollBarWidth;
+    case PM_ScrollView_ScrollBarOverlap: // in the page's own margin, so that nothing gets narrower
+        return IsInPage(widget) ? kScrollBarWidth : 0;
     case PM_MenuPanelWidth:
         return 1;
     case PM_MenuVMargin:
@@ -275,6 +320,9 @@ QSize KestaProxyStyle::sizeFromContents(ContentsType type, const QStyleOption* o
         return {size.width() + kTextInset + kStepperWidth, ControlHeight(option)};
     case CT_LineEdit:
         return {size.width() + 2 * kTextInset, ControlHeight(option)};
+    case CT_CheckBox:
+    case CT_RadioButton: // room for the focus ring
+        return QProxyStyle::sizeFromContents(type, option, size, widget) + QSize(kTextInset, 4);
     case CT_MenuItem:
         if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
             return MenuItemSize(*item, size);

@@ -8,7 +8,6 @@
 #include <QStyleOption>
 
 #include <algorithm>
-#include <cmath>
 
 namespace kesta {
 namespace {
@@ -16,8 +15,6 @@ namespace {
 constexpr int kProgressHeight = 6;   // points
 constexpr int kInvalidMarkSize = 16; // points, of the mark inside an invalid field
 constexpr double kBoxRadius = 4;
-constexpr double kHandleSize = 16; // of a slider; the base style's handle is as wide
-constexpr double kGrooveHeight = 4;
 
 bool IsEnabled(const QStyleOption& option)
 {
@@ -38,13 +35,6 @@ bool IsDefaultButton(const QStyleOption& option)
 {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
     return button && button->features & QStyleOptionButton::DefaultButton && IsEnabled(option);
-}
-
-QColor Touched(const QColor& color, const QStyleOption& option, const QColor& toward)
-{
-    if (option.state & QStyle::State_Sunken)
-        return Mix(color, toward, 0.12);
-    return option.state & QStyle::State_MouseOver && IsEnabled(option) ? Mix(color, toward, 0.04) : color;
 }
 
 // Buttons, pop-ups, segments, tiles.
@@ -133,40 +123,13 @@ void DrawProgress(const QStyleOptionProgressBar& bar, QPainter& painter)
     const int steps = bar.maximum - bar.minimum;
     const QColor tint = Mix(colors.pane, colors.accent, 0.3);
     DrawOutlined(painter, groove, steps > 0 ? colors.hairline : tint, steps > 0 ? colors.hairline : tint,
-                 kProgressHeight / 2);
+                 kProgressHeight / 2.0);
     if (steps <= 0 || bar.progress <= bar.minimum)
         return;
     QRect full = groove;
     full.setWidth(static_cast<int>(qint64{groove.width()} * (bar.progress - bar.minimum) / steps));
     DrawOutlined(painter, QStyle::visualRect(bar.direction, groove, full), colors.accent, colors.accent,
-                 kProgressHeight / 2);
-}
-
-// A groove that is filled from 0, or from the end nearest to it, to the handle.
-void DrawSlider(const QStyleOptionSlider& slider, QPainter& painter, const QRect& handle)
-{
-    const KestaColors colors = CurrentColors();
-    const bool enabled = IsEnabled(slider);
-    const double middle = slider.rect.center().y() + 0.5;
-    const QRectF groove(slider.rect.left() + kHandleSize / 2, middle - kGrooveHeight / 2,
-                        slider.rect.width() - kHandleSize, kGrooveHeight);
-    const int zero = std::clamp(0, slider.minimum, slider.maximum);
-    const double share = double(zero - slider.minimum) / std::max(1, slider.maximum - slider.minimum);
-    const double origin = groove.left() + groove.width() * (slider.upsideDown ? 1 - share : share);
-    const double at = handle.center().x() + 0.5;
-    const QRectF filled(std::min(origin, at), groove.top(), std::abs(at - origin), kGrooveHeight);
-
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(enabled ? colors.border : colors.hairline);
-    painter.drawRoundedRect(groove, kGrooveHeight / 2, kGrooveHeight / 2);
-    painter.setBrush(enabled ? colors.accent : colors.disabled);
-    painter.drawRoundedRect(filled, kGrooveHeight / 2, kGrooveHeight / 2);
-    painter.setPen(enabled ? colors.field : colors.hairline);
-    painter.setBrush(Touched(enabled ? colors.button : colors.pane, slider, colors.text));
-    painter.drawEllipse(QPointF(at, middle), (kHandleSize - 1) / 2, (kHandleSize - 1) / 2);
-    painter.restore();
+                 kProgressHeight / 2.0);
 }
 
 void DrawCheckBox(const QStyleOption& option, QPainter& painter)
@@ -260,6 +223,8 @@ void KestaProxyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption
         painter->setPen(CurrentColors().border);
         painter->setBrush(Qt::NoBrush);
         return painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    case PE_PanelScrollAreaCorner:
+        return painter->fillRect(option->rect, CurrentColors().base);
     default:
         break;
     }
@@ -276,6 +241,8 @@ void KestaProxyStyle::drawComplexControl(ComplexControl control, const QStyleOpt
     if (const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
         slider && control == CC_Slider && slider->orientation == Qt::Horizontal)
         return DrawSlider(*slider, *painter, subControlRect(CC_Slider, slider, SC_SliderHandle, widget));
+    if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option); bar && control == CC_ScrollBar)
+        return DrawScrollBar(*bar, *painter, subControlRect(CC_ScrollBar, bar, SC_ScrollBarSlider, widget));
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyleOption>
 
 #include <algorithm>
 #include <array>
@@ -26,6 +27,14 @@ private:
 };
 
 } // namespace
+
+QColor Touched(const QColor& color, const QStyleOption& option, const QColor& toward)
+{
+    if (option.state & QStyle::State_Sunken)
+        return Mix(color, toward, 0.12);
+    return option.state & QStyle::State_MouseOver && option.state & QStyle::State_Enabled ? Mix(color, toward, 0.04)
+                                                                                          : color;
+}
 
 void DrawOutlined(QPainter& painter, const QRect& rect, const QColor& fill, const QColor& outline, double radius)
 {

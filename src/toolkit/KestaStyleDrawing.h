@@ -4,12 +4,16 @@
 #include <QRect>
 
 class QPainter;
+class QStyleOption;
 
 namespace kesta {
 
 // Strokes of the look, in points at 1x.
 inline constexpr double kOutlineRadius = 5;
 inline constexpr double kFocusRingWidth = 2;
+
+// The colour under the mouse, and pressed.
+QColor Touched(const QColor& color, const QStyleOption& option, const QColor& toward);
 
 enum class Direction { Up, Down, Leading };
 

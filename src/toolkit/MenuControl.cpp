@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPointer>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -52,6 +53,11 @@ void MenuControl::changeItems(const std::function<void(Menu&)>& change)
 bool MenuControl::isOffered(int) const
 {
     return true;
+}
+
+int MenuControl::currentItem() const
+{
+    return 0;
 }
 
 bool MenuControl::isMarked(int, const MenuItem& item) const
@@ -129,6 +135,9 @@ void MenuControl::openMenu()
         return;
     const QPointer<QMenu> shown = new QMenu(this); // a handler may delete the control, and the menu with it
     addActions(*shown, menu_.items, {});
+    const int current = currentItem();
+    if (current >= 1 && current <= shown->actions().size())
+        QTimer::singleShot(0, shown, [shown, current] { shown->setActiveAction(shown->actions()[current - 1]); });
     ShowBelow(*shown, *this);
     delete shown;
 }

@@ -34,6 +34,7 @@ public:
 protected:
     void replaceMenu(Menu menu); // without a look at value or maximum
     virtual void menuChanged() = 0;
+    virtual int currentItem() const;            // where an open menu begins; 0 without one
     virtual bool isOffered(int position) const; // of the top level
     virtual bool isMarked(int position, const MenuItem& item) const;
     virtual void sendChosen(const MenuPath& path, const MenuItem& item) = 0; // may delete the control

@@ -32,6 +32,7 @@ public:
 protected:
     void menuChanged() override;
     bool isOffered(int position) const override { return position <= maximum_; }
+    int currentItem() const override { return value_; }
     bool isMarked(int position, const MenuItem& item) const override;
     void sendChosen(const MenuPath& path, const MenuItem& item) override;
 

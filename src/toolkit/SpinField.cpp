@@ -11,8 +11,9 @@
 namespace kesta {
 namespace {
 
-constexpr int kUsualWidth = 88;  // points
-constexpr int kMostDecimals = 9; // more than a 32-bit number has digits for
+constexpr int kUsualWidth = 88;          // points
+constexpr int kRoomBesideEmptyText = 40; // for arrows and insets
+constexpr int kMostDecimals = 9;         // more than a 32-bit number has digits for
 
 } // namespace
 
@@ -103,6 +104,7 @@ QString SpinField::emptyText() const
 void SpinField::setEmptyText(const QString& text)
 {
     lineEdit()->setPlaceholderText(text);
+    updateGeometry();
     if (text.isEmpty() && empty_)
         setNumber(0);
 }
@@ -139,7 +141,8 @@ QAbstractSpinBox::StepEnabled SpinField::stepEnabled() const
 
 QSize SpinField::sizeHint() const
 {
-    return QDoubleSpinBox::sizeHint().expandedTo({kUsualWidth, 0});
+    const QSize usual = QDoubleSpinBox::sizeHint().expandedTo({kUsualWidth, 0});
+    return usual.expandedTo({fontMetrics().horizontalAdvance(emptyText()) + kRoomBesideEmptyText, 0});
 }
 
 void SpinField::wheelEvent(QWheelEvent* event)

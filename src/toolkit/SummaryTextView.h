@@ -23,8 +23,4 @@ private:
     int lines_ = 1;
 };
 
-// What the controls below the root say of the job, in their order: each summary text, and the chosen title of each
-// pop-up whose interface file names the value that goes without saying (`unsaidValue`), unless it is that one.
-QStringList ShownSummaries(const QWidget& root);
-
 } // namespace kesta

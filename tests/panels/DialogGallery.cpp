@@ -1,8 +1,9 @@
-// Saves a picture of every dialog of the panels, for people to look at:
+// Saves a picture of the dialogs that no dialog script gets at yet, for people to look at:
 //     dialog_gallery PLUG_IN OUT_DIR
 // KESTA_COLOR_SCHEME=dark gives dark ones, QT_SCALE_FACTOR=2 those at 2x, LC_ALL another language.
 
 #include "model/ImageShift.h"
+#include "panels/booklet_watermark/BookletDialog.h"
 #include "panels/special_pages/AdvancedStockDialog.h"
 #include "panels/special_pages/CustomStockSizeDialog.h"
 #include "panels/special_pages/PreCutTabStockSetup.h"
@@ -14,6 +15,7 @@
 #include "printer/InstallableOptions.h"
 #include "printer/PPDUtilities.h"
 #include "product/InstalledFeatures.h"
+#include "support/Accessories.h"
 #include "support/CurrentPrinter.h"
 #include "toolkit/KestaStyle.h"
 #include "toolkit/MenuButton.h"
@@ -25,6 +27,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QGridLayout>
+#include <QLocale>
 
 #include <cstdio>
 
@@ -114,6 +117,23 @@ void AddSizesAndSeparators(Gallery& gallery)
     }
 }
 
+void AddBooklets(Gallery& gallery)
+{
+    _BookletCreationParams params{
+        .fold = kBookletFoldAndStaple, .layout = kBookletLayoutOn, .drawOutlines = kDrawPageBorders, .creep = 5};
+    const auto run = [&params](const Bundle& bundle, ModalResult&) {
+        params.bundle = &bundle;
+        RunModalBookletOptionsDialog(params);
+        return noErr;
+    };
+    {
+        const test::WithFeatures fitted({u"BookletFoldKey"_s});
+        gallery.add(u"booklet-options-finishing"_s, run);
+    }
+    const test::WithFeatures none({});
+    gallery.add(u"booklet-options"_s, run);
+}
+
 // Paper icons with their summaries, and the menu's button.
 void AddPapers(Gallery& gallery, const Bundle& bundle)
 {
@@ -168,12 +188,14 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "%s\n", qUtf8Printable(loaded.error));
         return 1;
     }
+    QApplication::setLayoutDirection(QLocale(kesta::TextsLanguage(*loaded.bundle)).textDirection());
     kesta::InstallKestaStyle(*qApp);
     const kesta::test::CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
     kesta::LoadInstallableOptions(kesta::PPDGetCurrent(), kesta::InstalledFeatures);
     kesta::Gallery gallery(*loaded.bundle, QDir(QString::fromLocal8Bit(argv[2])));
     kesta::AddStockDialogs(gallery);
     kesta::AddSizesAndSeparators(gallery);
+    kesta::AddBooklets(gallery);
     kesta::AddPapers(gallery, *loaded.bundle);
     kesta::UnloadInstallableOptions();
     return gallery.isComplete() ? 0 : 1;

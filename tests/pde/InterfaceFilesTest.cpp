@@ -15,6 +15,7 @@
 #include "platform/Bundle.h"
 #include "support/TestTexts.h"
 #include "toolkit/InterfaceFile.h"
+#include "toolkit/PopupButton.h"
 #include "toolkit/SliderField.h"
 
 #include <gtest/gtest.h>
@@ -22,6 +23,7 @@
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QDirIterator>
 #include <QLabel>
@@ -199,6 +201,14 @@ protected:
     const Bundle bundle = BundleOf(interfaceFile.path());
     const std::unique_ptr<QWidget> root =
         CreateWindowFromNib(bundle, interfaceFile.fileName(), window.completeBaseName());
+
+    // As it opens.
+    void show()
+    {
+        EqualizeTrailingWidths(*root);
+        root->show();
+        QCoreApplication::sendPostedEvents();
+    }
 };
 
 TEST_P(InterfaceFileTest, KeepsToTheSpacings)
@@ -251,6 +261,54 @@ TEST_P(InterfaceFileTest, NamesEveryInputAndLetsTheKeyboardReachIt)
         EXPECT_FALSE(ControlName(*widget).isEmpty()) << name;
         EXPECT_TRUE(widget->focusPolicy() & Qt::TabFocus) << name;
         EXPECT_TRUE(reached.contains(widget)) << name;
+    }
+}
+
+QRect PlaceOf(const QWidget& widget)
+{
+    return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+}
+
+TEST_P(InterfaceFileTest, FocusGoesInReadingOrder)
+{
+    ASSERT_TRUE(root);
+    show();
+    const QWidget* previous = nullptr;
+    for (const QWidget* widget = root->nextInFocusChain(); widget != root.get(); widget = widget->nextInFocusChain()) {
+        if (!IsInput(*widget) || widget->window() != root.get())
+            continue;
+        if (previous) {
+            const QRect before = PlaceOf(*previous), here = PlaceOf(*widget);
+            EXPECT_TRUE(here.top() > before.bottom() || here.left() > before.right())
+                << widget->objectName().toStdString() << " after " << previous->objectName().toStdString();
+        }
+        previous = widget;
+    }
+}
+
+// Every text half as long again, in a large font: what a label or button asks for, it gets.
+TEST_P(InterfaceFileTest, LongTextsAreNotCutOff)
+{
+    ASSERT_TRUE(root);
+    QFont large = root->font();
+    large.setPointSize(15);
+    root->setFont(large);
+    std::vector<QWidget*> texts;
+    for (QWidget* widget : root->findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<QLabel*>(widget);
+        const auto* button = qobject_cast<QAbstractButton*>(widget);
+        const QString text = label ? label->text() : button ? button->text() : QString();
+        if (text.isEmpty() || qobject_cast<PopupButton*>(widget)) // pop-ups elide
+            continue;
+        SetControlText(widget, text + text.left(text.size() / 2 + 1));
+        texts.push_back(widget);
+    }
+    show();
+    for (const QWidget* widget : texts) {
+        const QSize least = widget->minimumSizeHint();
+        const int height = widget->hasHeightForWidth() ? widget->heightForWidth(widget->width()) : least.height();
+        EXPECT_GE(widget->height(), height) << widget->objectName().toStdString();
+        EXPECT_GE(widget->width(), least.width()) << widget->objectName().toStdString();
     }
 }
 

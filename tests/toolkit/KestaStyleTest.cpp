@@ -10,10 +10,15 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPalette>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSpinBox>
 #include <QStyle>
+#include <QStyleOption>
 
 using namespace Qt::StringLiterals;
 
@@ -139,6 +144,75 @@ TEST_F(StyleTest, LabelsStayBesideTheirControlsFromRightToLeft)
     auto* label = new QLabel(u"Latin"_s, &window);
     window.show();
     EXPECT_EQ(label->alignment() & Qt::AlignHorizontal_Mask, Qt::AlignRight | Qt::AlignAbsolute);
+}
+
+TEST_F(StyleTest, NumbersStayBesideTheirArrowsFromRightToLeft)
+{
+    install("light");
+    QSpinBox mirrored, plain;
+    mirrored.setLayoutDirection(Qt::RightToLeft);
+    mirrored.ensurePolished();
+    plain.ensurePolished();
+    EXPECT_TRUE(mirrored.alignment() & Qt::AlignRight);
+    EXPECT_TRUE(plain.alignment() & Qt::AlignLeft);
+}
+
+TEST_F(StyleTest, ShortcutsAreUnderlinedAsLongAsAltIsHeld)
+{
+    install("light");
+    QWidget window;
+    const auto areUnderlined = [] { return QApplication::style()->styleHint(QStyle::SH_UnderlineShortcut) != 0; };
+    const auto send = [&window](QEvent::Type type, int key) {
+        QKeyEvent event(type, key, Qt::NoModifier);
+        QApplication::sendEvent(&window, &event);
+    };
+    send(QEvent::KeyPress, Qt::Key_Shift);
+    EXPECT_FALSE(areUnderlined());
+    send(QEvent::KeyPress, Qt::Key_Alt);
+    EXPECT_TRUE(areUnderlined());
+    send(QEvent::KeyRelease, Qt::Key_Alt);
+    EXPECT_FALSE(areUnderlined());
+    send(QEvent::KeyPress, Qt::Key_Alt);
+    QEvent leaving(QEvent::WindowDeactivate); // to another program, where the release goes
+    QApplication::sendEvent(&window, &leaving);
+    EXPECT_FALSE(areUnderlined());
+}
+
+// Where a part of the bar lies that has the whole range, a page and a position.
+QRect ScrollBarRect(QStyle::SubControl part, int position)
+{
+    QStyleOptionSlider bar;
+    bar.rect = QRect(0, 0, 12, 200);
+    bar.orientation = Qt::Vertical;
+    bar.maximum = 300;
+    bar.pageStep = 100;
+    bar.sliderPosition = position;
+    return QApplication::style()->subControlRect(QStyle::CC_ScrollBar, &bar, part, nullptr);
+}
+
+TEST_F(StyleTest, TheHandleOfAScrollBarIsWhatIsSeenOfTheWhole)
+{
+    install("light");
+    EXPECT_EQ(ScrollBarRect(QStyle::SC_ScrollBarSlider, 0), QRect(0, 0, 12, 50));
+    EXPECT_EQ(ScrollBarRect(QStyle::SC_ScrollBarSlider, 300), QRect(0, 150, 12, 50));
+    EXPECT_EQ(ScrollBarRect(QStyle::SC_ScrollBarAddPage, 0), QRect(0, 50, 12, 150));
+    EXPECT_TRUE(ScrollBarRect(QStyle::SC_ScrollBarAddLine, 0).isEmpty());
+}
+
+TEST_F(StyleTest, AScrolledPageStaysAsWide)
+{
+    install("light");
+    QScrollArea area;
+    area.resize(200, 100);
+    auto* page = new QWidget;
+    page->setMinimumHeight(400);
+    area.setWidgetResizable(true);
+    area.setFrameShape(QFrame::NoFrame);
+    area.setWidget(page);
+    area.show();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(area.verticalScrollBar()->isVisible());
+    EXPECT_EQ(page->width(), 200);
 }
 
 } // namespace

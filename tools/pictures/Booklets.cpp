@@ -83,10 +83,11 @@ void DrawFoldedPages(Drawing& drawing, bool hasOutlines)
 
 void DrawSpine(Drawing& drawing, bool hasStaples)
 {
-    drawing.path(Polyline({{kMiddle, kTop}, {kMiddle, kTop + kPageHeight}}), Stroked(kAction, hasStaples ? 1.5 : 4));
-    if (!hasStaples)
+    if (!hasStaples) {
+        drawing.path(Polyline({{kMiddle, kTop}, {kMiddle, kTop + kPageHeight}}), Stroked(kAction, 4));
         return;
-    for (const double middle : {kTop + 14, kTop + 42})
+    }
+    for (const double middle : {kTop + 14, kTop + 42}) // on a fold of the paper's own colour, so that they stand out
         drawing.path(Polyline({{kMiddle, middle - 5}, {kMiddle, middle + 5}}), Stroked(kAction, 5));
 }
 

@@ -6,9 +6,9 @@ namespace {
 
 constexpr int kSize = 48;
 constexpr Box kSet = SheetAt(9, 8);
-constexpr double kStapleWidth = 2.75;
+constexpr double kStapleWidth = 3;
 constexpr double kStapleLength = 8;      // with its round ends
-constexpr double kShortStapleLength = 5; // where four share the edge
+constexpr double kShortStapleLength = 6; // where four share the edge
 constexpr double kStapleInset = 3.5;     // from the left edge
 constexpr double kHoleInset = 5.5;
 constexpr double kHoleInsetBesideStaples = 9;
@@ -18,7 +18,7 @@ constexpr double kHoleRadius = 2;
 using Places = std::initializer_list<double>;
 constexpr Places kTwoStaples = {11, 25};
 constexpr Places kTwoStaplesBesideThree = {12, 24};
-constexpr Places kFourStaples = {5, 13.67, 22.33, 31};
+constexpr Places kFourStaples = {6, 14, 22, 30};
 constexpr Places kTwoHoles = {12, 24};
 constexpr Places kTwoHolesBesideStaples = {13.5, 22.5};
 constexpr Places kThreeHoles = {6, 18, 30};
@@ -160,9 +160,8 @@ Drawing Booklet(bool hasLayout, bool hasStaples)
         drawing.path(Polyline({{kSpine, top}, {kSpine, bottom}}), Stroked(kAction, 3));
         return drawing;
     }
-    drawing.path(Polyline({{kSpine, top}, {kSpine, bottom}}), Stroked(kAction, 1));
-    for (const double middle : {top + 7, bottom - 6})
-        drawing.path(Polyline({{kSpine, middle - 2.5}, {kSpine, middle + 2.5}}), Stroked(kAction, 3.5));
+    for (const double middle : {top + 7, bottom - 6}) // on a fold of the paper's own colour, so that they stand out
+        drawing.path(Polyline({{kSpine, middle - 2.5}, {kSpine, middle + 2.5}}), Stroked(kAction, 4));
     return drawing;
 }
 

@@ -25,6 +25,15 @@ QString WriteScreenshot(QWidget& window, const QString& file)
     return window.grab().save(file, "PNG") ? QString() : u"%1 can't be written"_s.arg(file);
 }
 
+// A menu or a help window that was opened last.
+QWidget* WindowOver(const QWidget& front)
+{
+    if (QWidget* menu = QApplication::activePopupWidget())
+        return menu;
+    QWidget* active = QApplication::activeWindow();
+    return active && active != &front && active->objectName() == u"Help" ? active : nullptr;
+}
+
 QString WriteDump(const QByteArray& settings, const QString& file)
 {
     const std::optional<FileError> error = WriteFile(file, settings, FileAccess::OwnerOnly);
@@ -129,8 +138,8 @@ void ScriptPlayer::fail(int line, const QString& reason)
 
 QString ScriptPlayer::play(const ScriptStep& step, QWidget& front)
 {
-    QWidget* menu = QApplication::activePopupWidget();
-    QWidget& shown = menu ? *menu : front;
+    QWidget* over = WindowOver(front);
+    QWidget& shown = over ? *over : front;
     switch (step.verb) {
     case ScriptVerb::Key:
         return PressKey(shown, step.key);
@@ -141,8 +150,8 @@ QString ScriptPlayer::play(const ScriptStep& step, QWidget& front)
     default:
         break;
     }
-    if (menu) // a person can reach nothing else before
-        menu->close();
+    if (over) // a person can reach nothing else of a menu, and puts help aside
+        over->close();
     switch (step.verb) {
     case ScriptVerb::Panel:
         return ShowPanel(front, step.target, texts_);

@@ -1,7 +1,7 @@
 #include "panels/paper_output/JobTypeSetups.h"
 
 #include "panels/paper_output/DelayedPrintTime.h"
-#include "panels/paper_output/SetupDialog.h"
+#include "pde/DialogCommands.h"
 #include "platform/Clock.h"
 #include "toolkit/InterfaceFile.h"
 
@@ -52,7 +52,7 @@ OSStatus RunModalDelayedPrintSetup(const Bundle& bundle, SInt64& time)
     field->setSelectedSection(QDateTimeEdit::HourSection); // typing starts here
     const EventHandler typing = InstallTypingHandler(*field);
 
-    if (RunSetupDialog(bundle, *window, kDelayedPrintHelp, [] { return true; }) == ModalResult::OK)
+    if (RunModalDialog(bundle, *window, kDelayedPrintHelp) == ModalResult::OK)
         time = NextMomentAt(field->time().msecsSinceStartOfDay() / 1000, GetClock());
     return noErr;
 }

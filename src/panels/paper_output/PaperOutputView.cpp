@@ -13,6 +13,7 @@
 #include "toolkit/MenuButton.h"
 #include "toolkit/PictureView.h"
 #include "toolkit/SummaryTextView.h"
+#include "toolkit/WindowSummary.h"
 
 #include <QVBoxLayout>
 
@@ -32,6 +33,15 @@ void SetMenu(PopupButton* popup, Menu menu)
         popup->setMenu(std::move(menu));
 }
 
+// One field of the row ends where the others of the panel do, two have its whole width.
+void ShareRow(const QWidget& row, bool isShared)
+{
+    for (QWidget* widget : row.findChildren<QWidget*>()) {
+        if (widget->property("look").toString() == QLatin1StringView("trailing"))
+            widget->setVisible(!isShared);
+    }
+}
+
 // Stapling and holes share a row; the row of neither is left out.
 void AppendOfficeFinishing(QWidget& target, QWidget& window, const FinishingAccessories& accessories, int& offset)
 {
@@ -43,6 +53,7 @@ void AppendOfficeFinishing(QWidget& target, QWidget& window, const FinishingAcce
         AppendViewFromWindowAndUnpack(*row, window, {kSignature, kStaplingView}, heightOfRow);
     if (accessories.hasPunch)
         AppendViewFromWindowAndUnpack(*row, window, {kSignature, kPunchView}, heightOfRow);
+    ShareRow(*row, accessories.hasStapler && accessories.hasPunch);
     AppendViewFromWindowAndUnpack(target, window, {kSignature, kOfficeFinishingRow}, offset);
 }
 
@@ -114,11 +125,32 @@ void FillMenus(_PaperOutputContext& panel)
     FillDestination(panel);
 }
 
+// The window's summary leaves out what a job without settings would have.
+void AppearInSummary(const _PaperOutputContext& panel)
+{
+    PaperOutputOptions plain;
+    ReadTicket(plain, Ticket(), panel.ppd);
+    ShowInSummary(Popup(panel, kJobTypePopup), SummaryPlace::JobType, plain.jobType);
+    ShowInSummary(FindHere(panel, kPaperSummary), SummaryPlace::Paper, PaperSummary(*panel.bundle, panel.ppd, plain));
+    ShowInSummary(Popup(panel, kTwoSidedPopup), SummaryPlace::Sides, plain.duplex);
+    ShowInSummary(Popup(panel, kStaplePopup), SummaryPlace::Finishing, ChosenStaple(plain));
+    ShowInSummary(Popup(panel, kPunchPopup), SummaryPlace::Finishing, plain.punch);
+    ShowInSummary(FindHere(panel, kFinishingSummary), SummaryPlace::Finishing,
+                  CreateFinishingString(*panel.bundle, plain, panel.accessories));
+}
+
+void CopyOwnProperties(const QWidget& from, QWidget& to)
+{
+    for (const QByteArray& name : from.dynamicPropertyNames())
+        to.setProperty(name.constData(), from.property(name.constData()));
+}
+
 void DisposeSummary(QWidget* summary)
 {
     if (!summary || !summary->parentWidget()->layout())
         return;
     auto* room = new QWidget(summary->parentWidget());
+    CopyOwnProperties(*summary, *room);
     SetControlID(*room, GetControlID(*summary));
     room->setProperty("lines", summary->property("lines"));
     room->setFixedSize(summary->size());
@@ -131,6 +163,7 @@ void RestoreSummary(QWidget* room)
     if (!room || qobject_cast<SummaryTextView*>(room))
         return;
     auto* summary = new SummaryTextView(room->parentWidget());
+    CopyOwnProperties(*room, *summary);
     SetControlID(*summary, GetControlID(*room));
     summary->setLines(room->property("lines").toInt());
     summary->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -170,6 +203,7 @@ void BuildView(_PaperOutputContext& panel)
         return;
     panel.view = EmbedAndShowControl(AssembleViews(*window, panel.accessories), *panel.pane);
     FillMenus(panel);
+    AppearInSummary(panel);
 }
 
 void DisposeSummaries(_PaperOutputContext& panel)
