@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScreen>
 
 namespace kesta {
 namespace {
@@ -66,7 +67,7 @@ HelpWindow::HelpWindow(QWidget* parent) : QWidget(parent, Qt::Window), browser_(
 {
     setObjectName(QStringLiteral("Help"));
     setAttribute(Qt::WA_DeleteOnClose);
-    resize(kWindowSize);
+    resize(screen() ? kWindowSize.boundedTo(screen()->availableSize()) : kWindowSize);
     QPushButton* back = MakeButton("QFileDialog", "Back");
     QPushButton* close = MakeButton("QPlatformTheme", "Close");
     back->setEnabled(false);

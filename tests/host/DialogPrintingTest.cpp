@@ -43,22 +43,6 @@ TEST_F(DialogPrintingTest, TheJobArrivesAsItWasSet)
     EXPECT_TRUE(job->argv.contains("3: sample.pdf\n4: 2\n")) << job->argv.toStdString();
 }
 
-TEST_F(DialogPrintingTest, AServerThatDiesKeepsEverythingToTryAgain)
-{
-    int attempts = 0;
-    fake.atSyncOut = [&] { ++attempts == 1 ? server.signal(SIGKILL) : server.restart(); };
-    EXPECT_EQ(run("type Copies 3\nprint\nexpect \"Sending Failed Title\"\npress OK\nexpect-value Copies 3\nprint"), 0);
-    EXPECT_EQ(fault, QString());
-    EXPECT_EQ(calls(), u"Prologue, Initialize, Open, Sync out, Close, Terminate 0, "
-                       "Prologue, Initialize, Open, Sync out, Close, Terminate 0"_s);
-    ASSERT_TRUE(server.job(1));
-    EXPECT_FALSE(server.hasJob(2)); // nothing is sent twice
-
-    fake.atSyncOut = [&] { server.signal(SIGKILL); };
-    EXPECT_EQ(run("print\npress OK\ncancel"), 1);
-    EXPECT_EQ(fault, QString());
-}
-
 TEST_F(DialogPrintingTest, SendingCanBeStopped)
 {
     fake.atSyncOut = [&] { server.signal(SIGSTOP); };

@@ -4,6 +4,7 @@
 #include "host/dialog/PrintDialog.h"
 #include "platform/Bundle.h"
 #include "platform/SafeFile.h"
+#include "support/TestTexts.h"
 #include "toolkit/ToolkitServices.h"
 
 #include <gtest/gtest.h>

@@ -243,7 +243,7 @@ TEST(DialogSummary, LeavesOutWhatIsUsual)
 {
     const Bundle& texts = PrintBundle();
     EXPECT_EQ(SummaryLine({}, {}, texts), u"1 copy, all pages"_s);
-    EXPECT_EQ(SummaryLine({}, {QString(), u"- Blue\n- Hole punched\n"_s}, texts), u"Blue, Hole punched"_s);
+    EXPECT_EQ(SummaryLine({}, {QString(), u"Blue, Hole punched"_s}, texts), u"Blue, Hole punched"_s);
     EXPECT_EQ(
         SummaryLine(
             {.copies = 25, .pageRanges = u"1-4,7"_s, .orientation = Orientation::ReverseLandscape, .pagesPerSheet = 2},

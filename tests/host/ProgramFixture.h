@@ -25,7 +25,9 @@ protected:
         environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     }
 
-    Ended run(const QStringList& arguments, const QByteArray& input = {}) const
+    // Does something beside the program once it was started.
+    Ended run(const QStringList& arguments, const QByteArray& input = {},
+              const std::function<void()>& beside = {}) const
     {
         QProcess program;
         program.setProcessEnvironment(environment);
@@ -35,6 +37,10 @@ protected:
         program.start(QStringLiteral(KESTA_PRINT), arguments);
         program.write(input);
         program.closeWriteChannel();
+        program.waitForStarted(30'000);
+        program.waitForBytesWritten(30'000);
+        if (beside)
+            beside();
         const bool ended = program.waitForFinished(30'000) && program.exitStatus() == QProcess::NormalExit;
         return {.status = ended ? program.exitCode() : -1,
                 .output = QString::fromUtf8(program.readAllStandardOutput()),

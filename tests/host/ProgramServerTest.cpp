@@ -3,7 +3,14 @@
 #include "host/PrivateServer.h"
 #include "host/ProgramFixture.h"
 
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QThread>
+
 #include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -16,10 +23,33 @@ using kesta::test::ProgramTest;
 class ProgramServerTest : public ProgramTest {
 protected:
     // A job for the server's default queue.
-    Ended print(const QByteArray& script, const QStringList& more = {}) const
+    Ended print(const QByteArray& script, const QString& file = QStringLiteral(SAMPLE),
+                const std::function<void()>& beside = {}) const
     {
-        const QStringList arguments{u"-h"_s, server.address(), u"--script"_s, u"-"_s};
-        return run(arguments + more + QStringList{QStringLiteral(SAMPLE)}, script);
+        return run({u"-h"_s, server.address(), u"--script"_s, u"-"_s, u"-d"_s, u"Kesta"_s, file}, script, beside);
+    }
+
+    static bool waitFor(const std::function<bool()>& condition)
+    {
+        for (QDeadlineTimer deadline(20'000); !deadline.hasExpired(); QThread::msleep(5)) {
+            if (condition())
+                return true;
+        }
+        return false;
+    }
+
+    // Waits until the program wants to read the pipe, so it has found its printer; then this happens, and then the pipe
+    // has its document. The next attempt finds a pipe of its own.
+    static void feed(const QByteArray& pipe, const std::function<void()>& before)
+    {
+        int descriptor = -1;
+        ASSERT_TRUE(
+            waitFor([&] { return (descriptor = ::open(pipe.constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC)) >= 0; }));
+        ASSERT_TRUE(::unlink(pipe.constData()) == 0 && ::mkfifo(pipe.constData(), 0600) == 0);
+        before();
+        const QByteArray document = "%!PS\nshowpage\n";
+        EXPECT_EQ(::write(descriptor, document.constData(), static_cast<size_t>(document.size())), document.size());
+        ::close(descriptor);
     }
 
     PrivateServer server;
@@ -31,6 +61,47 @@ TEST_F(ProgramServerTest, AServerThatIsGoneLeavesAWindowToTryAgainIn)
     const Ended ended = print("expect \"No Server Title\"\ntype Copies 3\npress \"Try Again\"\n"
                               "expect \"No Server Title\"\nexpect-value Copies 3\ncancel");
     EXPECT_EQ(ended.status, 0) << ended.errors.toStdString();
+}
+
+TEST_F(ProgramServerTest, AServerThatDiesBeforeTheJobLeavesEverythingToPrintOnce)
+{
+    const QString pipe = folder.filePath(u"pipe.ps"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const Ended ended =
+        print("type Copies 3\nchoose \"Two Sided Printing:\" =2\nprint\nexpect \"Sending Failed Title\"\n"
+              "expect \"Nothing was printed\"\npress OK\nexpect-value Copies 3\n"
+              "expect-value \"Two Sided Printing:\" =2\nprint",
+              pipe, [&] {
+                  feed(QFile::encodeName(pipe), [&] { server.signal(SIGKILL); });
+                  feed(QFile::encodeName(pipe), [&] { server.restart(); });
+              });
+    EXPECT_EQ(ended.status, 0) << ended.errors.toStdString();
+    EXPECT_EQ(ended.output, u"request id is Kesta-1 (1 file(s))\n"_s);
+    EXPECT_EQ(ended.errors.count(u"Nothing was printed"_s), 1) << ended.errors.toStdString();
+    const auto job = server.job(1);
+    ASSERT_TRUE(job);
+    EXPECT_TRUE(job->argv.contains("\n4: 3\n")) << job->argv.toStdString();
+    EXPECT_TRUE(job->options.contains("Duplex=DuplexNoTumble")) << job->options.toStdString();
+    EXPECT_EQ(server.jobState(2), 0) << "nothing is sent twice";
+}
+
+TEST_F(ProgramServerTest, AServerThatDiesWithinTheJobEndsItWithOne)
+{
+    QFile large(folder.filePath(u"large.ps"_s));
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(qint64(1) << 30)); // takes no room, but time to send
+    large.close();
+    const Ended ended = print("type Copies 3\nprint\nexpect \"Sending Failed Title\"\nexpect \"could not be sent\"\n"
+                              "press OK\nexpect-value Copies 3\ncancel",
+                              large.fileName(), [&] {
+                                  EXPECT_TRUE(waitFor([&] { return server.jobState(1) != 0; }));
+                                  server.signal(SIGKILL);
+                              });
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_EQ(ended.output, QString());
+    EXPECT_TRUE(ended.errors.contains(u"look whether it is there (lpstat -o)"_s)) << ended.errors.toStdString();
+    server.restart();
+    EXPECT_EQ(server.jobState(2), 0) << "nothing is sent twice";
+    EXPECT_FALSE(server.hasJob(1));
 }
 
 TEST_F(ProgramServerTest, AQueueThatTakesNoJobsAsksFirst)

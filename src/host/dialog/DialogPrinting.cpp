@@ -67,7 +67,7 @@ std::optional<Alert> QueueQuestion(const Queue& queue, const Bundle& texts)
 
 EventResult PrintDialog::print()
 {
-    if (isBusy() || !printer_)
+    if (finder_.isBusy() || sending_ || !printer_)
         return EventResult::Handled;
     if (!fields_->checkPages() || !acceptQueue())
         return EventResult::Swallowed;

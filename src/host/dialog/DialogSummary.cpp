@@ -8,19 +8,6 @@ using namespace Qt::StringLiterals;
 namespace kesta::host {
 namespace {
 
-QString PanelPhrase(const QString& summary)
-{
-    QStringList facts;
-    for (QString fact : summary.split(u'\n', Qt::SkipEmptyParts)) {
-        fact = fact.trimmed();
-        if (fact.startsWith(u"- "_s))
-            fact = fact.sliced(2).trimmed();
-        if (!fact.isEmpty())
-            facts << fact;
-    }
-    return facts.join(u", "_s);
-}
-
 QString CopiesAndPages(const HostSettings& settings, const Bundle& texts)
 {
     QStringList facts;
@@ -35,15 +22,14 @@ QString CopiesAndPages(const HostSettings& settings, const Bundle& texts)
 
 } // namespace
 
-QString SummaryLine(const HostSettings& settings, const QStringList& panelSummaries, const Bundle& texts)
+QString SummaryLine(const HostSettings& settings, const QStringList& panelPhrases, const Bundle& texts)
 {
     QStringList phrases{CopiesAndPages(settings, texts)};
     if (settings.pagesPerSheet > 1)
         phrases << PrintText(texts, "Per Sheet Summary").arg(settings.pagesPerSheet);
     if (settings.orientation == Orientation::Landscape || settings.orientation == Orientation::ReverseLandscape)
         phrases << PrintText(texts, "Landscape Summary");
-    for (const QString& summary : panelSummaries)
-        phrases << PanelPhrase(summary);
+    phrases += panelPhrases;
     phrases.removeAll(QString());
     return phrases.isEmpty() ? PrintText(texts, "Default Summary") : phrases.join(u" \u00B7 "_s);
 }

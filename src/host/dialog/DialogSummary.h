@@ -10,8 +10,8 @@ struct Bundle;
 
 namespace kesta::host {
 
-// The window's summary in one line: copies, pages and layout as far as they differ from the default, then each panel's
-// summary. A panel's lines, each with a dash before it, become one phrase.
-QString SummaryLine(const HostSettings& settings, const QStringList& panelSummaries, const Bundle& texts);
+// The window's summary in one line: copies, pages and layout as far as they differ from the default, then what the
+// panels say.
+QString SummaryLine(const HostSettings& settings, const QStringList& panelPhrases, const Bundle& texts);
 
 } // namespace kesta::host

@@ -8,6 +8,7 @@
 #include "platform/SafeFile.h"
 #include "toolkit/InterfaceFile.h"
 #include "toolkit/ModalLoop.h"
+#include "toolkit/WindowSummary.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -207,10 +208,13 @@ QByteArray PrintDialog::jobSettings() const
 
 QString PrintDialog::summaryText()
 {
-    QStringList panels;
-    for (const PaneSummary& summary : pane_ ? pane_->summaries() : std::vector<PaneSummary>())
-        panels << summary.text;
-    return SummaryLine(fields_->settings(), panels, *start_.texts);
+    QStringList phrases;
+    if (pane_) {
+        phrases = WindowSummary(paneArea_->host());
+        for (const PaneSummary& summary : pane_->summaries())
+            phrases << SummaryFacts(summary.text).join(u", "_s);
+    }
+    return SummaryLine(fields_->settings(), phrases, *start_.texts);
 }
 
 void PrintDialog::updateSummary()

@@ -40,7 +40,7 @@ public:
     int run();
 
     QWidget& window() override { return *window_; }
-    bool isBusy() const override { return finder_.isBusy() || sending_.has_value(); }
+    bool isBusy() const override { return finder_.isBusy() || finder_.isListing() || sending_.has_value(); }
     bool syncPane(bool toControls) override;
     QByteArray jobSettings() const override;
     QString summaryText() override;

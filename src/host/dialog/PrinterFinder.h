@@ -37,8 +37,9 @@ public:
     void choose(int position); // in queues(), from 1
 
     const std::vector<Queue>& queues() const { return list_.queues; }
-    int position() const; // of the chosen printer in queues(), from 1; 0 while there is none
-    bool isBusy() const { return busy_; }
+    int position() const;                 // of the chosen printer in queues(), from 1; 0 while there is none
+    bool isBusy() const { return busy_; } // about the wanted printer
+    bool isListing() const { return listTask_.has_value() && !hasList_; } // the others are not known yet
 
 private:
     void find(const QString& name);

@@ -13,6 +13,7 @@
 #include "toolkit/MenuButton.h"
 #include "toolkit/PictureView.h"
 #include "toolkit/SummaryTextView.h"
+#include "toolkit/WindowSummary.h"
 
 #include <QVBoxLayout>
 
@@ -124,11 +125,32 @@ void FillMenus(_PaperOutputContext& panel)
     FillDestination(panel);
 }
 
+// The window's summary leaves out what a job without settings would have.
+void AppearInSummary(const _PaperOutputContext& panel)
+{
+    PaperOutputOptions plain;
+    ReadTicket(plain, Ticket(), panel.ppd);
+    ShowInSummary(Popup(panel, kJobTypePopup), SummaryPlace::JobType, plain.jobType);
+    ShowInSummary(FindHere(panel, kPaperSummary), SummaryPlace::Paper, PaperSummary(*panel.bundle, panel.ppd, plain));
+    ShowInSummary(Popup(panel, kTwoSidedPopup), SummaryPlace::Sides, plain.duplex);
+    ShowInSummary(Popup(panel, kStaplePopup), SummaryPlace::Finishing, ChosenStaple(plain));
+    ShowInSummary(Popup(panel, kPunchPopup), SummaryPlace::Finishing, plain.punch);
+    ShowInSummary(FindHere(panel, kFinishingSummary), SummaryPlace::Finishing,
+                  CreateFinishingString(*panel.bundle, plain, panel.accessories));
+}
+
+void CopyOwnProperties(const QWidget& from, QWidget& to)
+{
+    for (const QByteArray& name : from.dynamicPropertyNames())
+        to.setProperty(name.constData(), from.property(name.constData()));
+}
+
 void DisposeSummary(QWidget* summary)
 {
     if (!summary || !summary->parentWidget()->layout())
         return;
     auto* room = new QWidget(summary->parentWidget());
+    CopyOwnProperties(*summary, *room);
     SetControlID(*room, GetControlID(*summary));
     room->setProperty("lines", summary->property("lines"));
     room->setFixedSize(summary->size());
@@ -141,6 +163,7 @@ void RestoreSummary(QWidget* room)
     if (!room || qobject_cast<SummaryTextView*>(room))
         return;
     auto* summary = new SummaryTextView(room->parentWidget());
+    CopyOwnProperties(*room, *summary);
     SetControlID(*summary, GetControlID(*room));
     summary->setLines(room->property("lines").toInt());
     summary->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -178,6 +201,7 @@ void BuildView(_PaperOutputContext& panel)
         return;
     panel.view = EmbedAndShowControl(AssembleViews(*window, panel.accessories), *panel.pane);
     FillMenus(panel);
+    AppearInSummary(panel);
 }
 
 void DisposeSummaries(_PaperOutputContext& panel)

@@ -1,0 +1,39 @@
+#include "toolkit/WindowSummary.h"
+
+#include "support/TestTexts.h"
+#include "toolkit/PopupButton.h"
+#include "toolkit/SummaryTextView.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta {
+namespace {
+
+TEST(WindowSummary, TellsWhatIsNotTheDefaultInItsOrder)
+{
+    QWidget window;
+    auto* panel = new QWidget(&window);
+    auto* view = new SummaryTextView(panel);
+    auto* holes = new PopupButton(panel);
+    auto* sides = new PopupButton(panel);
+    for (PopupButton* popup : {holes, sides})
+        popup->setMenu({.items = {{.title = u"None"_s, .value = 5}, {.title = u"Two"_s, .value = 7}}});
+    ShowInSummary(holes, SummaryPlace::Finishing, 5);
+    ShowInSummary(sides, SummaryPlace::Sides, 5);
+    ShowInSummary(view, SummaryPlace::Finishing, u"- No staples\n- No fold\n"_s);
+    ShowInSummary(static_cast<PopupButton*>(nullptr), SummaryPlace::Paper, 5);
+
+    view->setText(u"- No staples\n- Folded\nKind: own"_s);
+    EXPECT_EQ(WindowSummary(window), (QStringList{u"Folded, Kind: own"_s}));
+    holes->setValue(2);
+    sides->setValue(2);
+    EXPECT_EQ(WindowSummary(window), (QStringList{u"Two"_s, u"Folded, Kind: own, Two"_s}));
+    holes->hide();
+    panel->hide(); // another one is in front
+    EXPECT_EQ(WindowSummary(window), (QStringList{u"Two"_s, u"Folded, Kind: own"_s}));
+}
+
+} // namespace
+} // namespace kesta
