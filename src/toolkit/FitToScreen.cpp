@@ -8,6 +8,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace kesta {
 namespace {
 
@@ -28,6 +30,12 @@ int WidthOfBar(const QScrollArea& scroll)
     return bar->sizeHint().width() - bar->style()->pixelMetric(QStyle::PM_ScrollView_ScrollBarOverlap, nullptr, bar);
 }
 
+bool HasFields(const QWidget& content)
+{
+    const QList<QWidget*> widgets = content.findChildren<QWidget*>();
+    return std::ranges::any_of(widgets, [](const QWidget* widget) { return widget->focusPolicy() & Qt::TabFocus; });
+}
+
 // The layout and all that is in it, in an area as wide as it asks for.
 QScrollArea* MakeScrolling(QWidget& window)
 {
@@ -39,7 +47,8 @@ QScrollArea* MakeScrolling(QWidget& window)
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->viewport()->setAutoFillBackground(false);
     scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setFocusPolicy(HasFields(*content) ? Qt::NoFocus : Qt::TabFocus); // the arrow keys scroll mere text
+    scroll->setAccessibleName(window.windowTitle());
     scroll->setMinimumWidth(content->sizeHint().width() + WidthOfBar(*scroll));
     return scroll;
 }

@@ -31,18 +31,6 @@ protected:
     PrivateServer server;
 };
 
-TEST_F(DialogPrintingTest, TheJobArrivesAsItWasSet)
-{
-    EXPECT_EQ(run("type Copies 2\ntype Pages 1\nchoose \"Per Sheet\" 4\nprint"), 0);
-    EXPECT_EQ(fault, QString());
-    EXPECT_EQ(calls(), u"Prologue, Initialize, Open, Sync out, Close, Terminate 0"_s);
-    const auto job = server.job(1);
-    ASSERT_TRUE(job);
-    for (const char* option : {"page-ranges=1", "number-up=4", "com.kesta.print.ticket.1="})
-        EXPECT_TRUE(job->options.contains(option)) << option << " in " << job->options.toStdString();
-    EXPECT_TRUE(job->argv.contains("3: sample.pdf\n4: 2\n")) << job->argv.toStdString();
-}
-
 TEST_F(DialogPrintingTest, SendingCanBeStopped)
 {
     fake.atSyncOut = [&] { server.signal(SIGSTOP); };

@@ -2,12 +2,10 @@
 
 #include "host/PrintDialogFixture.h"
 #include "host/dialog/DialogSummary.h"
-#include "host/dialog/PrintDialogControls.h"
 #include "platform/FileChooser.h"
 #include "platform/SafeFile.h"
 #include "support/PPDVariant.h"
 #include "support/TestTexts.h"
-#include "toolkit/Controls.h"
 #include "toolkit/ToolkitServices.h"
 
 #include <gtest/gtest.h>
@@ -20,7 +18,6 @@ namespace kesta::host {
 namespace {
 
 using kesta::test::PPDVariant;
-using test::FakePlugIn;
 using test::PrintBundle;
 using test::PrintDialogTest;
 
@@ -113,20 +110,8 @@ TEST_F(PrintDialogTest, SaysWhyThereIsNoPaneAndPrintsAllTheSame)
     EXPECT_EQ(fault, QString());
     EXPECT_EQ(calls(), u"Prologue, Initialize, Terminate -9530"_s);
     EXPECT_TRUE(QFile::exists(options.saveSettingsPath));
-
-    PPDVariant ppd;
-    ppd.replaceLines("*Manufacturer:", "*Manufacturer: \"KESTA\"");
-    options.ppdPath = ppd.path();
-    EXPECT_EQ(run("expect \"Other Maker Message\"\nexpect KESTA\ncancel"), 0);
-    EXPECT_EQ(fault, QString());
-
     plugIn.reset();
     EXPECT_EQ(run("expect \"The plug-in is missing.\"\nprint"), 0);
-    EXPECT_EQ(fault, QString());
-
-    plugIn = FakePlugIn::door();
-    options.ppdPath = folder.filePath(u"none.ppd"_s);
-    EXPECT_EQ(run("expect \"No Description Message\"\ncancel"), 0);
     EXPECT_EQ(fault, QString());
 }
 
@@ -199,44 +184,6 @@ TEST_F(PrintDialogTest, TypedPagesAreOfferedNextTime)
     EXPECT_EQ(run("type Pages \"2-5\"\nprint"), 0);
     EXPECT_EQ(run("expect-value Pages All\nchoose Pages \"2-5\"\nexpect-value Pages \"2-5\"\ncancel"), 0);
     EXPECT_EQ(fault, QString());
-}
-
-TEST_F(PrintDialogTest, AMissingServerIsSaidInTheWindow)
-{
-    options.ppdPath.clear();
-    options.server = folder.filePath(u"no-server"_s);
-    EXPECT_EQ(run("expect \"No Server Title\"\npress \"Try Again\"\nexpect \"No Server Title\"\nexpect-enabled #9024 "
-                  "no\ncancel"),
-              0);
-    EXPECT_EQ(fault, QString());
-    EXPECT_EQ(calls(), QString());
-}
-
-TEST_F(PrintDialogTest, TheFocusGoesInReadingOrder)
-{
-    PrintDialog dialog({.commandLine = options, .texts = &PrintBundle(), .plugIn = {plugIn, {}}, .scripted = true});
-    ASSERT_FALSE(dialog.prepare());
-    ASSERT_FALSE(ParseDialogScript("cancel").steps.empty());
-    const ScriptPlayer player(ParseDialogScript("cancel"), dialog, [](const QString&) { return QStringList(); });
-    dialog.run();
-
-    const QWidget& window = dialog.window();
-    std::vector<SInt32> order;
-    for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
-        const SInt32 number = GetControlID(*next).number;
-        const bool isReached = next->focusPolicy() & Qt::TabFocus && next->isVisibleTo(&window);
-        if (number && isReached && !next->accessibleName().isEmpty())
-            order.push_back(number);
-    }
-    const std::vector<SInt32> expected{kPrinterChoice,  kCopiesField,     kPagesField,
-                                       kPerSheetChoice, kPortraitSegment, kLandscapeSegment};
-    ASSERT_GE(order.size(), expected.size());
-    EXPECT_TRUE(std::equal(expected.begin(), expected.end(), order.begin()));
-    for (const QWidget* control : window.findChildren<QWidget*>()) {
-        const bool isReached = control->focusPolicy() & Qt::TabFocus;
-        const bool isOurs = GetControlID(*control).signature == kPrintSignature;
-        EXPECT_FALSE(isOurs && isReached && ControlName(*control).isEmpty()) << control->objectName().toStdString();
-    }
 }
 
 TEST(DialogSummary, LeavesOutWhatIsUsual)

@@ -211,8 +211,6 @@ TEST_F(PrintingTest, SaysWhatIsMissing)
     const std::vector<Row> rows{
         {{u"-dNowhere"_s, QLatin1StringView(SAMPLE)}, "The printer or class does not exist"},
         {{u"-dPlain"_s, QLatin1StringView(SAMPLE)}, "not accepting"},
-        {{u"/no/such"_s}, "unable to access \"/no/such\" - No such file or directory"},
-        {{u"/"_s}, "unable to access \"/\" - Is a directory"},
         {{QLatin1StringView(SAMPLE), u"/dev/null"_s}, "\"/dev/null\" is empty"},
         {{u"--settings"_s, QLatin1StringView(SAMPLE), QLatin1StringView(SAMPLE)}, "sample.pdf: "},
         {{u"--settings"_s, u"/no/such"_s, QLatin1StringView(SAMPLE)}, "/no/such"},

@@ -59,7 +59,7 @@ TEST_F(ProgramServerTest, AServerThatIsGoneLeavesAWindowToTryAgainIn)
 {
     server.signal(SIGKILL);
     const Ended ended = print("expect \"No Server Title\"\ntype Copies 3\npress \"Try Again\"\n"
-                              "expect \"No Server Title\"\nexpect-value Copies 3\ncancel");
+                              "expect \"No Server Title\"\nexpect-value Copies 3\nexpect-enabled Print no\ncancel");
     EXPECT_EQ(ended.status, 0) << ended.errors.toStdString();
 }
 
@@ -67,21 +67,22 @@ TEST_F(ProgramServerTest, AServerThatDiesBeforeTheJobLeavesEverythingToPrintOnce
 {
     const QString pipe = folder.filePath(u"pipe.ps"_s);
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    const Ended ended =
-        print("type Copies 3\nchoose \"Two Sided Printing:\" =2\nprint\nexpect \"Sending Failed Title\"\n"
-              "expect \"Nothing was printed\"\npress OK\nexpect-value Copies 3\n"
-              "expect-value \"Two Sided Printing:\" =2\nprint",
-              pipe, [&] {
-                  feed(QFile::encodeName(pipe), [&] { server.signal(SIGKILL); });
-                  feed(QFile::encodeName(pipe), [&] { server.restart(); });
-              });
+    const Ended ended = print("type Copies 3\ntype Pages 1\nchoose \"Per Sheet\" 4\nchoose \"Two Sided Printing:\" "
+                              "=2\nprint\nexpect \"Sending Failed Title\"\n"
+                              "expect \"Nothing was printed\"\npress OK\nexpect-value Copies 3\n"
+                              "expect-value \"Two Sided Printing:\" =2\nprint",
+                              pipe, [&] {
+                                  feed(QFile::encodeName(pipe), [&] { server.signal(SIGKILL); });
+                                  feed(QFile::encodeName(pipe), [&] { server.restart(); });
+                              });
     EXPECT_EQ(ended.status, 0) << ended.errors.toStdString();
     EXPECT_EQ(ended.output, u"request id is Kesta-1 (1 file(s))\n"_s);
     EXPECT_EQ(ended.errors.count(u"Nothing was printed"_s), 1) << ended.errors.toStdString();
     const auto job = server.job(1);
     ASSERT_TRUE(job);
     EXPECT_TRUE(job->argv.contains("\n4: 3\n")) << job->argv.toStdString();
-    EXPECT_TRUE(job->options.contains("Duplex=DuplexNoTumble")) << job->options.toStdString();
+    for (const char* option : {"page-ranges=1", "number-up=4", "Duplex=DuplexNoTumble", "com.kesta.print.ticket.1="})
+        EXPECT_TRUE(job->options.contains(option)) << option << " in " << job->options.toStdString();
     EXPECT_EQ(server.jobState(2), 0) << "nothing is sent twice";
 }
 

@@ -106,22 +106,6 @@ TEST_F(SubmissionTest, InterruptedJobsAreCancelledAndNeverSentTwice)
     EXPECT_FALSE(cups.hasJob(1) || cups.hasJob(2));
 }
 
-TEST_F(SubmissionTest, SaysSoWhenTheServerDiesWhileSending)
-{
-    const PrintJob job = largeJob();
-    const SubmissionResult result = SubmitJob(server, job, cancellation, midway([this] { cups.signal(SIGKILL); }));
-    EXPECT_FALSE(result.sent());
-    EXPECT_TRUE(result.message.contains(cups.address()) && result.message.contains(u"went away"_s) &&
-                result.message.contains(u"Plain-1 could not be cancelled"_s))
-        << result.message.toStdString();
-    const SubmissionResult again = SubmitJob(server, job, cancellation);
-    EXPECT_TRUE(again.message.contains(u"does not answer"_s) && again.message.contains(u"Plain"_s))
-        << again.message.toStdString();
-    cups.restart();
-    EXPECT_TRUE(SubmitJob(server, largeJob(1000), cancellation).sent());
-    EXPECT_FALSE(cups.hasJob(1));
-}
-
 TEST_F(SubmissionTest, ASilentServerEndsEveryWait)
 {
     const PrintJob job = largeJob();
