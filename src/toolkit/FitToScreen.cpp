@@ -1,6 +1,7 @@
 #include "toolkit/FitToScreen.h"
 
 #include <QDialogButtonBox>
+#include <QFrame>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -12,12 +13,21 @@
 namespace kesta {
 namespace {
 
+constexpr QMargins kBandMargins{16, 12, 16, 16}; // points
+
 QSize WantedSize(const QWidget& window)
 {
     QSize size = window.sizeHint().expandedTo(window.minimumSizeHint());
     if (window.layout()->hasHeightForWidth())
         size.setHeight(window.layout()->totalHeightForWidth(size.width()));
     return size;
+}
+
+// What a scroll bar takes of the width.
+int WidthOfBar(const QScrollArea& scroll)
+{
+    const QScrollBar* bar = scroll.verticalScrollBar();
+    return bar->sizeHint().width() - bar->style()->pixelMetric(QStyle::PM_ScrollView_ScrollBarOverlap, nullptr, bar);
 }
 
 bool HasFields(const QWidget& content)
@@ -33,14 +43,13 @@ QScrollArea* MakeScrolling(QWidget& window)
     auto* content = new QWidget;
     scroll->setWidget(content);
     content->setLayout(window.layout()); // with its widgets
-    content->layout()->setContentsMargins(0, 0, 0, 0);
     content->setAutoFillBackground(false);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->viewport()->setAutoFillBackground(false);
     scroll->setWidgetResizable(true);
     scroll->setFocusPolicy(HasFields(*content) ? Qt::NoFocus : Qt::TabFocus); // the arrow keys scroll mere text
     scroll->setAccessibleName(window.windowTitle());
-    scroll->setMinimumWidth(content->sizeHint().width() + scroll->verticalScrollBar()->sizeHint().width());
+    scroll->setMinimumWidth(content->sizeHint().width() + WidthOfBar(*scroll));
     return scroll;
 }
 
@@ -51,10 +60,18 @@ void ScrollAllButButtons(QWidget& window)
         window.layout()->removeWidget(buttons);
     QScrollArea* scroll = MakeScrolling(window);
     auto* layout = new QVBoxLayout(&window);
-    layout->setSpacing(16);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     layout->addWidget(scroll);
-    if (buttons)
-        layout->addWidget(buttons);
+    if (!buttons)
+        return;
+    auto* hairline = new QFrame;
+    hairline->setFrameShape(QFrame::HLine);
+    auto* band = new QVBoxLayout;
+    band->setContentsMargins(kBandMargins);
+    band->addWidget(buttons);
+    layout->addWidget(hairline);
+    layout->addLayout(band);
 }
 
 } // namespace

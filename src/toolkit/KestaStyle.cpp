@@ -8,6 +8,7 @@
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QScrollArea>
 #include <QStyleOption>
 #include <QTextBrowser>
@@ -113,12 +114,16 @@ void PolishAgain(QWidget& widget)
     widget.update();
 }
 
-// Whether a scroll bar is that of a page, which has margins, not of a list.
-bool IsInPage(const QWidget* bar)
+// Whether a scroll bar is that of a page that has a margin for it, not of a list.
+bool LiesInMargin(const QWidget* bar)
 {
     const QWidget* container = bar ? bar->parentWidget() : nullptr;
     const QWidget* scrolled = container ? container->parentWidget() : nullptr;
-    return qobject_cast<const QScrollArea*>(scrolled) || qobject_cast<const QTextBrowser*>(scrolled);
+    if (const auto* text = qobject_cast<const QTextBrowser*>(scrolled))
+        return text->document()->documentMargin() >= kScrollBarWidth;
+    const auto* area = qobject_cast<const QScrollArea*>(scrolled);
+    const QLayout* page = area && area->widget() ? area->widget()->layout() : nullptr;
+    return page && page->contentsMargins().right() >= kScrollBarWidth;
 }
 
 int ControlHeight(const QStyleOption* option)
@@ -272,8 +277,8 @@ int KestaProxyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
         return kSliderHandle;
     case PM_ScrollBarExtent:
         return kScrollBarWidth;
-    case PM_ScrollView_ScrollBarOverlap: // in the page's own margin, so that nothing gets narrower
-        return IsInPage(widget) ? kScrollBarWidth : 0;
+    case PM_ScrollView_ScrollBarOverlap: // so that nothing gets narrower
+        return LiesInMargin(widget) ? kScrollBarWidth : 0;
     case PM_MenuPanelWidth:
         return 1;
     case PM_MenuVMargin:

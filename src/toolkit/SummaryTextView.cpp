@@ -29,6 +29,12 @@ QSize SummaryTextView::sizeHint() const
     return withRoom(QLabel::sizeHint());
 }
 
+// What layouts go by, as the lines wrap.
+int SummaryTextView::heightForWidth(int width) const
+{
+    return withRoom({width, QLabel::heightForWidth(width)}).height();
+}
+
 QSize SummaryTextView::minimumSizeHint() const
 {
     constexpr int kLongestWord = 40; // what is longer is no word and must not widen the window

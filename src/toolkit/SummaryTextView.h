@@ -17,6 +17,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
 private:
     QSize withRoom(QSize size) const;

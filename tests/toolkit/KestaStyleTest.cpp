@@ -19,6 +19,7 @@
 #include <QSpinBox>
 #include <QStyle>
 #include <QStyleOption>
+#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -206,6 +207,7 @@ TEST_F(StyleTest, AScrolledPageStaysAsWide)
     area.resize(200, 100);
     auto* page = new QWidget;
     page->setMinimumHeight(400);
+    auto* layout = new QVBoxLayout(page);
     area.setWidgetResizable(true);
     area.setFrameShape(QFrame::NoFrame);
     area.setWidget(page);
@@ -213,6 +215,10 @@ TEST_F(StyleTest, AScrolledPageStaysAsWide)
     QCoreApplication::processEvents();
     EXPECT_TRUE(area.verticalScrollBar()->isVisible());
     EXPECT_EQ(page->width(), 200);
+    layout->setContentsMargins(0, 0, 0, 0); // no room for the bar
+    area.resize(220, 100);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(page->width(), 220 - area.verticalScrollBar()->width());
 }
 
 } // namespace

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QVBoxLayout>
+
 using namespace Qt::StringLiterals;
 
 namespace kesta {
@@ -33,6 +35,22 @@ TEST(WindowSummary, TellsWhatIsNotTheDefaultInItsOrder)
     holes->hide();
     panel->hide(); // another one is in front
     EXPECT_EQ(WindowSummary(window), (QStringList{u"Two"_s, u"Folded, Kind: own"_s}));
+}
+
+TEST(SummaryTextView, KeepsRoomForItsUsualLines)
+{
+    QWidget panel;
+    auto* column = new QVBoxLayout(&panel);
+    auto* row = new QHBoxLayout;
+    auto* view = new SummaryTextView;
+    column->addLayout(row);
+    column->addStretch();
+    row->addWidget(view);
+    view->setLines(3);
+    view->setText(u"- one"_s);
+    panel.resize(200, 400);
+    panel.show();
+    EXPECT_GE(view->height(), 3 * view->fontMetrics().height());
 }
 
 } // namespace
