@@ -20,8 +20,7 @@ TEST_F(ProgramTest, PlaysAScriptWithoutADisplayAndSavesTheSame)
         play("panel Advanced\nchoose \"Mirrored Output:\" Enabled\nsync to-tickets\ndump dump.plist\nsummary\nprint",
              {u"--save-settings"_s, u"saved.plist"_s, u"-n"_s, u"2"_s});
     EXPECT_EQ(first.status, 0) << first.errors.toStdString();
-    EXPECT_EQ(first.output,
-              u"2 copies · Printer default color, Printer default type · No staples, No holes, No fold\n"_s);
+    EXPECT_EQ(first.output, u"2 copies\n"_s);
     EXPECT_EQ(first.errors, QString());
     QFile saved(folder.filePath(u"saved.plist"_s));
     QFile dump(folder.filePath(u"dump.plist"_s));
