@@ -90,9 +90,13 @@ protected:
         }
     }
 
-    // Numbers that no control shows: they come out as they came in.
-    const QStringList carried{u"com.kesta.print.FinishingBindValue"_s, u"com.kesta.print.FinishingOffset"_s,
-                              u"com.kesta.print.FinishingOffsetEnableSubset"_s, u"com.kesta.print.FinishingOptions"_s,
+    // Numbers that no control shows, or whose pop-up keeps its choice: they come out as they came in.
+    const QStringList carried{u"com.kesta.print.AdvancedBookletLayoutOrderStr"_s,
+                              u"com.kesta.print.BannerPage"_s,
+                              u"com.kesta.print.FinishingBindValue"_s,
+                              u"com.kesta.print.FinishingOffset"_s,
+                              u"com.kesta.print.FinishingOffsetEnableSubset"_s,
+                              u"com.kesta.print.FinishingOptions"_s,
                               u"com.kesta.print.FinishingSlipSheet"_s};
     const QStringList keys =
         InSources(u"\"(com\\.[^\"]+)\""_s, {u"pde/TicketKeys.h"_s, u"host/settings/HostTickets.h"_s});
