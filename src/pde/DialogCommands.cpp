@@ -22,9 +22,12 @@ EventResult HandleDialogCommand(const Bundle& bundle, QWidget& window, FourCharC
     }
 }
 
-ModalResult RunModalDialog(const Bundle& bundle, QWidget& window, const QString& helpPage)
+ModalResult RunModalDialog(const Bundle& bundle, QWidget& window, const QString& helpPage,
+                           const std::function<bool()>& accepts)
 {
     const EventHandler commands = InstallEventHandler(window, [&](const CommandEvent& event) {
+        if (event.command == kCommandOK && accepts && !accepts())
+            return EventResult::Handled;
         return HandleDialogCommand(bundle, window, event.command, helpPage);
     });
     return RunModalLoop(window);

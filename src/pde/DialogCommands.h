@@ -3,6 +3,8 @@
 #include "toolkit/ControlEvent.h"
 #include "toolkit/ModalLoop.h"
 
+#include <functional>
+
 namespace kesta {
 
 struct Bundle;
@@ -10,7 +12,8 @@ struct Bundle;
 // What the buttons that every dialog has do: OK and Cancel end the dialog, Help opens the page of the bundle's book.
 EventResult HandleDialogCommand(const Bundle& bundle, QWidget& window, FourCharCode command, const QString& helpPage);
 
-// Runs a dialog that needs no more than that.
-ModalResult RunModalDialog(const Bundle& bundle, QWidget& window, const QString& helpPage);
+// Runs a dialog whose buttons do no more than that; where OK may be refused, only once it is accepted.
+ModalResult RunModalDialog(const Bundle& bundle, QWidget& window, const QString& helpPage,
+                           const std::function<bool()>& accepts = {});
 
 } // namespace kesta

@@ -123,13 +123,13 @@ void DrawProgress(const QStyleOptionProgressBar& bar, QPainter& painter)
     const int steps = bar.maximum - bar.minimum;
     const QColor tint = Mix(colors.pane, colors.accent, 0.3);
     DrawOutlined(painter, groove, steps > 0 ? colors.hairline : tint, steps > 0 ? colors.hairline : tint,
-                 kProgressHeight / 2);
+                 kProgressHeight / 2.0);
     if (steps <= 0 || bar.progress <= bar.minimum)
         return;
     QRect full = groove;
     full.setWidth(static_cast<int>(qint64{groove.width()} * (bar.progress - bar.minimum) / steps));
     DrawOutlined(painter, QStyle::visualRect(bar.direction, groove, full), colors.accent, colors.accent,
-                 kProgressHeight / 2);
+                 kProgressHeight / 2.0);
 }
 
 void DrawCheckBox(const QStyleOption& option, QPainter& painter)

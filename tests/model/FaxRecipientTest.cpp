@@ -1,5 +1,6 @@
 #include "model/FaxProperties.h"
 #include "model/FaxRecipientList.h"
+#include "model/Stored.h"
 
 #include <gtest/gtest.h>
 
@@ -37,7 +38,7 @@ TEST(FaxRecipient, EveryFieldSurvivesTheTicket)
                               {"Mailbox", "12"},
                               {"UID", "id-1"}};
     EXPECT_EQ(recipient.toTicket(), expected);
-    EXPECT_EQ(FaxRecipient(expected).toTicket(), expected);
+    EXPECT_EQ(FaxRecipient(*test::Stored(expected).dictionary()).toTicket(), expected);
     EXPECT_EQ(FaxRecipient(recipient).toTicket(), expected);
 
     recipient.fromTicket({{"FirstName", "Bo"}, {"LastName", Number::Index(1)}});
@@ -115,7 +116,7 @@ TEST(FaxRecipientList, DuplicatesHaveTheSameNamesAndNumber)
 TEST(FaxRecipientList, TheTicketKeepsTheOrder)
 {
     const Array ticket{Dictionary{{"FirstName", "Ann"}}, Dictionary(), Dictionary{{"FirstName", "Bo"}}};
-    FaxRecipientList list(ticket);
+    FaxRecipientList list(*test::Stored(ticket).array());
     EXPECT_EQ(list.toTicket(), ticket);
     list.fromTicket({Value("damaged"), Dictionary{{"FirstName", Array()}, {"Mailbox", "3"}}});
     EXPECT_EQ(list.toTicket(), (Array{Dictionary{{"Mailbox", "3"}}}));

@@ -138,6 +138,8 @@ TEST(ExceptionPageList, UpdatingSplitsAgain)
     EXPECT_EQ(list.indexOfPage(old), 1) << "the old page is back";
     EXPECT_EQ(list.add({nullptr}), kMissingArgument);
     EXPECT_EQ(list.count(), 3u);
+    const ExceptionPage exception;
+    EXPECT_EQ(InsertList().add({&exception}), kMissingArgument);
 }
 
 TEST(ExceptionPageList, PagesOfTheListItselfCanBeAdded)
@@ -189,16 +191,6 @@ std::vector<SInt32> Names(const InsertList& list)
     for (CFIndex index = 0; const SpecialPage* page = list.pageAtIndex(index); ++index)
         names.push_back(dynamic_cast<const Insert&>(*page).quantity());
     return names;
-}
-
-TEST(InsertList, OrdersByStartPageThenByAdding)
-{
-    InsertList list;
-    Add(list, {{5, 1}, {3, 2}, {5, 3}, {0, 4}});
-    Add(list, {{5, 5}, {4, 6}, {3, 7}, {9, 8}});
-    EXPECT_EQ(Names(list), (std::vector<SInt32>{4, 2, 7, 6, 1, 3, 5, 8}));
-    const ExceptionPage other;
-    EXPECT_EQ(list.add({&other}), kMissingArgument);
 }
 
 TEST(InsertList, PlacesEachBeforeTheFirstThatStartsBehindIt)

@@ -1,5 +1,6 @@
 #include "panels/advanced/AdvancedPanel.h"
 
+#include "panels/PanelFixture.h"
 #include "panels/advanced/AboutDialog.h"
 #include "panels/advanced/AdvancedMaps.h"
 #include "pde/MenuUtilities.h"
@@ -8,51 +9,22 @@
 #include "printer/InstallableOptions.h"
 #include "product/InstalledFeatures.h"
 #include "support/Accessories.h"
-#include "support/CurrentPrinter.h"
-#include "support/TestTexts.h"
-#include "support/User.h"
-#include "toolkit/PictureView.h"
 
-#include <gtest/gtest.h>
-
-#include <QCoreApplication>
-#include <QKeyEvent>
 #include <QLabel>
 
 namespace kesta::advanced {
 namespace {
 
-// The panel in a pane, over a session with an empty print-settings ticket, driven through its ten slots.
-class AdvancedPanelTest : public testing::Test {
+Bundle Texts()
+{
+    Bundle bundle = test::BundleWithAllTexts();
+    bundle.info.set("CFBundleShortVersionString", "1.2.3");
+    return bundle;
+}
+
+class AdvancedPanelTest : public test::PanelTest {
 protected:
-    AdvancedPanelTest()
-    {
-        Bundle bundle = test::BundleWithTexts({"Advanced", "On", "Off", "Enabled", "Disabled", "None"});
-        bundle.strings.dictionary("Localizable")->set("About Version", "Version %1");
-        bundle.info.set("CFBundleShortVersionString", "1.2.3");
-        LoadBundle(kPlugInIdentifier, std::move(bundle));
-        PMSessionSetDataInSession(session, kPMPrintSettingsTicket, ticket.reference());
-
-        const PanelInterfaceHolder* holder = nullptr;
-        GetAdvancedPanelInterface(&holder);
-        slots = holder->table;
-        slots->Prologue(&prologue);
-    }
-    ~AdvancedPanelTest() override { slots->Terminate(prologue.context, noErr); }
-    void open()
-    {
-        ASSERT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session), noErr);
-        ASSERT_EQ(slots->Open(prologue.context), noErr);
-    }
-    PopupButton* popup(Control number) { return FindPopupButton(&pane, {kSignature, number}); }
-    OSStatus sync(bool toControls) { return slots->Sync(prologue.context, &session, toControls); }
-
-    test::CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
-    PrintSession& session = printer.session;
-    Ticket ticket;
-    QWidget pane;
-    const PanelInterface* slots = nullptr;
-    KestaPrologue prologue{};
+    AdvancedPanelTest() : PanelTest(GetAdvancedPanelInterface, kSignature, Texts()) {}
 };
 
 TEST_F(AdvancedPanelTest, WhatTheUserPicksReachesTheTicketAndComesBack)
@@ -92,7 +64,7 @@ TEST_F(AdvancedPanelTest, TheOffsetIsHiddenOnASimpleCatchTrayButStillWritten)
     const test::WithFeatures fitted({QStringLiteral("SimpleCatchTrayKey")});
     open();
     EXPECT_TRUE(popup(kRequestOffsetPopup)->isHidden());
-    EXPECT_TRUE(FindControl(&pane, {kSignature, kRequestOffsetLabel})->isHidden());
+    EXPECT_TRUE(control(kRequestOffsetLabel)->isHidden());
     EXPECT_FALSE(popup(kMirrorPopup)->isHidden());
     ASSERT_EQ(sync(false), noErr);
     EXPECT_EQ(PPDCopyCurrentChoice(ticket, "Jog"), QStringLiteral("None"));
@@ -102,7 +74,7 @@ TEST_F(AdvancedPanelTest, SyncWorksBeforeThereAreControls)
 {
     const TicketWriter writer(ticket, kPrintingManagerClient);
     WriteTicketValue(writer, key::PrintingOptimization, 1);
-    ASSERT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session), noErr);
+    ASSERT_EQ(initialize(), noErr);
     ticket.remove(kPrintingManagerClient, key::PrintingOptimization);
     ASSERT_EQ(sync(false), noErr);
     EXPECT_EQ(ReadTicketValue(ticket, key::PrintingOptimization), 1);
@@ -136,15 +108,8 @@ TEST_F(AdvancedPanelTest, WhatIsMissingIsAnsweredWithItsStatus)
 TEST_F(AdvancedPanelTest, WithoutADialogBehindItTheWebLinksButtonIsOutOfView)
 {
     open();
-    EXPECT_TRUE(FindControl(&pane, {kSignature, kWebLinksButton})->isHidden());
-    EXPECT_FALSE(FindControl(&pane, {kSignature, kAboutButton})->isHidden());
-}
-
-TEST_F(AdvancedPanelTest, TheHandlerPassesEveryEventOn)
-{
-    open();
-    for (QWidget* control : {popup(kMirrorPopup), popup(kBannerPopup)})
-        EXPECT_EQ(SendControlEvent(*control, HitEvent{.value = 1, .ticketValue = 1}), EventResult::NotHandled);
+    EXPECT_TRUE(control(kWebLinksButton)->isHidden());
+    EXPECT_FALSE(control(kAboutButton)->isHidden());
 }
 
 TEST_F(AdvancedPanelTest, OpenedAgainItKeepsItsControls)
@@ -166,7 +131,7 @@ TEST_F(AdvancedPanelTest, AboutNamesThePrinterAndWhatIsFitted)
     };
     test::ModalUser user;
     user.then([&](QWidget& window) {
-        EXPECT_EQ(text(window, about::kVersionText), QStringLiteral("Version 1.2.3"));
+        EXPECT_EQ(text(window, about::kVersionText), QStringLiteral("About Version 1.2.3"));
         EXPECT_EQ(text(window, about::kModelText), QStringLiteral("Kesta Veltra 4100-4200-4300"));
         EXPECT_EQ(text(window, about::kAccessoriesText),
                   QStringLiteral("Paper feeder: High-capacity feeder\n"
@@ -177,21 +142,8 @@ TEST_F(AdvancedPanelTest, AboutNamesThePrinterAndWhatIsFitted)
         EXPECT_EQ(picture->picture(), QStringLiteral("Mimic_ED_Westmarch_HiCap-LtProd+Fold.gif"));
         test::Press(window, kCommandOK);
     });
-    ClickControl(FindControl(&pane, {kSignature, kAboutButton}));
+    ClickControl(control(kAboutButton));
     UnloadInstallableOptions();
-}
-
-TEST_F(AdvancedPanelTest, EscapeClosesAboutAndNothingFittedReadsSo)
-{
-    open();
-    test::ModalUser user;
-    user.then([](QWidget& window) {
-        const auto* label = qobject_cast<QLabel*>(FindControl(&window, {about::kSignature, about::kAccessoriesText}));
-        EXPECT_EQ(label->text(), QStringLiteral("None"));
-        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-        QCoreApplication::sendEvent(&window, &escape);
-    });
-    ClickControl(FindControl(&pane, {kSignature, kAboutButton}));
 }
 
 } // namespace

@@ -1,17 +1,13 @@
 #include "panels/color_options/ColorOptionsPanel.h"
 
+#include "panels/PanelFixture.h"
 #include "panels/color_options/ColorMenus.h"
 #include "panels/color_options/SwatchStrip.h"
 #include "pde/MenuUtilities.h"
 #include "pde/TicketKeys.h"
-#include "support/TestTexts.h"
-#include "support/User.h"
-#include "toolkit/PictureView.h"
 #include "toolkit/SliderField.h"
 #include "toolkit/SpinField.h"
 #include "toolkit/TextInput.h"
-
-#include <gtest/gtest.h>
 
 #include <QImage>
 #include <QPainter>
@@ -22,25 +18,14 @@ using namespace Qt::StringLiterals;
 namespace kesta::color {
 namespace {
 
-// The panel in a pane, over a session with an empty print-settings ticket, driven through its slots.
-class ColorOptionsPanelTest : public testing::Test {
+class ColorOptionsPanelTest : public test::PanelTest {
 protected:
     ColorOptionsPanelTest()
+        : PanelTest(GetColorOptionPanelInterface, kSignature,
+                    Bundle{.resourcesPath = QStringLiteral(TEST_RESOURCES "/../ColorOptions"), .strings = {}},
+                    kColorOptionsIdentifier)
     {
-        LoadBundle(kColorOptionsIdentifier,
-                   Bundle{.resourcesPath = QStringLiteral(TEST_RESOURCES "/../ColorOptions"), .strings = {}});
         LoadBundle(kPlugInIdentifier, test::BundleWithTexts({}));
-        PMSessionSetDataInSession(session, kPMPrintSettingsTicket, ticket.reference());
-        const PanelInterfaceHolder* holder = nullptr;
-        GetColorOptionPanelInterface(&holder);
-        slots = holder->table;
-        slots->Prologue(&prologue);
-    }
-    ~ColorOptionsPanelTest() override { slots->Terminate(prologue.context, noErr); }
-    void open()
-    {
-        ASSERT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session), noErr);
-        ASSERT_EQ(slots->Open(prologue.context), noErr);
     }
     template <class Widget> Widget& control(Control number)
     {
@@ -48,8 +33,6 @@ protected:
         EXPECT_TRUE(found) << number;
         return *found;
     }
-    PopupButton* popup(Control number) { return FindPopupButton(&pane, {kSignature, number}); }
-    OSStatus sync(bool toControls) { return slots->Sync(prologue.context, &session, toControls); }
     Dictionary stored() const
     {
         const Dictionary* found = ticket.values().dictionary(key::FullColorOptions);
@@ -63,12 +46,7 @@ protected:
         });
     }
 
-    PrintSession session;
-    Ticket ticket;
-    QWidget pane;
     test::ModalUser user;
-    const PanelInterface* slots = nullptr;
-    KestaPrologue prologue{};
 };
 
 TEST_F(ColorOptionsPanelTest, WhatTheUserSetsReachesTheTicketAndComesBack)
@@ -101,19 +79,6 @@ TEST_F(ColorOptionsPanelTest, WhatTheUserSetsReachesTheTicketAndComesBack)
     EXPECT_TRUE(control<QWidget>(kResetButton).isEnabled());
 }
 
-TEST_F(ColorOptionsPanelTest, TheDirectionsGoWithTrapping)
-{
-    open();
-    const auto enabled = [&] {
-        return control<SpinField>(kFastDirection).isEnabled() && control<SpinField>(kSlowDirection).isEnabled();
-    };
-    EXPECT_FALSE(enabled());
-    EXPECT_TRUE(test::Pick(popup(kTrapping), 1));
-    EXPECT_TRUE(enabled());
-    EXPECT_TRUE(test::Pick(popup(kTrapping), 0));
-    EXPECT_FALSE(enabled());
-}
-
 TEST_F(ColorOptionsPanelTest, ANameIsAskedForAndShown)
 {
     open();
@@ -132,17 +97,6 @@ TEST_F(ColorOptionsPanelTest, ANameIsAskedForAndShown)
     EXPECT_TRUE(test::Pick(popup(kRGBImages), kUnset));
     ASSERT_EQ(sync(false), noErr);
     EXPECT_EQ(stored(), Dictionary());
-}
-
-TEST_F(ColorOptionsPanelTest, WhatIsOutOfAControlsRangeStaysAsItIs)
-{
-    const Dictionary beyond{{"FCSaturation", Number::Index(-700)}, {"TextRendering", Number::Index(12)}};
-    ticket.set("X", key::FullColorOptions, beyond);
-    open();
-    EXPECT_EQ(control<SliderField>(kSaturation).number(), -100);
-    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTextRendering)), 12);
-    ASSERT_EQ(sync(false), noErr);
-    EXPECT_EQ(stored(), beyond);
 }
 
 TEST_F(ColorOptionsPanelTest, TheStripsShowTheColorsBeforeAndAfter)
@@ -166,7 +120,7 @@ TEST_F(ColorOptionsPanelTest, TheStripsShowTheColorsBeforeAndAfter)
 TEST_F(ColorOptionsPanelTest, SyncWorksBeforeThereAreControlsAndWithoutThem)
 {
     ticket.set("X", key::FullColorOptions, Dictionary{{"FCContrast", Number::Index(3)}});
-    ASSERT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session), noErr);
+    ASSERT_EQ(initialize(), noErr);
     LoadBundle(kColorOptionsIdentifier, Bundle{.resourcesPath = u"/nowhere"_s, .strings = {}});
     EXPECT_EQ(slots->Open(prologue.context), noErr);
     EXPECT_EQ(sync(false), noErr);

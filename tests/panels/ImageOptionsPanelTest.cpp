@@ -1,14 +1,9 @@
 #include "panels/image_options/ImageOptionsPanel.h"
 
+#include "panels/PanelFixture.h"
 #include "pde/MenuUtilities.h"
 #include "pde/TicketKeys.h"
 #include "pde/TicketUtilities.h"
-#include "support/CurrentPrinter.h"
-#include "support/TestTexts.h"
-#include "support/User.h"
-#include "toolkit/PictureView.h"
-
-#include <gtest/gtest.h>
 
 #include <QCheckBox>
 
@@ -22,37 +17,12 @@ Dictionary Invert(int negative, int mirror)
     return {{"NegativeImage", Number::Index(negative)}, {"MirrorImage", Number::Index(mirror)}};
 }
 
-// The panel in a pane, over a session with an empty print-settings ticket, driven through its slots.
-class ImageOptionsPanelTest : public testing::Test {
+class ImageOptionsPanelTest : public test::PanelTest {
 protected:
-    ImageOptionsPanelTest()
-    {
-        LoadBundle(kPlugInIdentifier, test::BundleWithTexts({"ImageOptions"}));
-        PMSessionSetDataInSession(session, kPMPrintSettingsTicket, ticket.reference());
-        const PanelInterfaceHolder* holder = nullptr;
-        GetImageOptionsPanelInterface(&holder);
-        slots = holder->table;
-        slots->Prologue(&prologue);
-    }
-    ~ImageOptionsPanelTest() override { slots->Terminate(prologue.context, noErr); }
-    OSStatus initialize() { return slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session); }
-    void open()
-    {
-        ASSERT_EQ(initialize(), noErr);
-        ASSERT_EQ(slots->Open(prologue.context), noErr);
-    }
-    PopupButton* quality() { return FindPopupButton(&pane, {kSignature, kQualityPopup}); }
-    QCheckBox* mirror() { return FindControlAs<QCheckBox>(&pane, {kSignature, kMirrorCheckBox}); }
-    QString picture(Control number) { return FindControlAs<PictureView>(&pane, {kSignature, number})->picture(); }
-    OSStatus sync(bool toControls) { return slots->Sync(prologue.context, &session, toControls); }
+    ImageOptionsPanelTest() : PanelTest(GetImageOptionsPanelInterface, kSignature, test::BundleWithAllTexts()) {}
+    PopupButton* quality() { return popup(kQualityPopup); }
+    QCheckBox* mirror() { return qobject_cast<QCheckBox*>(control(kMirrorCheckBox)); }
     const Dictionary& stored() const { return *ticket.values().dictionary(key::InvertImageOptions); }
-
-    test::CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
-    PrintSession& session = printer.session;
-    Ticket ticket;
-    QWidget pane;
-    const PanelInterface* slots = nullptr;
-    KestaPrologue prologue{};
 };
 
 TEST_F(ImageOptionsPanelTest, WhatTheUserPicksReachesTheTicketAndComesBack)
@@ -111,9 +81,7 @@ TEST_F(ImageOptionsPanelTest, ItOpensOnce)
 {
     open();
     EXPECT_EQ(slots->Open(prologue.context), kInvalidContext);
-    EXPECT_EQ(slots->Close(prologue.context), noErr);
     EXPECT_STREQ(prologue.title, "ImageOptions");
-    EXPECT_EQ(slots->Sync(prologue.context, nullptr, true), kSyncWithoutContext);
 }
 
 TEST_F(ImageOptionsPanelTest, WithoutAPPDThePopupIsEmptyAndTheQualityStays)

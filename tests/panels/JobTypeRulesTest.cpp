@@ -1,14 +1,11 @@
 #include "panels/paper_output/DelayedPrintTime.h"
 #include "panels/paper_output/PasscodeRules.h"
 #include "panels/paper_output/SavedJobRules.h"
-#include "platform/Clock.h"
-#include "platform/RandomSource.h"
+#include "support/Recorders.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstring>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -34,21 +31,9 @@ TEST(PasscodeRules, ASavedJobGetsAPasscodeOfItsOwnWhateverTheConfirmationSays)
     EXPECT_EQ(JudgeSavedJobPasscode(u"1234"_s, u"1234"_s), PasscodeVerdict::Accepted);
 }
 
-// Every draw is this number.
-struct LoadedDice : RandomSource {
-    std::uint32_t number = 0;
-    void fill(std::span<std::byte> bytes) override
-    {
-        ASSERT_EQ(bytes.size(), sizeof number);
-        std::memcpy(bytes.data(), &number, sizeof number);
-    }
-};
-
 TEST(PasscodeRules, MadePasscodesHaveFourDigitsAndComeFromTheRandomSource)
 {
-    LoadedDice dice;
-    const WhileInstalled installed(dice);
-    dice.number = 9000 * 100;
+    test::LoadedDice dice(9000 * 100);
     EXPECT_EQ(MakePasscode(), u"1000"_s);
     dice.number += 8999;
     EXPECT_EQ(MakePasscode(), u"9999"_s);
@@ -60,17 +45,7 @@ constexpr SInt64 kHour = 3600;
 constexpr SInt64 kDay = 24 * kHour;
 constexpr SInt64 kFirstOf1970 = 2'082'844'800; // since 1904 began
 
-struct StoppedClock : Clock {
-    Date date;
-    int east = 0;
-    StoppedClock(SInt64 secondsSince1970, SInt64 secondsEast)
-        : date{secondsSince1970}, east(static_cast<int>(secondsEast))
-    {
-    }
-    Date now() const override { return date; }
-    SInt64 milliseconds() const override { return 0; }
-    int secondsEastOfUTC(Date) const override { return east; }
-};
+using test::StoppedClock;
 
 TEST(DelayedPrintTime, ATimeThatIsOverTodayMeansTomorrow)
 {

@@ -1,14 +1,12 @@
 #include "pde/TextFieldUtilities.h"
 
-#include "platform/HelpViewer.h"
+#include "support/Recorders.h"
 #include "support/TestTexts.h"
 #include "support/User.h"
 #include "toolkit/TextInput.h"
 
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
-
-#include <QTimer>
 
 namespace kesta {
 namespace {
@@ -20,7 +18,7 @@ protected:
     OSStatus run(TextLimits limits = {}) { return RunModalCustomValueDialog(bundle, limits, text, result); }
     static QLineEdit& field(QWidget& window) { return *FindTextField(&window, {"Util"_code, 1}); }
 
-    Bundle bundle = test::BundleWithTexts({"OK Command", "Cancel Command", "Custom Value:", "Custom Value Title"});
+    Bundle bundle = test::BundleWithAllTexts();
     std::optional<QString> text = QStringLiteral("before");
     ModalResult result{};
 };
@@ -50,15 +48,7 @@ TEST_F(CustomValueDialogTest, OKTakesTheTextAndCancelTakesItAway)
 
 TEST_F(CustomValueDialogTest, TheFieldKeepsToTheLimitsAndHelpIsOnOffer)
 {
-    struct RecordingHelp : HelpViewer {
-        int shown = 0;
-        OSStatus show(const QString&, const QString&) override
-        {
-            ++shown;
-            return noErr;
-        }
-    } help;
-    const WhileInstalled installed(help);
+    const test::RecordingHelp help;
     bundle.info.set(kCFBundleHelpBookName, "Kesta Help");
     text = QStringLiteral("1234");
     ModalUser user;
@@ -69,7 +59,7 @@ TEST_F(CustomValueDialogTest, TheFieldKeepsToTheLimitsAndHelpIsOnOffer)
     });
     user.then([](QWidget& window) { test::Press(window, kCommandCancel); });
     run({.minimumLength = 4, .maximumLength = 4});
-    EXPECT_EQ(help.shown, 1);
+    EXPECT_EQ(help.files.size(), 1);
 }
 
 TEST_F(CustomValueDialogTest, WithoutItsWindowNothingChanges)
@@ -77,29 +67,6 @@ TEST_F(CustomValueDialogTest, WithoutItsWindowNothingChanges)
     bundle.resourcesPath = QStringLiteral("/nowhere");
     EXPECT_EQ(run(), kInterfaceFileUnreadable);
     EXPECT_EQ(text, QStringLiteral("before"));
-}
-
-TEST_F(CustomValueDialogTest, StepsGoToTheInnermostDialog)
-{
-    std::optional<QString> innerText;
-    ModalResult innerResult{};
-    QWidget* outer = nullptr;
-    ModalUser user;
-    user.then([&](QWidget& window) {
-        outer = &window;
-        QTimer::singleShot(0, &window, [&] { RunModalCustomValueDialog(bundle, {}, innerText, innerResult); });
-    });
-    user.then([&](QWidget& inner) {
-        EXPECT_NE(&inner, outer);
-        test::Press(inner, kCommandOK);
-    });
-    user.then([&](QWidget& window) {
-        EXPECT_EQ(&window, outer);
-        test::Press(window, kCommandCancel);
-    });
-    run();
-    EXPECT_EQ(innerResult, ModalResult::OK);
-    EXPECT_EQ(result, ModalResult::Cancel);
 }
 
 TEST_F(CustomValueDialogTest, ADialogThatNobodyAnswersFailsTheTestAndDoesNotHang)

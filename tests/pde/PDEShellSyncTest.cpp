@@ -1,6 +1,7 @@
 #include "pde/JobTypeCheck.h"
 #include "pde/ShellFixture.h"
 #include "pde/TicketKeys.h"
+#include "support/Recorders.h"
 
 using namespace Qt::StringLiterals;
 
@@ -98,17 +99,10 @@ TEST_F(PDEShellSyncTest, AFaxHasNoColours)
 // What the Print button gets to hear, with a panel that says what the test wants.
 class JobCheckTest : public test::ShellTest {
 protected:
-    struct RecordingNotices : Notices {
-        QStringList shown;
-        void show(const Notice& notice) override { shown << notice.title << notice.message; }
-        int ask(const Alert&) override { return 0; }
-    };
-
     SInt32 jobType = 1;
     bool hasPasscode = false, hasRecipients = false;
     int faxSetups = 0;
-    RecordingNotices notices;
-    WhileInstalled<Notices> noticesInstalled{notices};
+    const test::RecordingNotices notices;
     JobTypeCheckRegistration check{JobTypeCheck{.jobType = [this] { return jobType; },
                                                 .hasPasscode = [this] { return hasPasscode; },
                                                 .hasFaxRecipients = [this] { return hasRecipients; },
@@ -125,8 +119,8 @@ TEST_F(JobCheckTest, ASecureJobNeedsAPasscode)
     EXPECT_EQ(command(kCommandOK), EventResult::NotHandled);
     jobType = kJobTypeSecurePrint;
     EXPECT_EQ(command(kCommandOK), EventResult::Swallowed);
-    EXPECT_EQ(notices.shown, (QStringList{u"Invalid Secure Print Passcode Header"_s, u"10 to 4"_s}))
-        << "and one notice only";
+    EXPECT_EQ(notices.titles, QStringList(u"Invalid Secure Print Passcode Header"_s)) << "one notice only";
+    EXPECT_EQ(notices.messages, QStringList(u"10 to 4"_s));
     hasPasscode = true;
     EXPECT_EQ(command(kCommandOK), EventResult::NotHandled);
 }

@@ -197,13 +197,6 @@ TEST_F(PDEShellTest, AButtonWithoutItsPictureIsHidden)
     EXPECT_FALSE(choice()->isHidden());
 }
 
-TEST_F(PDEShellTest, TheButtonsSayWhereTheyLead)
-{
-    open();
-    EXPECT_EQ(control(kPreviousButton)->accessibleName(), u"Previous");
-    EXPECT_EQ(control(kNextButton)->toolTip(), u"Next");
-}
-
 TEST(CentredPosition, IsNeverLeftOfTheParentButMayBeAboveIt)
 {
     EXPECT_EQ(CentredPosition({640, 500}, {540, 491}), QPoint(50, 5));

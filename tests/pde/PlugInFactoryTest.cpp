@@ -4,6 +4,7 @@
 #include "pde/PanelOperations.h"
 #include "pde/PlugInInterface.h"
 #include "platform/PlugIn.h"
+#include "product/PanelInterfaces.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>
@@ -76,8 +77,7 @@ TEST_F(PanelLoadingTest, NullMeansTheProductsPanelsAndAnEmptyListNothing)
     EXPECT_EQ(shell::GetPanelFunctionNames(), (std::vector<std::string>{"A", "B"})) << "unchanged";
     EXPECT_EQ(KestaPDEUsePanels(nullptr), noErr);
     EXPECT_EQ(shell::GetPanelFunctionNames(),
-              (std::vector<std::string>{"GetPaperOutputPanelInterface", "GetColorOptionPanelInterface",
-                                        "GetAdvancedPanelInterface"}));
+              std::vector<std::string>(_PanelInterfaces.begin(), _PanelInterfaces.end()));
 }
 
 TEST_F(PanelLoadingTest, APanelThatFailsIsTriedAgainAtItsPlace)

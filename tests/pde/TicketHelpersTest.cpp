@@ -28,12 +28,16 @@ TEST(TicketHelpers, NumbersOfADictionary)
     EXPECT_EQ(CFDictionaryGetNumber<SInt32>(dictionary, "big"), std::nullopt) << "does not fit";
 }
 
-TEST(TicketHelpers, ANestedDictionaryIsMadeOnce)
+TEST(TicketHelpers, ANestedDictionaryIsMadeOnceAndCopiedDeep)
 {
     Dictionary dictionary{{"nested", "in the way"}};
-    CFDictionaryGetDictionaryOrCreate(dictionary, "nested").set("a", true);
+    Dictionary& nested = CFDictionaryGetDictionaryOrCreate(dictionary, "nested");
+    CFDictionaryGetDictionaryOrCreate(dictionary, "a second one"); // must not move the first
+    nested.set("a", true);
     CFDictionaryGetDictionaryOrCreate(dictionary, "nested").set("b", true);
-    EXPECT_EQ(dictionary, (Dictionary{{"nested", Dictionary{{"a", true}, {"b", true}}}}));
+    const Dictionary copy = dictionary;
+    nested.remove("a");
+    EXPECT_EQ(*copy.dictionary("nested"), (Dictionary{{"a", true}, {"b", true}}));
 }
 
 TEST(TicketHelpers, CountDigits)
@@ -53,6 +57,7 @@ TEST(TicketHelpers, TheTicketOfASessionOrWhyNot)
         const Ticket ticket;
         PMSessionSetDataInSession(session, kPMPrintSettingsTicket, ticket.reference());
         EXPECT_EQ(GetTicketFromSession(session, kPMPrintSettingsTicket).ticket, &ticket);
+        EXPECT_EQ(GetTicketFromSession(session, kPMPageFormatTicket).ticket, nullptr);
     }
     const auto [gone, status] = GetTicketFromSession(session, kPMPrintSettingsTicket);
     EXPECT_EQ(gone, nullptr);

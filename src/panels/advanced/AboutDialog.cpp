@@ -1,8 +1,8 @@
 #include "panels/advanced/AboutDialog.h"
 
 #include "panels/advanced/AboutFacts.h"
+#include "pde/DialogCommands.h"
 #include "toolkit/InterfaceFile.h"
-#include "toolkit/ModalLoop.h"
 #include "toolkit/PictureView.h"
 
 namespace kesta {
@@ -26,13 +26,7 @@ OSStatus RunModalAboutDialog(const Bundle& bundle, ppd_file_t* ppd)
     if (!dialog)
         return kInterfaceFileUnreadable;
     ShowFacts(bundle, CopyAboutFacts(bundle, ppd), *dialog);
-    const EventHandler commands = InstallEventHandler(*dialog, [&](const CommandEvent& event) {
-        if (event.command != kCommandOK && event.command != kCommandCancel)
-            return EventResult::NotHandled;
-        EndModalLoop(*dialog, ModalResult::OK);
-        return EventResult::Handled;
-    });
-    RunModalLoop(*dialog);
+    RunModalDialog(bundle, *dialog, {});
     return noErr;
 }
 

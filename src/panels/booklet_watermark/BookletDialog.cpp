@@ -2,6 +2,7 @@
 
 #include "panels/booklet_watermark/BookletRules.h"
 #include "panels/special_pages/StockMenuRules.h"
+#include "pde/DialogCommands.h"
 #include "pde/LocalizationUtilities.h"
 #include "pde/LocalizedText.h"
 #include "pde/MenuUtilities.h"
@@ -9,17 +10,14 @@
 #include "platform/Bundle.h"
 #include "printer/InstallableOptions.h"
 #include "toolkit/InterfaceFile.h"
-#include "toolkit/ModalLoop.h"
 #include "toolkit/PictureView.h"
 #include "toolkit/SpinField.h"
 
 #include <algorithm>
 #include <array>
 
-namespace kesta {
+namespace kesta::booklet {
 namespace {
-
-using namespace booklet;
 
 // What is a choice only while the layout is on.
 constexpr auto kLayoutControls =
@@ -140,14 +138,6 @@ void ShowIllustration(const BookletWindow& dialog, const _BookletCreationParams&
         picture->setPicture(QString::fromLatin1(BookletIllustration(shown.layout, shown.fold, shown.drawOutlines)));
 }
 
-EventResult HandleCommand(QWidget& window, FourCharCode command)
-{
-    if (command != kCommandOK && command != kCommandCancel)
-        return EventResult::NotHandled;
-    EndModalLoop(window, command == kCommandOK ? ModalResult::OK : ModalResult::Cancel);
-    return EventResult::Handled;
-}
-
 OSStatus RunModalBookletDialog(_BookletCreationParams& params, QAnyStringView windowName)
 {
     if (!params.bundle)
@@ -160,15 +150,12 @@ OSStatus RunModalBookletDialog(_BookletCreationParams& params, QAnyStringView wi
     SyncToUI(dialog, params);
     EnableControls(dialog);
     ShowIllustration(dialog, params);
-    const EventHandler handler = InstallEventHandler(
-        *window,
-        [&](const HitEvent&) {
-            EnableControls(dialog);
-            ShowIllustration(dialog, params);
-            return EventResult::NotHandled;
-        },
-        [&](const CommandEvent& event) { return HandleCommand(*window, event.command); });
-    if (RunModalLoop(*window) != ModalResult::OK)
+    const EventHandler handler = InstallEventHandler(*window, [&](const HitEvent&) {
+        EnableControls(dialog);
+        ShowIllustration(dialog, params);
+        return EventResult::NotHandled;
+    });
+    if (RunModalDialog(*params.bundle, *window, {}) != ModalResult::OK)
         return kBookletDialogCancelled;
     SyncFromUI(dialog, params);
     return noErr;
@@ -181,15 +168,19 @@ bool FoldsBooklets()
 }
 
 } // namespace
+} // namespace kesta::booklet
+
+namespace kesta {
 
 OSStatus RunModalBookletOptionsDialog(_BookletCreationParams& params)
 {
-    return RunModalBookletDialog(params, FoldsBooklets() ? "BookletFinishingOptions" : "BookletOptions");
+    return booklet::RunModalBookletDialog(params,
+                                          booklet::FoldsBooklets() ? "BookletFinishingOptions" : "BookletOptions");
 }
 
 OSStatus RunModalBookletCreationDialog(_BookletCreationParams& params)
 {
-    return RunModalBookletDialog(params, "BookletCreation");
+    return booklet::RunModalBookletDialog(params, "BookletCreation");
 }
 
 } // namespace kesta

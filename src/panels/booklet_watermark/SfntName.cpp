@@ -13,8 +13,8 @@ constexpr std::uint64_t kRecords = 6; // in the table, of 12 bytes each
 QByteArray Text(QByteArrayView font, std::uint64_t offset, std::uint64_t length, std::uint64_t bytesInCharacter)
 {
     QByteArray text;
-    for (std::uint64_t last = bytesInCharacter - 1; last < length; last += bytesInCharacter)
-        text += font[static_cast<qsizetype>(offset + last)];
+    for (std::uint64_t at = offset + bytesInCharacter - 1; at < offset + length; at += bytesInCharacter)
+        text += font[static_cast<qsizetype>(at)];
     return text;
 }
 

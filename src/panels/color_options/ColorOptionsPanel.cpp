@@ -86,9 +86,7 @@ const auto* SettingOf(auto settings, SInt32 control)
 
 PanelDescription Prologue(_ColorOptionsPanelContext& panel)
 {
-    static const Bundle noBundle;
-    const Bundle* found = FindBundle(kColorOptionsIdentifier);
-    panel.bundle = found ? found : &noBundle;
+    panel.bundle = &BundleNamed(kColorOptionsIdentifier);
     return {.title = LocalizedString(*panel.bundle, "ColorOptions"), .creator = "KPDE"_code};
 }
 

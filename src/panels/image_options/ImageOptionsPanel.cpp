@@ -54,9 +54,7 @@ void InvertImageSync(_ImageOptionsContext& panel, SyncDirection direction, Ticke
 
 PanelDescription Prologue(_ImageOptionsContext& panel)
 {
-    static const Bundle noBundle;
-    const Bundle* found = FindBundle(kPlugInIdentifier);
-    panel.bundle = found ? found : &noBundle;
+    panel.bundle = &BundleNamed(kPlugInIdentifier);
     return {.title = LocalizedString(*panel.bundle, "ImageOptions"), .creator = "KPDE"_code};
 }
 

@@ -1,7 +1,7 @@
 #include "panels/paper_output/JobTypeSetups.h"
 
 #include "panels/paper_output/DelayedPrintTime.h"
-#include "panels/paper_output/SetupDialog.h"
+#include "pde/DialogCommands.h"
 #include "platform/Clock.h"
 #include "toolkit/InterfaceFile.h"
 
@@ -38,7 +38,7 @@ OSStatus RunModalDelayedPrintSetup(const Bundle& bundle, SInt64& time)
     field->setFocus();
     field->setSelectedSection(QDateTimeEdit::HourSection); // typing starts here
 
-    if (RunSetupDialog(bundle, *window, kDelayedPrintHelp, [] { return true; }) == ModalResult::OK)
+    if (RunModalDialog(bundle, *window, kDelayedPrintHelp) == ModalResult::OK)
         time = NextMomentAt(field->time().msecsSinceStartOfDay() / 1000, GetClock());
     return noErr;
 }

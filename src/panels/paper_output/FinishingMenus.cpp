@@ -33,12 +33,12 @@ constexpr auto kCountedHoles = std::to_array<FinishingRow>({
     {"TriplePunchKey", nullptr, kPunchThree, kThreeHoles},
     {"QuadruplePunchKey", nullptr, kPunchFour, kFourHoles},
 });
-constexpr auto kFolds = std::to_array<FinishingRow>({
+constexpr auto kFoldRows = std::to_array<FinishingRow>({
     {"CFoldKey", "FoldCFold", kFoldC, kCFold},
     {"ZFoldKey", "FoldZFold", kFoldZ, kZFold},
     {"ZFoldHalfSheetKey", "Z Fold Half Sheet", kFoldZHalfSheet, kHalfSheetZFold},
 });
-static_assert(kStaples.size() == 3 && kCountedHoles.size() == 3 && kFolds.size() == 3);
+static_assert(kStaples.size() == 3 && kCountedHoles.size() == 3 && kFoldRows.size() == 3);
 
 bool IsInstalled(const FinishingRow& row)
 {
@@ -93,12 +93,12 @@ void AddHoles(Menu& menu, const Bundle& bundle, const char* noneKey)
 
 void AddFolds(Menu& menu, const Bundle& bundle)
 {
-    if (!AnyInstalled(kFolds))
+    if (!AnyInstalled(kFoldRows))
         return;
     AddSeparator(menu);
     AddItem(menu, bundle, "No Fold", kNone, kNoFold);
     AddItem(menu, bundle, "BiFoldNoStaple", kFoldBi, kSingleFold);
-    AddInstalled(menu, bundle, kFolds);
+    AddInstalled(menu, bundle, kFoldRows);
 }
 
 } // namespace

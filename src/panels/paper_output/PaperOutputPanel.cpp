@@ -55,9 +55,7 @@ OSStatus WriteSettings(_PaperOutputContext& panel, Ticket& settings)
 
 PanelDescription Prologue(_PaperOutputContext& panel)
 {
-    static const Bundle noBundle;
-    const Bundle* found = FindBundle(kPlugInIdentifier);
-    panel.bundle = found ? found : &noBundle;
+    panel.bundle = &BundleNamed(kPlugInIdentifier);
     return {.title = LocalizedString(*panel.bundle, "PaperOutput"), .creator = "lhsX"_code};
 }
 

@@ -33,7 +33,7 @@ constexpr auto kOutputColors = std::to_array<PictureRow>({
     {1, "OutputColor_BlackandWhite.gif"},
     {2, "OutputColor_Color.gif"},
 });
-constexpr auto kFolds = std::to_array<PictureRow>({
+constexpr auto kFoldPictures = std::to_array<PictureRow>({
     {kFoldC, "OfficeFinishing_CFold.gif"},
     {kFoldZ, "OfficeFinishing_ZFold.gif"},
     {kFoldZHalfSheet, "ProductionFinishing_ZFold_Half_Left.gif"},
@@ -44,7 +44,7 @@ constexpr auto kBookletLayouts = std::to_array<PictureRow>({
     {kFoldBi, "OfficeFinishing_Bklt_Fold_Layout.gif"},
     {kFoldBiStaple, "OfficeFinishing_Bklt_Fold&Stpl_Layout.gif"},
 });
-static_assert(kJobTypes.size() == 8 && kSides.size() == 3 && kFolds.size() == 5);
+static_assert(kJobTypes.size() == 8 && kSides.size() == 3 && kFoldPictures.size() == 5);
 
 QString FileFor(std::span<const PictureRow> rows, SInt32 value)
 {
@@ -109,7 +109,7 @@ QString FinishingPicture(const PaperOutputOptions& options)
     if (options.bookletLayout == kBookletOn)
         return FileFor(kBookletLayouts, options.fold);
     if (options.fold != kNone)
-        return FileFor(kFolds, options.fold);
+        return FileFor(kFoldPictures, options.fold);
     const QString staples = StapleWord(options);
     const QString holes = PunchWord(options.punch);
     const bool areBoth = !staples.isEmpty() && !holes.isEmpty();

@@ -9,10 +9,8 @@
 #include "toolkit/Controls.h"
 #include "toolkit/TextInput.h"
 
-namespace kesta {
+namespace kesta::jobtypes {
 namespace {
-
-using namespace jobtypes;
 
 QStringList Limits()
 {
@@ -108,4 +106,4 @@ bool PasscodeFields::settle(PasscodeVerdict verdict)
     return false;
 }
 
-} // namespace kesta
+} // namespace kesta::jobtypes

@@ -7,9 +7,11 @@ class QLineEdit;
 class QWidget;
 
 namespace kesta {
-
 struct Bundle;
 struct TextLengthEvent;
+} // namespace kesta
+
+namespace kesta::jobtypes {
 
 // The two fields for a passcode of a setup window, with their labels, numbered as JobTypeSetups.h says. The window must
 // outlive it; a window without the fields has an empty passcode.
@@ -40,4 +42,4 @@ private:
     QLineEdit* confirmation_;
 };
 
-} // namespace kesta
+} // namespace kesta::jobtypes

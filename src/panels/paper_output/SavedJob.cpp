@@ -2,7 +2,7 @@
 
 #include "panels/paper_output/PasscodeFields.h"
 #include "panels/paper_output/SavedJobRules.h"
-#include "panels/paper_output/SetupDialog.h"
+#include "pde/DialogCommands.h"
 #include "pde/LocalizationUtilities.h"
 #include "pde/MenuUtilities.h"
 #include "pde/TextFieldUtilities.h"
@@ -18,10 +18,8 @@
 #include <QPushButton>
 #include <QTimer>
 
-namespace kesta {
+namespace kesta::jobtypes {
 namespace {
-
-using namespace jobtypes;
 
 constexpr QLatin1StringView kSavedJobHelp("Paper_Output/Job_Type/saved_job_e.htm");
 constexpr auto kSaveRadios = std::to_array<Control>({kSaveRadio, kSavePrintRadio});
@@ -164,12 +162,16 @@ EventHandler InstallWindowHandler(SavedJobDialog& dialog)
 }
 
 } // namespace
+} // namespace kesta::jobtypes
+
+namespace kesta {
 
 OSStatus RunModalSavedJobDialog(const Bundle& bundle, JobTypeDetails& details)
 {
     const std::unique_ptr<QWidget> window = CreateWindowFromNib(bundle, "SavedJob", "withPasscode");
     if (!window)
         return kInterfaceFileUnreadable;
+    using namespace jobtypes;
     SavedJobDialog dialog{bundle, *window};
     if (!dialog.isComplete())
         return kInterfaceFileUnreadable;
@@ -181,7 +183,7 @@ OSStatus RunModalSavedJobDialog(const Bundle& bundle, JobTypeDetails& details)
         return !dialog.isSecure() || dialog.passcode.settle(JudgeSavedJobPasscode(dialog.passcode.passcode(),
                                                                                   dialog.passcode.confirmation()));
     };
-    if (RunSetupDialog(bundle, *window, kSavedJobHelp, accept) == ModalResult::OK) {
+    if (RunModalDialog(bundle, *window, kSavedJobHelp, accept) == ModalResult::OK) {
         SaveUIValuesToData(dialog, details);
         SaveHistories(dialog);
     }

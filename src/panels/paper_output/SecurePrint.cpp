@@ -1,7 +1,7 @@
 #include "panels/paper_output/JobTypeSetups.h"
 
 #include "panels/paper_output/PasscodeFields.h"
-#include "panels/paper_output/SetupDialog.h"
+#include "pde/DialogCommands.h"
 #include "toolkit/InterfaceFile.h"
 
 namespace kesta {
@@ -16,7 +16,7 @@ OSStatus RunModalSecurePrintSetup(const Bundle& bundle, std::optional<QString>& 
     const std::unique_ptr<QWidget> window = CreateWindowFromNib(bundle, "SecurePrint", "SecurePrint");
     if (!window)
         return kInterfaceFileUnreadable;
-    PasscodeFields fields(bundle, *window, jobtypes::kSecurePrintSignature);
+    jobtypes::PasscodeFields fields(bundle, *window, jobtypes::kSecurePrintSignature);
     const QString stored = passcode.value_or(QString());
     fields.fill(stored);
     fields.enableConfirmation(!stored.isEmpty());
@@ -29,7 +29,7 @@ OSStatus RunModalSecurePrintSetup(const Bundle& bundle, std::optional<QString>& 
     const auto accept = [&] {
         return fields.settle(JudgeSecurePrintPasscode(fields.passcode(), fields.confirmation()));
     };
-    if (RunSetupDialog(bundle, *window, kSecurePrintHelp, accept) == ModalResult::OK)
+    if (RunModalDialog(bundle, *window, kSecurePrintHelp, accept) == ModalResult::OK)
         passcode = fields.passcode();
     return noErr;
 }

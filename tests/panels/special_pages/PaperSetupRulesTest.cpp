@@ -21,13 +21,6 @@ namespace {
 constexpr SizeUnits kInches = SizeUnits::Inches;
 constexpr SizeUnits kMillimetres = SizeUnits::Millimetres;
 
-TEST(CustomSize, UnitsFollowTheMeasurementSystem)
-{
-    EXPECT_EQ(DefaultSizeUnits(QLocale(u"en_US"_s)), kInches);
-    EXPECT_EQ(DefaultSizeUnits(QLocale(u"en_GB"_s)), kMillimetres);
-    EXPECT_EQ(DefaultSizeUnits(QLocale(u"de_DE"_s)), kMillimetres);
-}
-
 TEST(CustomSize, LengthsAreRoundedThenCut)
 {
     EXPECT_EQ(LengthToField(21590, kInches), 850);
@@ -187,14 +180,6 @@ TEST(Separators, AMissingColorIsTheStatus)
     ticket.restore(key::SeparatorOption, u"2"_s, "X");
     EXPECT_EQ(SyncSeparatorsFromTicket(&ticket, option, stock), noErr);
     EXPECT_EQ(option, kSeparatorsNone) << "a text is no number";
-}
-
-TEST(Separators, ALockedColorIsTheStatusOfTheLastWrite)
-{
-    Ticket ticket;
-    ticket.set("another", key::SeparatorColor, Number::Index(1), Ticket::Lock::Locked);
-    EXPECT_EQ(SyncSeparatorsToTicket(&ticket, kSeparatorsBlank, Stock()), kTicketEntryLocked);
-    EXPECT_EQ(ReadTicketValue(ticket, key::SeparatorOption), kSeparatorsBlank);
 }
 
 TEST(Separators, ThePictureShowsOptionAndColor)

@@ -13,6 +13,8 @@
 
 #include <QPixmap>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kesta {
@@ -34,23 +36,21 @@ protected:
         data.context = context;
         InitializeStockMenuButton(&button, data);
     }
-    // The path to the item of that command and value.
     bool choose(FourCharCode command, SInt32 value)
     {
         const std::vector<MenuItem>& items = button.menu().items;
-        for (int i = 0; i < static_cast<int>(items.size()); ++i) {
-            if (items[i].command == command && items[i].value == value)
-                return button.chooseItem(i + 1);
-            for (int j = 0; j < static_cast<int>(items[i].submenu.size()); ++j) {
-                if (items[i].submenu[j].command == command && items[i].submenu[j].value == value)
-                    return button.chooseItem(i + 1, j + 1);
-            }
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            const auto found = std::ranges::find_if(
+                items[i].submenu, [=](const MenuItem& item) { return item.command == command && item.value == value; });
+            if (found != items[i].submenu.end())
+                return button.chooseItem(static_cast<int>(i) + 1,
+                                         static_cast<int>(found - items[i].submenu.begin()) + 1);
         }
         return false;
     }
 
     const test::CurrentPrinter printer;
-    Bundle bundle = test::BundleWithTexts({"PrinterDefault", "UseJobSetting", "OtherSize", "OtherColor", "OtherType"});
+    Bundle bundle = test::BundleWithAllTexts();
     QWidget window;
     MenuButton button{&window};
     SummaryTextView summary{&window};
@@ -136,16 +136,6 @@ TEST_F(StockMenuTest, AdvancedForgetsTheNameOnOKOnly)
     user.then([](QWidget& dialog) { test::Press(dialog, kCommandOK); });
     StockMenuCommandEventHandler(data, {.command = kStockAdvancedCommand});
     EXPECT_EQ(stock.customName(), QString());
-}
-
-TEST_F(StockMenuTest, ADisabledCommandCanNotBeChosen)
-{
-    initialize(JobContext::Insert);
-    EnableStockMenuCommand(data, kStockSizeCommand, false);
-    EXPECT_FALSE(choose(kStockSizeCommand, kStockSizeA4));
-    EXPECT_TRUE(choose(kStockColorCommand, kStockColorRed));
-    EnableStockMenuCommand(data, kStockSizeCommand, true);
-    EXPECT_TRUE(choose(kStockSizeCommand, kStockSizeA4));
 }
 
 TEST_F(StockMenuTest, TheIconShowsThePaperAsItIsWhenDrawn)

@@ -33,9 +33,7 @@ protected:
         return std::ranges::find(menu.items, value, &MenuItem::value) != menu.items.end();
     }
 
-    const Bundle bundle =
-        test::BundleWithTexts({"StockName", "StockColor", "StockTypePrecutTab", ":", "UseJobSetting", "PrinterDefault",
-                               "OtherSize", "OtherColor", "OtherType", "Tray 8 Inserter Value"});
+    const Bundle bundle = test::BundleWithAllTexts();
     const test::CurrentPrinter printer;
     Stock stock;
 };
