@@ -98,6 +98,10 @@ TEST_F(ProgramTest, AFileThatCannotBePrintedIsNamedBeforeAServerIsAsked)
         EXPECT_EQ(errorFor(u"."_s), start + u"unable to access \".\" - Is a directory\n"_s);
         EXPECT_EQ(errorFor(u"empty.pdf"_s), start + u"\"empty.pdf\" is empty, so no job has been sent.\n"_s);
     }
+    const Ended silent = run({u"-h"_s, server, u"--no-dialog"_s, QStringLiteral(SAMPLE)});
+    EXPECT_EQ(silent.status, 1);
+    EXPECT_TRUE(silent.errors.contains(u"does not answer"_s) && silent.errors.contains(server))
+        << silent.errors.toStdString();
 }
 
 TEST_F(ProgramTest, WorksWithoutItsPlugIn)
