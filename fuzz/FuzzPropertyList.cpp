@@ -30,6 +30,12 @@ void CheckSettings(const QByteArray& bytes)
     const QByteArray after = WriteJobSettings(tickets);
     Require(!problem || after == before);
     Require(!ReadJobSettings(after, tickets) && WriteJobSettings(tickets) == after);
+
+    // What is left out is not there afterwards, and nothing else is missing.
+    const NestedEntry leftOut{"com.kesta.print.JobType", "SecurePrintPassword"};
+    const QByteArray shared = WriteJobSettings(tickets, {&leftOut, 1});
+    Require(shared == after || after.contains(leftOut.entry));
+    Require(!ReadJobSettings(shared, tickets) && WriteJobSettings(tickets, {&leftOut, 1}) == shared);
 }
 
 } // namespace

@@ -20,40 +20,26 @@ ScriptStep OnlyStep(const char* script)
     return parsed.steps.size() == 1 ? parsed.steps.front() : ScriptStep{};
 }
 
-TEST(DialogScript, ReadsEveryAction)
+TEST(DialogScript, TellsNamesNumbersAndValuesApart)
 {
     using enum ScriptVerb;
     const auto cases = std::to_array<std::pair<const char*, ScriptStep>>({
-        {"panel \"Advanced\"", {.line = 1, .verb = Panel, .target = {.text = u"Advanced"_s}}},
         {"panel 2", {.line = 1, .verb = Panel, .target = {.number = 2}}},
         {"panel \"2\"", {.line = 1, .verb = Panel, .target = {.text = u"2"_s}}},
         {"choose \"Mirrored Output:\" \"A > B\"",
          {.line = 1, .verb = Choose, .target = {.text = u"Mirrored Output:"_s}, .item = {.text = u"A > B"_s}}},
         {"choose #16 =-5", {.line = 1, .verb = Choose, .target = {.number = 16}, .item = {.value = -5}}},
         {"choose \"#16\" \"=5\"", {.line = 1, .verb = Choose, .target = {.text = u"#16"_s}, .item = {.text = u"=5"_s}}},
-        {"command Stp1", {.line = 1, .verb = Command, .command = "Stp1"_code}},
-        {"check \"Draw Outlines\" on",
-         {.line = 1, .verb = Check, .target = {.text = u"Draw Outlines"_s}, .flag = true}},
         {"type Passcode \"12\\\"\\\\\\t34\" # why",
          {.line = 1, .verb = Type, .target = {.text = u"Passcode"_s}, .text = u"12\"\\\t34"_s}},
         {"type #3 \"\"", {.line = 1, .verb = Type, .target = {.number = 3}}},
-        {"key Ctrl+PageDown",
-         {.line = 1, .verb = Key, .key = {.key = Qt::Key_PageDown, .modifiers = Qt::ControlModifier}}},
-        {"press \"OK\"", {.line = 1, .verb = Press, .target = {.text = u"OK"_s}}},
         {"select \"Special Pages\" 1 3",
          {.line = 1, .verb = Select, .target = {.text = u"Special Pages"_s}, .numbers = {1, 3}}},
         {"select List", {.line = 1, .verb = Select, .target = {.text = u"List"_s}}},
-        {"expect \"Invalid Page Ranges\"", {.line = 1, .verb = Expect, .text = u"Invalid Page Ranges"_s}},
         {"expect-value Copies 3",
          {.line = 1, .verb = ExpectValue, .target = {.text = u"Copies"_s}, .item = {.text = u"3"_s}}},
         {"expect-value Pages \"\"", {.line = 1, .verb = ExpectValue, .target = {.text = u"Pages"_s}}},
-        {"expect-enabled #4 no", {.line = 1, .verb = ExpectEnabled, .target = {.number = 4}}},
-        {"sync from-tickets", {.line = 1, .verb = Sync, .flag = true}},
-        {"sync to-tickets", {.line = 1, .verb = Sync}},
-        {"dump a.plist", {.line = 1, .verb = Dump, .text = u"a.plist"_s}},
-        {"summary", {.line = 1, .verb = Summary}},
         {"screenshot \"a b.png\"", {.line = 1, .verb = Screenshot, .text = u"a b.png"_s}},
-        {"print", {.line = 1, .verb = Print}},
         {"  cancel\r\n", {.line = 1, .verb = Cancel}},
     });
     for (const auto& [script, expected] : cases)

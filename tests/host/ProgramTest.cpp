@@ -39,19 +39,18 @@ TEST_F(ProgramTest, PlaysAScriptWithoutADisplayAndSavesTheSame)
 
 TEST_F(ProgramTest, TheSummarySaysWhatThePanelsShowAndKeepsSecrets)
 {
-    const QByteArray before = u"25 copies, pages 1-4, 7"_s.toUtf8();
-    const QByteArray after =
-        before + " \u00B7 Secure Print \u00B7 Blue \u00B7 Two-sided, bound on the long edge \u00B7 2 staples, 3 holes";
+    const QByteArray fields = "25 copies, pages 1-4, 7";
+    const QByteArray secure = " \u00B7 Secure Print";
+    const QByteArray rest = " \u00B7 Blue \u00B7 Two-sided, bound on the long edge \u00B7 2 staples, 3 holes";
     const Ended ended = play("summary\nchoose \"Job Type:\" SecurePrint\ntype #2 4711\ntype #5 4711\npress OK\n"
-                             "choose \"Choose Paper\" \"Color > Blue\"\nchoose \"Two Sided Printing:\" =2\n"
-                             "choose \"Choose Finishing\" =10\nchoose \"Choose Finishing\" \"3 Hole Punch\"\n"
-                             "panel Advanced\nsummary\nexpect \"" +
-                                 after + "\"\npanel #1\nchoose \"Job Type:\" #1\nsummary\ncancel",
+                             "choose \"Choose Paper\" \"Color > Blue\"\nexpect \"" +
+                                 fields + secure +
+                                 " \u00B7 Blue\"\nchoose \"Two Sided Printing:\" =2\n"
+                                 "choose \"Choose Finishing\" =10\nchoose \"Choose Finishing\" \"3 Hole Punch\"\n"
+                                 "panel Advanced\nsummary\npanel #1\nchoose \"Job Type:\" #1\nsummary\ncancel",
                              {u"-n"_s, u"25"_s, u"-P"_s, u"1-4,7"_s});
     EXPECT_EQ(ended.errors, QString());
-    const QByteArray normal =
-        before + " \u00B7 Blue \u00B7 Two-sided, bound on the long edge \u00B7 2 staples, 3 holes";
-    EXPECT_EQ(ended.output, QString::fromUtf8(before + '\n' + after + '\n' + normal + '\n'));
+    EXPECT_EQ(ended.output, QString::fromUtf8(fields + '\n' + fields + secure + rest + '\n' + fields + rest + '\n'));
 }
 
 TEST_F(ProgramTest, FailuresSayWhereAndEndWithOne)
@@ -99,6 +98,10 @@ TEST_F(ProgramTest, AFileThatCannotBePrintedIsNamedBeforeAServerIsAsked)
         EXPECT_EQ(errorFor(u"."_s), start + u"unable to access \".\" - Is a directory\n"_s);
         EXPECT_EQ(errorFor(u"empty.pdf"_s), start + u"\"empty.pdf\" is empty, so no job has been sent.\n"_s);
     }
+    const Ended silent = run({u"-h"_s, server, u"--no-dialog"_s, QStringLiteral(SAMPLE)});
+    EXPECT_EQ(silent.status, 1);
+    EXPECT_TRUE(silent.errors.contains(u"does not answer"_s) && silent.errors.contains(server))
+        << silent.errors.toStdString();
 }
 
 TEST_F(ProgramTest, WorksWithoutItsPlugIn)
