@@ -45,7 +45,7 @@ TEST_F(ProgramPrintersTest, OtherMakersKeepThePlainOptions)
     for (const QByteArray maker : {"Otherco", "Kesta Inc", "KESTA"}) {
         PPDVariant ppd;
         ppd.replaceLines("*Manufacturer:", "*Manufacturer: \"" + maker + '"');
-        expectPlainOptions(ppd.path(), "has \\\"" + maker + "\\\" as its maker");
+        expectPlainOptions(ppd.path(), "has “" + maker + "” as its maker");
     }
 }
 

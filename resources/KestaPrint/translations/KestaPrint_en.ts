@@ -105,15 +105,15 @@
     </message>
     <message>
         <source>No Printers Message</source>
-        <translation>The print server knows no printers. Add one in the system's printer settings, then try again.</translation>
+        <translation>The print server knows no printers. Add one in the system’s printer settings, then try again.</translation>
     </message>
     <message>
         <source>No Server Title</source>
-        <translation>The printers can't be listed</translation>
+        <translation>The printers can’t be listed</translation>
     </message>
     <message>
         <source>Unknown Printer Title</source>
-        <translation>This printer can't be used</translation>
+        <translation>This printer can’t be used</translation>
     </message>
     <message>
         <source>Printer With Place</source>
@@ -126,7 +126,7 @@
     <message>
         <source>Other Maker Message</source>
         <extracomment>%1: the printer; %2: its maker; %3: what can be done all the same</extracomment>
-        <translation>%1 has "%2" as its maker, and the pane is for printers whose maker is "Kesta". %3</translation>
+        <translation>%1 has “%2” as its maker, and the pane is for printers whose maker is “Kesta”. %3</translation>
     </message>
     <message>
         <source>Pane Failed Message</source>
@@ -142,7 +142,7 @@
     </message>
     <message>
         <source>No Plug-in Title</source>
-        <translation>The printer's own options are missing</translation>
+        <translation>The printer’s own options are missing</translation>
     </message>
     <message>
         <source>No Plug-in Message</source>
@@ -159,7 +159,7 @@
     </message>
     <message>
         <source>Pages Not Understood Title</source>
-        <translation>These pages can't be read</translation>
+        <translation>These pages can’t be read</translation>
     </message>
     <message>
         <source>Pages Not Understood Message</source>
@@ -221,7 +221,7 @@ It says: %2</translation>
     </message>
     <message>
         <source>Conflict Title</source>
-        <translation>Some options don't go together</translation>
+        <translation>Some options don’t go together</translation>
     </message>
     <message>
         <source>Conflict Message</source>
