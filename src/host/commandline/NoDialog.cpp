@@ -67,14 +67,7 @@ Failure ListPrinterOptions(Run& run)
 Failure ReadSettings(Run& run)
 {
     const QString& path = run.commandLine.settingsPath;
-    if (path.isEmpty())
-        return std::nullopt;
-    const FileContent content = ReadFile(path, kLargestJobSettings);
-    if (!content.bytes)
-        return content.error.text;
-    if (const auto problem = ReadJobSettings(*content.bytes, run.tickets))
-        return u"%1: %2"_s.arg(path, *problem);
-    return std::nullopt;
+    return path.isEmpty() ? std::nullopt : ReadSavedSettings(path, run.tickets);
 }
 
 // What the command line says goes into the tickets, so that what is saved is what is printed.

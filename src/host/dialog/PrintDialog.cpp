@@ -5,7 +5,7 @@
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
 #include "host/server/DocumentSource.h"
-#include "platform/SafeFile.h"
+#include "host/settings/SavedSettings.h"
 #include "toolkit/InterfaceFile.h"
 #include "toolkit/ModalLoop.h"
 #include "toolkit/WindowSummary.h"
@@ -69,11 +69,8 @@ std::optional<QString> PrintDialog::prepare()
             return problem;
     }
     if (!options.settingsPath.isEmpty()) {
-        const FileContent content = ReadFile(options.settingsPath, kLargestJobSettings);
-        if (!content.bytes)
-            return content.error.text;
-        if (const std::optional<QString> problem = ReadJobSettings(*content.bytes, tickets_))
-            return u"%1: %2"_s.arg(options.settingsPath, *problem);
+        if (std::optional<QString> problem = ReadSavedSettings(options.settingsPath, tickets_))
+            return problem;
     }
     window_ = CreateWindowFromNib(*start_.texts, "PrintDialog", "Window");
     if (!window_)
