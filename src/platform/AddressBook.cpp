@@ -16,23 +16,16 @@ public:
     bool save() override { return false; }
 };
 
-Installed<AddressBook>& TheAddressBook()
-{
-    static NoAddressBook none;
-    static Installed<AddressBook> installed(none);
-    return installed;
-}
-
 } // namespace
 
 AddressBook* AddressBook::install(AddressBook* book)
 {
-    return TheAddressBook().install(book);
+    return InstalledOr<AddressBook, NoAddressBook>().install(book);
 }
 
 AddressBook& GetAddressBook()
 {
-    return TheAddressBook().current();
+    return InstalledOr<AddressBook, NoAddressBook>().current();
 }
 
 } // namespace kesta

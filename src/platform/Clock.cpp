@@ -25,23 +25,16 @@ public:
     }
 };
 
-Installed<Clock>& TheClock()
-{
-    static SystemClock system;
-    static Installed<Clock> installed(system);
-    return installed;
-}
-
 } // namespace
 
 Clock* Clock::install(Clock* clock)
 {
-    return TheClock().install(clock);
+    return InstalledOr<Clock, SystemClock>().install(clock);
 }
 
 Clock& GetClock()
 {
-    return TheClock().current();
+    return InstalledOr<Clock, SystemClock>().current();
 }
 
 } // namespace kesta

@@ -11,23 +11,16 @@ public:
     std::optional<QString> save(const FileQuestion&) override { return std::nullopt; }
 };
 
-Installed<FileChooser>& TheChooser()
-{
-    static NoFileChooser none;
-    static Installed<FileChooser> installed(none);
-    return installed;
-}
-
 } // namespace
 
 FileChooser* FileChooser::install(FileChooser* chooser)
 {
-    return TheChooser().install(chooser);
+    return InstalledOr<FileChooser, NoFileChooser>().install(chooser);
 }
 
 FileChooser& GetFileChooser()
 {
-    return TheChooser().current();
+    return InstalledOr<FileChooser, NoFileChooser>().current();
 }
 
 } // namespace kesta

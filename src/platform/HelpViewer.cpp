@@ -26,13 +26,6 @@ public:
     }
 };
 
-Installed<HelpViewer>& TheViewer()
-{
-    static PrintedHelp printed;
-    static Installed<HelpViewer> installed(printed);
-    return installed;
-}
-
 QString BookOf(const Bundle& bundle)
 {
     const QString* folder = bundle.info.string("CFBundleHelpBookFolder");
@@ -89,12 +82,12 @@ QString FindAnchor(const QString& book, const QString& anchor)
 
 HelpViewer* HelpViewer::install(HelpViewer* viewer)
 {
-    return TheViewer().install(viewer);
+    return InstalledOr<HelpViewer, PrintedHelp>().install(viewer);
 }
 
 HelpViewer& GetHelpViewer()
 {
-    return TheViewer().current();
+    return InstalledOr<HelpViewer, PrintedHelp>().current();
 }
 
 QString HelpPageFile(const Bundle& bundle, const QString& page)

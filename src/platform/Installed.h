@@ -4,7 +4,7 @@
 
 namespace kesta {
 
-// A service's implementation in use: the one installed, else the standard one. Belongs in one .cpp file.
+// A service's implementation in use: the one installed, else the standard one.
 template <class Service> class Installed {
 public:
     explicit Installed(Service& standard) : standard_(standard) {}
@@ -16,5 +16,13 @@ private:
     Service& standard_;
     Service* installed_ = nullptr;
 };
+
+// The one of a service, made at the first call. For the one .cpp file that has the standard implementation.
+template <class Service, class Standard> Installed<Service>& InstalledOr()
+{
+    static Standard standard;
+    static Installed<Service> installed(standard);
+    return installed;
+}
 
 } // namespace kesta

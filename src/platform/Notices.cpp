@@ -23,23 +23,16 @@ public:
     }
 };
 
-Installed<Notices>& TheNotices()
-{
-    static PrintedNotices printed;
-    static Installed<Notices> installed(printed);
-    return installed;
-}
-
 } // namespace
 
 Notices* Notices::install(Notices* notices)
 {
-    return TheNotices().install(notices);
+    return InstalledOr<Notices, PrintedNotices>().install(notices);
 }
 
 Notices& GetNotices()
 {
-    return TheNotices().current();
+    return InstalledOr<Notices, PrintedNotices>().current();
 }
 
 int CancelButtonOf(const Alert& alert)

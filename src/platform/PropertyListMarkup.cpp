@@ -6,12 +6,14 @@
 namespace kesta {
 namespace {
 
+constexpr qsizetype kLongestDoctype = 301; // characters after its name
+
 bool IsSpace(QChar character)
 {
     return character == u' ' || (character >= u'\t' && character <= u'\r');
 }
 
-bool IsOutsideOfTags(QChar character)
+bool IsInPlainDoctype(QChar character)
 {
     return character != u'[' && character != u']' && character != u'<' && character != u'>';
 }
@@ -53,7 +55,7 @@ bool IsPlainDoctype(TagText tag)
     if (!tag.take(u"<!DOCTYPE") || tag.takeAll(IsSpace) == 0 || !tag.take(u"plist"))
         return false;
     if (!tag.rest.isEmpty() && IsSpace(tag.rest.front()))
-        tag.takeAll(IsOutsideOfTags, 301);
+        tag.takeAll(IsInPlainDoctype, kLongestDoctype);
     return tag.take(u">");
 }
 
@@ -68,7 +70,7 @@ bool TakeQuote(TagText& tag)
     return tag.take(u"\"") || tag.take(u"'");
 }
 
-bool IsPlainPlist(TagText tag)
+bool IsPlainPlistTag(TagText tag)
 {
     if (!tag.take(u"<plist") || tag.takeAll(IsSpace) == 0 || !tag.take(u"version"))
         return false;
@@ -101,7 +103,7 @@ std::optional<ForeignMarkup> ForeignAttribute(QStringView text)
 {
     for (qsizetype at = 0; (at = text.indexOf(u'<', at)) >= 0; ++at) {
         const TagText tag{text.sliced(at)};
-        if (HasAttributes(tag) && !IsPlainPlist(tag))
+        if (HasAttributes(tag) && !IsPlainPlistTag(tag))
             return ForeignMarkup{at, QStringLiteral("an element with attributes")};
     }
     return std::nullopt;

@@ -23,23 +23,16 @@ public:
     }
 };
 
-Installed<RandomSource>& TheSource()
-{
-    static SystemRandomSource system;
-    static Installed<RandomSource> installed(system);
-    return installed;
-}
-
 } // namespace
 
 RandomSource* RandomSource::install(RandomSource* source)
 {
-    return TheSource().install(source);
+    return InstalledOr<RandomSource, SystemRandomSource>().install(source);
 }
 
 RandomSource& GetRandomSource()
 {
-    return TheSource().current();
+    return InstalledOr<RandomSource, SystemRandomSource>().current();
 }
 
 std::uint32_t RandomBelow(std::uint32_t bound)

@@ -4,25 +4,15 @@
 #include "platform/LinuxConfiguration.h"
 
 namespace kesta {
-namespace {
-
-Installed<SystemConfiguration>& TheConfiguration()
-{
-    static LinuxConfiguration machine;
-    static Installed<SystemConfiguration> installed(machine);
-    return installed;
-}
-
-} // namespace
 
 SystemConfiguration* SystemConfiguration::install(SystemConfiguration* configuration)
 {
-    return TheConfiguration().install(configuration);
+    return InstalledOr<SystemConfiguration, LinuxConfiguration>().install(configuration);
 }
 
 SystemConfiguration& GetSystemConfiguration()
 {
-    return TheConfiguration().current();
+    return InstalledOr<SystemConfiguration, LinuxConfiguration>().current();
 }
 
 } // namespace kesta

@@ -28,23 +28,16 @@ public:
     }
 };
 
-Installed<URLOpener>& TheOpener()
-{
-    static SystemURLOpener system;
-    static Installed<URLOpener> installed(system);
-    return installed;
-}
-
 } // namespace
 
 URLOpener* URLOpener::install(URLOpener* opener)
 {
-    return TheOpener().install(opener);
+    return InstalledOr<URLOpener, SystemURLOpener>().install(opener);
 }
 
 URLOpener& GetURLOpener()
 {
-    return TheOpener().current();
+    return InstalledOr<URLOpener, SystemURLOpener>().current();
 }
 
 } // namespace kesta

@@ -19,15 +19,14 @@ inline constexpr int kStepperWidth = 24;
 inline constexpr int kSliderHandle = 16;
 inline constexpr int kScrollBarWidth = 12;
 
-// What InstallKestaStyle installs. Sizes and looks are in KestaStyle.cpp, drawing in KestaStyleControls.cpp and
-// KestaStyleMenus.cpp.
+// What InstallKestaStyle installs. Looks are in KestaStyle.cpp, sizes in KestaStyleMetrics.cpp and KestaStyleParts.cpp,
+// drawing in KestaStyleControls.cpp, KestaStyleSliders.cpp and KestaStyleMenus.cpp.
 class KestaProxyStyle : public QProxyStyle {
 public:
     explicit KestaProxyStyle(bool ownPalette);
 
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
-    void unpolish(QWidget* widget) override;
 
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override;

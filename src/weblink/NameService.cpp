@@ -53,23 +53,16 @@ public:
     }
 };
 
-Installed<NameService>& TheNames()
-{
-    static SystemNameService system;
-    static Installed<NameService> installed(system);
-    return installed;
-}
-
 } // namespace
 
 NameService* NameService::install(NameService* service)
 {
-    return TheNames().install(service);
+    return InstalledOr<NameService, SystemNameService>().install(service);
 }
 
 NameService& GetNameService()
 {
-    return TheNames().current();
+    return InstalledOr<NameService, SystemNameService>().current();
 }
 
 } // namespace kesta

@@ -139,6 +139,7 @@ void AppearInSummary(const _PaperOutputContext& panel)
                   CreateFinishingString(*panel.bundle, plain, panel.accessories));
 }
 
+// Its number and signature as a control among them, and its place in the window's summary.
 void CopyOwnProperties(const QWidget& from, QWidget& to)
 {
     for (const QByteArray& name : from.dynamicPropertyNames())
@@ -151,7 +152,6 @@ void DisposeSummary(QWidget* summary)
         return;
     auto* room = new QWidget(summary->parentWidget());
     CopyOwnProperties(*summary, *room);
-    SetControlID(*room, GetControlID(*summary));
     room->setProperty("lines", summary->property("lines"));
     room->setFixedSize(summary->size());
     delete summary->parentWidget()->layout()->replaceWidget(summary, room);
@@ -164,7 +164,6 @@ void RestoreSummary(QWidget* room)
         return;
     auto* summary = new SummaryTextView(room->parentWidget());
     CopyOwnProperties(*room, *summary);
-    SetControlID(*summary, GetControlID(*room));
     summary->setLines(room->property("lines").toInt());
     summary->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     delete room->parentWidget()->layout()->replaceWidget(room, summary);
