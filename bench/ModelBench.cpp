@@ -2,9 +2,9 @@
 
 #include "Pair.h"
 
-#include "model/PageRanges.h"
 #include "model/SpecialPageList.h"
-#include "platform/PropertyList.h"
+#include "model/SpecialPageRanges.h"
+#include "platform/values/PropertyList.h"
 
 #include <algorithm>
 #include <numeric>

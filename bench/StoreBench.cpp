@@ -3,9 +3,9 @@
 
 #include "Pair.h"
 
-#include "panels/booklet_watermark/WatermarkFile.h"
-#include "panels/booklet_watermark/WatermarkStore.h"
-#include "platform/SafeFile.h"
+#include "panels/booklet_watermark/watermark/WatermarkStore.h"
+#include "platform/system/SafeFile.h"
+#include "platform/system/SharedStoreFile.h"
 
 #include <QFile>
 #include <QFileInfo>

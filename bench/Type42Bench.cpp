@@ -2,7 +2,7 @@
 
 #include "Pair.h"
 
-#include "panels/booklet_watermark/Type42.h"
+#include "panels/booklet_watermark/fonts/Type42.h"
 
 #include <QFile>
 

@@ -2,8 +2,8 @@
 // they expand to, and what the dialog writes reads back.
 
 #include "Input.h"
-#include "host/settings/PageRanges.h"
-#include "model/PageRanges.h"
+#include "host/job/PageRanges.h"
+#include "model/SpecialPageRanges.h"
 
 using namespace kesta;
 using fuzz::Require;

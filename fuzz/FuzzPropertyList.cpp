@@ -2,8 +2,8 @@
 // that reads back as the same bytes. Job settings are all or nothing.
 
 #include "Input.h"
-#include "platform/JobSettings.h"
-#include "platform/PropertyList.h"
+#include "platform/printsystem/JobSettings.h"
+#include "platform/values/PropertyList.h"
 
 using namespace kesta;
 using fuzz::Require;

@@ -5,8 +5,8 @@
 #include "model/FullColorOptions.h"
 #include "model/InvertImage.h"
 #include "model/SpecialPageList.h"
-#include "panels/booklet_watermark/WatermarkData.h"
-#include "platform/PropertyList.h"
+#include "panels/booklet_watermark/watermark/WatermarkData.h"
+#include "platform/values/PropertyList.h"
 
 using namespace kesta;
 using fuzz::Require;

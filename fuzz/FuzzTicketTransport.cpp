@@ -1,7 +1,7 @@
 // Options as a filter gets them, and any bytes as a ticket: what is sent is what arrives.
 
 #include "Input.h"
-#include "host/settings/TicketTransport.h"
+#include "host/job/TicketTransport.h"
 
 using namespace kesta::host;
 using kesta::fuzz::Require;

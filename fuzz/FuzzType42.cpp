@@ -1,7 +1,7 @@
 // A font file: nothing or a font that begins and ends as one, twice the same, whatever stands in the buffer before.
 
 #include "Input.h"
-#include "panels/booklet_watermark/Type42.h"
+#include "panels/booklet_watermark/fonts/Type42.h"
 
 using kesta::booklet_watermark::convertTTFtoPS42;
 using kesta::fuzz::Require;

@@ -1,7 +1,7 @@
 // A text with entities, alone and with entities of its own: the lines "name=value" before the first empty one.
 
 #include "Input.h"
-#include "pde/XMLEntities.h"
+#include "pde/ticket/XMLEntities.h"
 
 #include <QStringList>
 

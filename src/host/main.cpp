@@ -5,11 +5,11 @@
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/QtTexts.h"
 #include "host/script/ScriptPlayer.h"
-#include "platform/Bundle.h"
-#include "platform/FileChooser.h"
-#include "platform/SafeFile.h"
-#include "toolkit/KestaStyle.h"
-#include "toolkit/ToolkitServices.h"
+#include "platform/plugins/Bundle.h"
+#include "platform/system/FileChooser.h"
+#include "platform/system/SafeFile.h"
+#include "toolkit/style/KestaStyle.h"
+#include "toolkit/windows/ToolkitServices.h"
 
 #include <QApplication>
 #include <QLocale>

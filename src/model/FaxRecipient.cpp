@@ -1,7 +1,7 @@
 #include "model/FaxRecipient.h"
 
 #include "model/FaxProperties.h"
-#include "pde/RecordFields.h"
+#include "pde/ticket/RecordFields.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/AddressBook.h"
-#include "platform/Value.h"
+#include "platform/system/AddressBook.h"
+#include "platform/values/Value.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #include "model/ImageShift.h"
 
-#include "pde/TicketUtilities.h"
+#include "pde/ticket/TicketUtilities.h"
 
 #include <array>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "model/InvertImage.h"
 
-#include "pde/TicketUtilities.h"
+#include "pde/ticket/TicketUtilities.h"
 
 namespace kesta {
 namespace {

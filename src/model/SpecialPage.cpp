@@ -1,7 +1,7 @@
 #include "model/SpecialPage.h"
 
-#include "pde/RecordFields.h"
-#include "pde/TicketUtilities.h"
+#include "pde/ticket/RecordFields.h"
+#include "pde/ticket/TicketUtilities.h"
 
 namespace kesta {
 namespace {

@@ -1,6 +1,6 @@
 #include "model/Stock.h"
 
-#include "pde/RecordFields.h"
+#include "pde/ticket/RecordFields.h"
 
 namespace kesta {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "pde/JobContext.h"
-#include "platform/Value.h"
+#include "pde/ticket/JobContext.h"
+#include "platform/values/Value.h"
 
 namespace kesta {
 

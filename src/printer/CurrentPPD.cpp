@@ -1,7 +1,7 @@
 #include "printer/PPDUtilities.h"
 
-#include "pde/TicketUtilities.h"
-#include "platform/PPDFileCheck.h"
+#include "pde/ticket/TicketUtilities.h"
+#include "platform/printsystem/PPDFileCheck.h"
 #include "printer/LocalizedPPD.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "printer/DeviceProfile.h"
 
-#include "pde/PlugInBundle.h"
-#include "platform/PropertyList.h"
+#include "pde/interface/PlugInBundle.h"
+#include "platform/values/PropertyList.h"
 
 #include <QFile>
 

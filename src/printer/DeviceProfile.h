@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Value.h"
+#include "platform/values/Value.h"
 
 namespace kesta {
 

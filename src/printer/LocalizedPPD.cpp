@@ -1,7 +1,7 @@
 #include "printer/LocalizedPPD.h"
 
-#include "pde/PlugInBundle.h"
-#include "platform/SystemConfiguration.h"
+#include "pde/interface/PlugInBundle.h"
+#include "platform/system/SystemConfiguration.h"
 
 namespace kesta {
 

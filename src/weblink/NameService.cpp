@@ -1,6 +1,6 @@
 #include "weblink/NameService.h"
 
-#include "platform/Installed.h"
+#include "platform/system/Installed.h"
 
 #include <arpa/inet.h>
 #include <arpa/nameser.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Service.h"
+#include "platform/system/Service.h"
 
 #include <netinet/in.h>
 

@@ -1,6 +1,6 @@
 #include "weblink/PrinterAddress.h"
 
-#include "platform/SystemConfiguration.h"
+#include "platform/system/SystemConfiguration.h"
 #include "weblink/DNSMessage.h"
 #include "weblink/MulticastDNS.h"
 #include "weblink/NameService.h"

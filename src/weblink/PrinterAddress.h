@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/PrintSession.h"
+#include "platform/printsystem/PrintSession.h"
 
 namespace kesta {
 

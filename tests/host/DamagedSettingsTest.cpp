@@ -3,7 +3,7 @@
 #include "host/FileContent.h"
 #include "host/ProgramFixture.h"
 
-#include "platform/PropertyList.h"
+#include "platform/values/PropertyList.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -99,7 +99,7 @@ protected:
                               u"com.kesta.print.FinishingOptions"_s,
                               u"com.kesta.print.FinishingSlipSheet"_s};
     const QStringList keys =
-        InSources(u"\"(com\\.[^\"]+)\""_s, {u"pde/TicketKeys.h"_s, u"host/settings/HostTickets.h"_s});
+        InSources(u"\"(com\\.[^\"]+)\""_s, {u"pde/interface/TicketKeys.h"_s, u"host/job/HostTickets.h"_s});
     const QStringList fields =
         InSources(u"\\{\"([A-Za-z0-9]+)\", +&"_s, {u"model/Stock.cpp"_s, u"model/FullColorTicket.cpp"_s}) +
         QStringList{u"JobType"_s,          u"MediaType"_s,           u"UseJobName"_s,

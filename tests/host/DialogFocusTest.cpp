@@ -2,8 +2,8 @@
 
 #include "host/PrintDialogFixture.h"
 #include "host/dialog/PrintDialogControls.h"
-#include "toolkit/Controls.h"
-#include "toolkit/ModalLoop.h"
+#include "toolkit/controls/Controls.h"
+#include "toolkit/windows/ModalLoop.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>

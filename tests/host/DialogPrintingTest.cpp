@@ -3,7 +3,7 @@
 #include "host/PrintDialogFixture.h"
 #include "host/PrivateServer.h"
 #include "host/dialog/PrintDialogControls.h"
-#include "toolkit/Controls.h"
+#include "toolkit/controls/Controls.h"
 
 #include <QApplication>
 #include <QTimer>

@@ -1,6 +1,6 @@
 #include "host/FakePlugIn.h"
 
-#include "toolkit/Controls.h"
+#include "toolkit/controls/Controls.h"
 
 #include <algorithm>
 

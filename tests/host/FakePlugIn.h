@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/pane/PlugInHost.h"
-#include "toolkit/ControlEvent.h"
+#include "toolkit/controls/ControlEvent.h"
 
 #include <QStringList>
 

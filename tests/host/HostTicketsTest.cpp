@@ -1,5 +1,5 @@
-#include "host/settings/HostTickets.h"
-#include "host/settings/PageRanges.h"
+#include "host/job/HostTickets.h"
+#include "host/job/PageRanges.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>

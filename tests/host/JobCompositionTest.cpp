@@ -1,6 +1,6 @@
-#include "host/settings/JobComposition.h"
+#include "host/job/JobComposition.h"
 
-#include "host/settings/TicketTransport.h"
+#include "host/job/TicketTransport.h"
 
 #include <gtest/gtest.h>
 

@@ -5,8 +5,8 @@
 #include "host/PrivateServer.h"
 #include "host/ProgramFixture.h"
 
-#include "platform/JobSettings.h"
-#include "platform/PropertyList.h"
+#include "platform/printsystem/JobSettings.h"
+#include "platform/values/PropertyList.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -2,10 +2,10 @@
 
 #include "host/FakePlugIn.h"
 #include "host/dialog/PrintDialog.h"
-#include "platform/Bundle.h"
-#include "platform/SafeFile.h"
+#include "platform/plugins/Bundle.h"
+#include "platform/system/SafeFile.h"
 #include "support/TestTexts.h"
-#include "toolkit/ToolkitServices.h"
+#include "toolkit/windows/ToolkitServices.h"
 
 #include <gtest/gtest.h>
 

@@ -2,11 +2,11 @@
 
 #include "host/PrintDialogFixture.h"
 #include "host/dialog/DialogSummary.h"
-#include "platform/FileChooser.h"
-#include "platform/SafeFile.h"
+#include "platform/system/FileChooser.h"
+#include "platform/system/SafeFile.h"
 #include "support/PPDVariant.h"
 #include "support/TestTexts.h"
-#include "toolkit/ToolkitServices.h"
+#include "toolkit/windows/ToolkitServices.h"
 
 #include <gtest/gtest.h>
 

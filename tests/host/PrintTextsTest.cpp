@@ -1,4 +1,4 @@
-#include "platform/Bundle.h"
+#include "platform/plugins/Bundle.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "host/PrivateServer.h"
-#include "host/settings/JobOptions.h"
+#include "host/job/JobOptions.h"
 
-#include "platform/JobSettings.h"
-#include "platform/PropertyList.h"
+#include "platform/printsystem/JobSettings.h"
+#include "platform/values/PropertyList.h"
 
 #include <QCoreApplication>
 #include <QFile>

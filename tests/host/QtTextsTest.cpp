@@ -1,5 +1,5 @@
 #include "host/dialog/QtTexts.h"
-#include "platform/Bundle.h"
+#include "platform/plugins/Bundle.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>

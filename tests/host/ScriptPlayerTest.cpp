@@ -1,11 +1,11 @@
 #include "host/script/ScriptPlayer.h"
 #include "host/script/ScriptActions.h"
 #include "support/TestTexts.h"
-#include "toolkit/Controls.h"
-#include "toolkit/HistoryComboBox.h"
-#include "toolkit/ListView.h"
-#include "toolkit/MenuButton.h"
-#include "toolkit/SpinField.h"
+#include "toolkit/controls/Controls.h"
+#include "toolkit/controls/HistoryComboBox.h"
+#include "toolkit/controls/ListView.h"
+#include "toolkit/controls/MenuButton.h"
+#include "toolkit/controls/SpinField.h"
 
 #include <gtest/gtest.h>
 

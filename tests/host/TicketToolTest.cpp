@@ -1,8 +1,8 @@
 #include "ticket-tool/TicketTool.h"
 
-#include "host/settings/TicketTransport.h"
+#include "host/job/TicketTransport.h"
 
-#include "platform/PropertyList.h"
+#include "platform/values/PropertyList.h"
 
 #include <gtest/gtest.h>
 

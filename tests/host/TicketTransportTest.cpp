@@ -1,4 +1,4 @@
-#include "host/settings/TicketTransport.h"
+#include "host/job/TicketTransport.h"
 
 #include <gtest/gtest.h>
 

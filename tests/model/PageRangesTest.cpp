@@ -1,4 +1,4 @@
-#include "model/PageRanges.h"
+#include "model/SpecialPageRanges.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "model/Stock.h"
 
 #include "model/Stored.h"
-#include "pde/TicketUtilities.h"
+#include "pde/ticket/TicketUtilities.h"
 
 #include <gtest/gtest.h>
 

@@ -3,11 +3,11 @@
 #include "panels/PanelFixture.h"
 #include "panels/color_options/ColorMenus.h"
 #include "panels/color_options/SwatchStrip.h"
-#include "pde/MenuUtilities.h"
-#include "pde/TicketKeys.h"
-#include "toolkit/SliderField.h"
-#include "toolkit/SpinField.h"
-#include "toolkit/TextInput.h"
+#include "pde/interface/TicketKeys.h"
+#include "pde/menus/MenuUtilities.h"
+#include "toolkit/controls/SliderField.h"
+#include "toolkit/controls/SpinField.h"
+#include "toolkit/controls/TextInput.h"
 
 #include <QImage>
 #include <QPainter>

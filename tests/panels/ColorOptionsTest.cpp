@@ -1,7 +1,7 @@
 #include "panels/color_options/ColorOptions.h"
 #include "panels/color_options/ColorMenus.h"
 #include "panels/color_options/ColorSwatches.h"
-#include "pde/TicketKeys.h"
+#include "pde/interface/TicketKeys.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 #include "panels/image_options/ImageOptionsPanel.h"
 
 #include "panels/PanelFixture.h"
-#include "pde/MenuUtilities.h"
-#include "pde/TicketKeys.h"
-#include "pde/TicketUtilities.h"
+#include "pde/interface/TicketKeys.h"
+#include "pde/menus/MenuUtilities.h"
+#include "pde/ticket/TicketUtilities.h"
 
 #include <QCheckBox>
 

@@ -1,14 +1,14 @@
 #include "panels/paper_output/JobTypeSetups.h"
 
-#include "pde/MenuUtilities.h"
-#include "platform/UserPreferences.h"
+#include "pde/menus/MenuUtilities.h"
+#include "platform/system/UserPreferences.h"
 #include "support/Recorders.h"
 #include "support/TestTexts.h"
 #include "support/User.h"
-#include "toolkit/HistoryComboBox.h"
-#include "toolkit/PictureView.h"
-#include "toolkit/TextInput.h"
-#include "toolkit/TypedValueHistory.h"
+#include "toolkit/controls/HistoryComboBox.h"
+#include "toolkit/controls/PictureView.h"
+#include "toolkit/controls/TextInput.h"
+#include "toolkit/controls/TypedValueHistory.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "pde/PanelOperations.h"
-#include "platform/Ticket.h"
+#include "pde/interface/PanelOperations.h"
+#include "platform/printsystem/Ticket.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
 #include "support/User.h"
-#include "toolkit/PictureView.h"
+#include "toolkit/controls/PictureView.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "pde/TextFieldUtilities.h"
+#include "pde/forms/TextFieldUtilities.h"
 
 #include "support/Recorders.h"
 #include "support/TestTexts.h"
 #include "support/User.h"
-#include "toolkit/TextInput.h"
+#include "toolkit/controls/TextInput.h"
 
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "pde/PanelInterface.h"
-#include "platform/Bundle.h"
+#include "pde/interface/PanelInterface.h"
+#include "platform/plugins/Bundle.h"
 
 #include <string>
 

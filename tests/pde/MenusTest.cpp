@@ -1,12 +1,12 @@
-#include "pde/LocalizationUtilities.h"
-#include "pde/MenuUtilities.h"
-#include "pde/ViewUtilities.h"
-#include "platform/UserPreferences.h"
+#include "pde/forms/ViewUtilities.h"
+#include "pde/menus/LocalizationUtilities.h"
+#include "pde/menus/MenuUtilities.h"
+#include "platform/system/UserPreferences.h"
 #include "product/Westmarch2.h"
 #include "support/Accessories.h"
 #include "support/TestTexts.h"
-#include "toolkit/InterfaceFile.h"
-#include "toolkit/TabControl.h"
+#include "toolkit/controls/TabControl.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 #include <gtest/gtest.h>
 

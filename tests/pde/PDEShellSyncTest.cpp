@@ -1,6 +1,6 @@
-#include "pde/JobTypeCheck.h"
 #include "pde/ShellFixture.h"
-#include "pde/TicketKeys.h"
+#include "pde/interface/JobTypeCheck.h"
+#include "pde/interface/TicketKeys.h"
 #include "support/Recorders.h"
 
 using namespace Qt::StringLiterals;

@@ -1,9 +1,9 @@
-#include "pde/CentredLayout.h"
 #include "pde/ShellFixture.h"
-#include "pde/TicketUtilities.h"
+#include "pde/shell/CentredLayout.h"
+#include "pde/ticket/TicketUtilities.h"
 #include "printer/InstallableOptions.h"
 #include "support/User.h"
-#include "toolkit/ControlProperties.h"
+#include "toolkit/controls/ControlProperties.h"
 
 #include <QDir>
 #include <QTemporaryDir>

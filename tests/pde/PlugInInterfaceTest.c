@@ -1,5 +1,5 @@
 /* The plug-in's door as a program in C finds it. */
-#include "pde/PlugInInterface.h"
+#include "pde/interface/PlugInInterface.h"
 
 #include <stddef.h>
 

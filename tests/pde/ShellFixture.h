@@ -1,16 +1,16 @@
 #pragma once
 
 #include "pde/FakePanels.h"
-#include "pde/PDEShell.h"
-#include "pde/PlugInInterface.h"
-#include "pde/SystemUtilities.h"
-#include "platform/Notices.h"
-#include "platform/Ticket.h"
+#include "pde/interface/PlugInInterface.h"
+#include "pde/menus/SystemUtilities.h"
+#include "pde/shell/PDEShell.h"
+#include "platform/printsystem/Ticket.h"
+#include "platform/system/Notices.h"
 #include "printer/PPDUtilities.h"
 #include "support/CurrentPrinter.h"
 #include "support/FakeSystem.h"
 #include "support/TestTexts.h"
-#include "toolkit/InterfaceFile.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 #include <gtest/gtest.h>
 

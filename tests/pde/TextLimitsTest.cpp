@@ -1,8 +1,8 @@
-#include "pde/TextFieldUtilities.h"
+#include "pde/forms/TextFieldUtilities.h"
 #include "support/TestTexts.h"
-#include "toolkit/ControlEvent.h"
-#include "toolkit/HistoryComboBox.h"
-#include "toolkit/TextInput.h"
+#include "toolkit/controls/ControlEvent.h"
+#include "toolkit/controls/HistoryComboBox.h"
+#include "toolkit/controls/TextInput.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "pde/JobTypeCheck.h"
-#include "pde/LocalizedText.h"
-#include "pde/TicketUtilities.h"
+#include "pde/interface/JobTypeCheck.h"
+#include "pde/ticket/LocalizedText.h"
+#include "pde/ticket/TicketUtilities.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>

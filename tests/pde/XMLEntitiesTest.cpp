@@ -1,4 +1,4 @@
-#include "pde/XMLEntities.h"
+#include "pde/ticket/XMLEntities.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
-#include "platform/Bundle.h"
+#include "platform/plugins/Bundle.h"
+#include "platform/plugins/HelpBook.h"
 
 #include "platform/SampleBundle.h"
 #include "support/Recorders.h"

@@ -1,6 +1,6 @@
-#include "platform/Directories.h"
-#include "platform/SafeFile.h"
-#include "platform/UserPreferences.h"
+#include "platform/system/Directories.h"
+#include "platform/system/SafeFile.h"
+#include "platform/system/UserPreferences.h"
 #include "support/SmallDisk.h"
 #include "support/TestTexts.h"
 

@@ -1,6 +1,6 @@
-#include "platform/JobSettings.h"
+#include "platform/printsystem/JobSettings.h"
 
-#include "platform/PropertyList.h"
+#include "platform/values/PropertyList.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "platform/PlugIn.h"
+#include "platform/plugins/PlugIn.h"
 
-#include "platform/Bundle.h"
 #include "platform/SampleBundle.h"
+#include "platform/plugins/Bundle.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>

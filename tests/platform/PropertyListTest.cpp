@@ -1,6 +1,6 @@
-#include "platform/PropertyList.h"
+#include "platform/values/PropertyList.h"
 
-#include "platform/DateText.h"
+#include "platform/values/DateText.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "platform/LinuxConfiguration.h"
+#include "platform/system/LinuxConfiguration.h"
 
-#include "platform/RoutingTable.h"
 #include "platform/SampleBundle.h"
+#include "platform/system/RoutingTable.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>

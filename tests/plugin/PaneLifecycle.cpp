@@ -1,8 +1,8 @@
 #include "plugin/PaneLifecycle.h"
 
-#include "platform/Bundle.h"
-#include "platform/PlugIn.h"
-#include "toolkit/InterfaceFile.h"
+#include "platform/plugins/Bundle.h"
+#include "platform/plugins/PlugIn.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 #include <QCoreApplication>
 #include <QVBoxLayout>

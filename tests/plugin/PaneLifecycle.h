@@ -1,8 +1,8 @@
 #pragma once
 
-#include "pde/PlugInInterface.h"
-#include "platform/JobSettings.h"
-#include "platform/PrintSession.h"
+#include "pde/interface/PlugInInterface.h"
+#include "platform/printsystem/JobSettings.h"
+#include "platform/printsystem/PrintSession.h"
 
 #include <QPushButton>
 #include <QWidget>

@@ -1,5 +1,5 @@
-#include "platform/Bundle.h"
-#include "platform/PlugIn.h"
+#include "platform/plugins/Bundle.h"
+#include "platform/plugins/PlugIn.h"
 #include "plugin/PaneLifecycle.h"
 #include "product/PanelInterfaces.h"
 #include "support/User.h"

@@ -1,5 +1,5 @@
 #include "printer/DeviceProfile.h"
-#include "pde/PlugInBundle.h"
+#include "pde/interface/PlugInBundle.h"
 #include "product/InstalledFeatures.h"
 #include "support/TestTexts.h"
 

@@ -1,5 +1,5 @@
-#include "pde/PlugInBundle.h"
-#include "platform/SystemConfiguration.h"
+#include "pde/interface/PlugInBundle.h"
+#include "platform/system/SystemConfiguration.h"
 #include "printer/PPDUtilities.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"

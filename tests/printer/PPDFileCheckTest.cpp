@@ -1,10 +1,10 @@
-#include "platform/PPDFileCheck.h"
+#include "platform/printsystem/PPDFileCheck.h"
 #include "printer/InstallableOptions.h"
 #include "printer/PPDUtilities.h"
 #include "product/InstalledFeatures.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
-#include "toolkit/Menu.h"
+#include "toolkit/controls/Menu.h"
 
 #include <gtest/gtest.h>
 

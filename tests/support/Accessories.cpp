@@ -1,6 +1,6 @@
 #include "support/Accessories.h"
 
-#include "pde/TicketUtilities.h"
+#include "pde/ticket/TicketUtilities.h"
 #include "printer/InstallableOptions.h"
 #include "printer/PPDUtilities.h"
 #include "product/InstalledFeatures.h"

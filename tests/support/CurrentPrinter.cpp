@@ -1,6 +1,6 @@
 #include "support/CurrentPrinter.h"
 
-#include "pde/TicketUtilities.h"
+#include "pde/ticket/TicketUtilities.h"
 #include "printer/PPDUtilities.h"
 
 namespace kesta::test {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/SystemConfiguration.h"
+#include "platform/system/SystemConfiguration.h"
 
 #include <map>
 

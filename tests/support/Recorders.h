@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/Clock.h"
-#include "platform/HelpViewer.h"
-#include "platform/Notices.h"
-#include "platform/RandomSource.h"
+#include "platform/system/Clock.h"
+#include "platform/system/HelpViewer.h"
+#include "platform/system/Notices.h"
+#include "platform/system/RandomSource.h"
 
 #include <algorithm>
 #include <cstring>

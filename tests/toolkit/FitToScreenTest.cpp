@@ -1,4 +1,4 @@
-#include "toolkit/FitToScreen.h"
+#include "toolkit/windows/FitToScreen.h"
 
 #include "toolkit/Keys.h"
 

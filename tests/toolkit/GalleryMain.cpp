@@ -2,14 +2,14 @@
 //     toolkit_gallery OUT_DIR
 // QT_SCALE_FACTOR=2 gives 2x.
 
-#include "platform/Notices.h"
-#include "toolkit/AlertWindow.h"
-#include "toolkit/Controls.h"
+#include "platform/system/Notices.h"
 #include "toolkit/GalleryWindow.h"
-#include "toolkit/KestaStyle.h"
-#include "toolkit/MenuButton.h"
-#include "toolkit/Mnemonics.h"
-#include "toolkit/TextInput.h"
+#include "toolkit/controls/Controls.h"
+#include "toolkit/controls/MenuButton.h"
+#include "toolkit/controls/Mnemonics.h"
+#include "toolkit/controls/TextInput.h"
+#include "toolkit/style/KestaStyle.h"
+#include "toolkit/windows/AlertWindow.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,12 +1,12 @@
 #include "toolkit/GalleryWindow.h"
 
-#include "toolkit/ColorSwatch.h"
-#include "toolkit/HistoryComboBox.h"
-#include "toolkit/InterfaceFile.h"
-#include "toolkit/ListView.h"
-#include "toolkit/MenuButton.h"
-#include "toolkit/SpinField.h"
-#include "toolkit/TextInput.h"
+#include "toolkit/controls/ColorSwatch.h"
+#include "toolkit/controls/HistoryComboBox.h"
+#include "toolkit/controls/ListView.h"
+#include "toolkit/controls/MenuButton.h"
+#include "toolkit/controls/SpinField.h"
+#include "toolkit/controls/TextInput.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 #include <QLabel>
 

@@ -1,15 +1,15 @@
-#include "toolkit/InterfaceFile.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 #include "support/TestTexts.h"
 #include "support/User.h"
-#include "toolkit/ColorSwatch.h"
 #include "toolkit/GalleryWindow.h"
 #include "toolkit/Keys.h"
-#include "toolkit/ListView.h"
-#include "toolkit/Mnemonics.h"
-#include "toolkit/SummaryTextView.h"
-#include "toolkit/TabControl.h"
-#include "toolkit/TextArea.h"
+#include "toolkit/controls/ColorSwatch.h"
+#include "toolkit/controls/ListView.h"
+#include "toolkit/controls/Mnemonics.h"
+#include "toolkit/controls/SummaryTextView.h"
+#include "toolkit/controls/TabControl.h"
+#include "toolkit/controls/TextArea.h"
 
 #include <gtest/gtest.h>
 

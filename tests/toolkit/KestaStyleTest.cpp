@@ -1,10 +1,10 @@
-#include "toolkit/KestaStyle.h"
+#include "toolkit/style/KestaStyle.h"
 
 #include "support/TestTexts.h"
-#include "toolkit/Controls.h"
 #include "toolkit/GalleryWindow.h"
-#include "toolkit/MenuButton.h"
-#include "toolkit/TextInput.h"
+#include "toolkit/controls/Controls.h"
+#include "toolkit/controls/MenuButton.h"
+#include "toolkit/controls/TextInput.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "support/TestTexts.h"
 #include "support/User.h"
 #include "toolkit/Keys.h"
-#include "toolkit/MenuButton.h"
-#include "toolkit/Mnemonics.h"
+#include "toolkit/controls/MenuButton.h"
+#include "toolkit/controls/Mnemonics.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "toolkit/Pictures.h"
+#include "toolkit/style/Pictures.h"
 
 #include "support/TestTexts.h"
-#include "toolkit/ControlEvent.h"
-#include "toolkit/KestaColors.h"
-#include "toolkit/KestaStyle.h"
-#include "toolkit/PictureView.h"
+#include "toolkit/controls/ControlEvent.h"
+#include "toolkit/controls/PictureView.h"
+#include "toolkit/style/KestaColors.h"
+#include "toolkit/style/KestaStyle.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "toolkit/SliderField.h"
+#include "toolkit/controls/SliderField.h"
 
 #include "support/TestTexts.h"
 #include "toolkit/Keys.h"
-#include "toolkit/SpinField.h"
+#include "toolkit/controls/SpinField.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
-#include "toolkit/TextInput.h"
+#include "toolkit/controls/TextInput.h"
 
 #include "support/TestTexts.h"
-#include "toolkit/ControlEvent.h"
-#include "toolkit/HistoryComboBox.h"
 #include "toolkit/Keys.h"
-#include "toolkit/SpinField.h"
-#include "toolkit/TextArea.h"
+#include "toolkit/controls/ControlEvent.h"
+#include "toolkit/controls/HistoryComboBox.h"
+#include "toolkit/controls/SpinField.h"
+#include "toolkit/controls/TextArea.h"
 
 #include <gtest/gtest.h>
 

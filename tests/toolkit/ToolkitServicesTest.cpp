@@ -1,12 +1,12 @@
-#include "toolkit/ToolkitServices.h"
+#include "toolkit/windows/ToolkitServices.h"
 
-#include "platform/HelpViewer.h"
-#include "platform/Notices.h"
-#include "platform/URLOpener.h"
+#include "platform/system/HelpViewer.h"
+#include "platform/system/Notices.h"
+#include "platform/system/URLOpener.h"
 #include "support/TestTexts.h"
 #include "support/User.h"
-#include "toolkit/HelpWindow.h"
 #include "toolkit/Keys.h"
+#include "toolkit/windows/HelpWindow.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "toolkit/TypedValueHistory.h"
+#include "toolkit/controls/TypedValueHistory.h"
 
-#include "platform/Value.h"
+#include "platform/values/Value.h"
 
 #include <gtest/gtest.h>
 

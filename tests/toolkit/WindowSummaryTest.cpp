@@ -1,8 +1,8 @@
-#include "toolkit/WindowSummary.h"
+#include "toolkit/windows/WindowSummary.h"
 
 #include "support/TestTexts.h"
-#include "toolkit/PopupButton.h"
-#include "toolkit/SummaryTextView.h"
+#include "toolkit/controls/PopupButton.h"
+#include "toolkit/controls/SummaryTextView.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "host/commandline/CommandLine.h"
 
-#include "host/settings/HostTickets.h"
-#include "host/settings/PageRanges.h"
+#include "host/job/HostTickets.h"
+#include "host/job/PageRanges.h"
 
 #include <QFile>
 

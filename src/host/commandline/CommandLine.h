@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/settings/JobOptions.h"
+#include "host/job/JobOptions.h"
 
 #include <QByteArrayList>
 #include <QStringList>

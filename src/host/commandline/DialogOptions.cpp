@@ -1,6 +1,6 @@
 #include "host/commandline/DialogOptions.h"
 
-#include "host/settings/PageRanges.h"
+#include "host/job/PageRanges.h"
 
 #include <algorithm>
 #include <array>

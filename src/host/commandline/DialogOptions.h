@@ -1,8 +1,8 @@
 #pragma once
 
 #include "host/commandline/CommandLine.h"
+#include "host/job/HostTickets.h"
 #include "host/ppd/PPDFacts.h"
-#include "host/settings/HostTickets.h"
 
 namespace kesta::host {
 

@@ -2,17 +2,17 @@
 
 #include "host/commandline/Console.h"
 #include "host/commandline/DialogOptions.h"
+#include "host/job/JobComposition.h"
+#include "host/job/SavedSettings.h"
 #include "host/ppd/Constraints.h"
 #include "host/ppd/ListOptions.h"
 #include "host/server/DocumentSource.h"
 #include "host/server/Queues.h"
 #include "host/server/Submission.h"
-#include "host/settings/JobComposition.h"
-#include "host/settings/SavedSettings.h"
 
-#include "platform/JobSettings.h"
-#include "platform/PropertyList.h"
-#include "platform/SafeFile.h"
+#include "platform/printsystem/JobSettings.h"
+#include "platform/system/SafeFile.h"
+#include "platform/values/PropertyList.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,14 +2,14 @@
 
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
-#include "host/settings/PageRanges.h"
-#include "platform/Notices.h"
-#include "platform/UserPreferences.h"
-#include "toolkit/HistoryComboBox.h"
-#include "toolkit/InterfaceFile.h"
-#include "toolkit/SpinField.h"
-#include "toolkit/TextInput.h"
-#include "toolkit/TypedValueHistory.h"
+#include "host/job/PageRanges.h"
+#include "platform/system/Notices.h"
+#include "platform/system/UserPreferences.h"
+#include "toolkit/controls/HistoryComboBox.h"
+#include "toolkit/controls/SpinField.h"
+#include "toolkit/controls/TextInput.h"
+#include "toolkit/controls/TypedValueHistory.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
-#include "toolkit/InterfaceFile.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 #include <QFileInfo>
 

@@ -5,14 +5,14 @@
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
+#include "host/job/JobComposition.h"
+#include "host/job/SavedSettings.h"
 #include "host/ppd/Constraints.h"
-#include "host/settings/JobComposition.h"
-#include "host/settings/SavedSettings.h"
-#include "platform/FileChooser.h"
-#include "platform/Notices.h"
-#include "platform/PropertyList.h"
-#include "platform/SafeFile.h"
-#include "toolkit/InterfaceFile.h"
+#include "platform/system/FileChooser.h"
+#include "platform/system/Notices.h"
+#include "platform/system/SafeFile.h"
+#include "platform/values/PropertyList.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include "host/dialog/DialogSummary.h"
 
 #include "host/dialog/PrintTexts.h"
-#include "host/settings/PageRanges.h"
+#include "host/job/PageRanges.h"
 
 using namespace Qt::StringLiterals;
 

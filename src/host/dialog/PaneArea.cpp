@@ -1,7 +1,7 @@
 #include "host/dialog/PaneArea.h"
 
 #include "host/dialog/PrintDialogControls.h"
-#include "toolkit/InterfaceFile.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 #include <QEvent>
 #include <QLabel>

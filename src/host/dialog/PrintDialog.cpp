@@ -4,11 +4,11 @@
 #include "host/dialog/DialogSummary.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
+#include "host/job/SavedSettings.h"
 #include "host/server/DocumentSource.h"
-#include "host/settings/SavedSettings.h"
-#include "toolkit/InterfaceFile.h"
-#include "toolkit/ModalLoop.h"
-#include "toolkit/WindowSummary.h"
+#include "toolkit/windows/InterfaceFile.h"
+#include "toolkit/windows/ModalLoop.h"
+#include "toolkit/windows/WindowSummary.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>

@@ -9,8 +9,8 @@
 #include "host/ppd/PPDFacts.h"
 #include "host/script/ScriptPlayer.h"
 #include "host/server/Submission.h"
-#include "platform/JobSettings.h"
-#include "toolkit/ControlEvent.h"
+#include "platform/printsystem/JobSettings.h"
+#include "toolkit/controls/ControlEvent.h"
 
 #include <memory>
 #include <optional>

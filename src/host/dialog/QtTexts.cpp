@@ -1,6 +1,6 @@
 #include "host/dialog/QtTexts.h"
 
-#include "platform/Bundle.h"
+#include "platform/plugins/Bundle.h"
 
 #include <QCoreApplication>
 #include <QDir>

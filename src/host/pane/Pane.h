@@ -1,8 +1,8 @@
 #pragma once
 
 #include "host/pane/PlugInHost.h"
-#include "platform/PrintSession.h"
-#include "platform/Types.h"
+#include "platform/printsystem/PrintSession.h"
+#include "platform/values/Types.h"
 
 #include <QPointer>
 #include <QString>

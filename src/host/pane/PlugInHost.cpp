@@ -1,7 +1,7 @@
 #include "host/pane/PlugInHost.h"
 
-#include "platform/Bundle.h"
-#include "platform/PlugIn.h"
+#include "platform/plugins/Bundle.h"
+#include "platform/plugins/PlugIn.h"
 
 #include <QByteArrayList>
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pde/PlugInInterface.h"
+#include "pde/interface/PlugInInterface.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/settings/HostTickets.h"
+#include "host/job/HostTickets.h"
 
 #include <map>
 #include <set>

@@ -1,6 +1,6 @@
 #include "host/ppd/PPDFile.h"
 
-#include "platform/PPDFileCheck.h"
+#include "platform/printsystem/PPDFileCheck.h"
 
 #include <QFile>
 

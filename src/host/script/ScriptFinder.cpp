@@ -1,8 +1,8 @@
 #include "host/script/ScriptFinder.h"
 
-#include "toolkit/Controls.h"
-#include "toolkit/MenuControl.h"
-#include "toolkit/SliderField.h"
+#include "toolkit/controls/Controls.h"
+#include "toolkit/controls/MenuControl.h"
+#include "toolkit/controls/SliderField.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "host/script/ScriptFinder.h"
-#include "toolkit/Controls.h"
-#include "toolkit/HistoryComboBox.h"
-#include "toolkit/ListView.h"
-#include "toolkit/MenuControl.h"
-#include "toolkit/SliderField.h"
-#include "toolkit/SpinField.h"
-#include "toolkit/TabControl.h"
+#include "toolkit/controls/Controls.h"
+#include "toolkit/controls/HistoryComboBox.h"
+#include "toolkit/controls/ListView.h"
+#include "toolkit/controls/MenuControl.h"
+#include "toolkit/controls/SliderField.h"
+#include "toolkit/controls/SpinField.h"
+#include "toolkit/controls/TabControl.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>

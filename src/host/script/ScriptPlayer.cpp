@@ -2,8 +2,8 @@
 
 #include "host/commandline/Console.h"
 #include "host/script/ScriptActions.h"
-#include "platform/SafeFile.h"
-#include "toolkit/Controls.h"
+#include "platform/system/SafeFile.h"
+#include "toolkit/controls/Controls.h"
 
 #include <QApplication>
 #include <QPixmap>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/script/ScriptFinder.h"
-#include "toolkit/ModalLoop.h"
+#include "toolkit/windows/ModalLoop.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "host/job/JobOptions.h"
 #include "host/server/PrintServer.h"
-#include "host/settings/JobOptions.h"
 
 #include <QByteArrayList>
 #include <QString>

@@ -1,9 +1,9 @@
 #include "panels/advanced/AboutDialog.h"
 
 #include "panels/advanced/AboutFacts.h"
-#include "pde/DialogCommands.h"
-#include "toolkit/InterfaceFile.h"
-#include "toolkit/PictureView.h"
+#include "pde/forms/DialogCommands.h"
+#include "toolkit/controls/PictureView.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 namespace kesta {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "printer/PPDUtilities.h"
-#include "toolkit/ControlEvent.h"
+#include "toolkit/controls/ControlEvent.h"
 
 namespace kesta {
 

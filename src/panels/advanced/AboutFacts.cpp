@@ -1,7 +1,7 @@
 #include "panels/advanced/AboutFacts.h"
 
-#include "pde/LocalizedText.h"
-#include "platform/Bundle.h"
+#include "pde/ticket/LocalizedText.h"
+#include "platform/plugins/Bundle.h"
 #include "printer/InstallableOptions.h"
 #include "printer/PPDFacts.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pde/SettingMap.h"
+#include "pde/menus/SettingMap.h"
 
 #include <array>
 

@@ -1,8 +1,8 @@
 #include "panels/color_options/ColorMenus.h"
 
-#include "pde/LocalizedText.h"
-#include "pde/SettingMap.h"
-#include "platform/Bundle.h"
+#include "pde/menus/SettingMap.h"
+#include "pde/ticket/LocalizedText.h"
+#include "platform/plugins/Bundle.h"
 
 #include <algorithm>
 #include <array>

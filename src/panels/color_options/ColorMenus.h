@@ -1,7 +1,7 @@
 #pragma once
 
 #include "panels/color_options/ColorSettings.h"
-#include "toolkit/Menu.h"
+#include "toolkit/controls/Menu.h"
 
 namespace kesta {
 struct Bundle;

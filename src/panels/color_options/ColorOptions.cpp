@@ -1,7 +1,7 @@
 #include "panels/color_options/ColorOptions.h"
 
-#include "pde/TicketKeys.h"
-#include "pde/TicketUtilities.h"
+#include "pde/interface/TicketKeys.h"
+#include "pde/ticket/TicketUtilities.h"
 
 namespace kesta::color {
 namespace {

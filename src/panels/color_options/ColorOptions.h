@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/FullColorOptions.h"
-#include "platform/Ticket.h"
+#include "platform/printsystem/Ticket.h"
 
 namespace kesta::color {
 

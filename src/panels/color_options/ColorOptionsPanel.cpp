@@ -2,13 +2,13 @@
 
 #include "panels/color_options/ColorMenus.h"
 #include "panels/color_options/SwatchStrip.h"
-#include "pde/TextFieldUtilities.h"
-#include "pde/TicketUtilities.h"
-#include "platform/Bundle.h"
-#include "toolkit/InterfaceFile.h"
-#include "toolkit/ModalLoop.h"
-#include "toolkit/SliderField.h"
-#include "toolkit/SpinField.h"
+#include "pde/forms/TextFieldUtilities.h"
+#include "pde/ticket/TicketUtilities.h"
+#include "platform/plugins/Bundle.h"
+#include "toolkit/controls/SliderField.h"
+#include "toolkit/controls/SpinField.h"
+#include "toolkit/windows/InterfaceFile.h"
+#include "toolkit/windows/ModalLoop.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 
 #include "panels/color_options/ColorOptions.h"
 #include "panels/color_options/ColorSettings.h"
-#include "pde/PanelOperations.h"
-#include "toolkit/ControlEvent.h"
+#include "pde/interface/PanelOperations.h"
+#include "toolkit/controls/ControlEvent.h"
 
 #include <QPointer>
 

@@ -1,6 +1,6 @@
 #include "panels/color_options/SwatchStrip.h"
 
-#include "toolkit/KestaColors.h"
+#include "toolkit/style/KestaColors.h"
 
 #include <QPainter>
 #include <QPainterPath>

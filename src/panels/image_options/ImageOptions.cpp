@@ -1,7 +1,7 @@
 #include "panels/image_options/ImageOptions.h"
 
-#include "pde/TicketKeys.h"
-#include "pde/TicketUtilities.h"
+#include "pde/interface/TicketKeys.h"
+#include "pde/ticket/TicketUtilities.h"
 
 #include <array>
 

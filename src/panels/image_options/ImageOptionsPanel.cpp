@@ -1,10 +1,10 @@
 #include "panels/image_options/ImageOptionsPanel.h"
 
-#include "pde/MenuUtilities.h"
-#include "pde/TicketUtilities.h"
-#include "platform/Bundle.h"
-#include "toolkit/InterfaceFile.h"
-#include "toolkit/PictureView.h"
+#include "pde/menus/MenuUtilities.h"
+#include "pde/ticket/TicketUtilities.h"
+#include "platform/plugins/Bundle.h"
+#include "toolkit/controls/PictureView.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 #include <QAbstractButton>
 

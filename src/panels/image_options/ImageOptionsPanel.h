@@ -1,8 +1,8 @@
 #pragma once
 
 #include "panels/image_options/ImageOptions.h"
-#include "pde/PanelOperations.h"
-#include "toolkit/ControlEvent.h"
+#include "pde/interface/PanelOperations.h"
+#include "toolkit/controls/ControlEvent.h"
 
 #include <QPointer>
 

@@ -1,9 +1,9 @@
 #include "panels/paper_output/JobTypeSetups.h"
 
 #include "panels/paper_output/DelayedPrintTime.h"
-#include "pde/DialogCommands.h"
-#include "platform/Clock.h"
-#include "toolkit/InterfaceFile.h"
+#include "pde/forms/DialogCommands.h"
+#include "platform/system/Clock.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 #include <QLocale>
 #include <QTimeEdit>

@@ -1,6 +1,6 @@
 #include "panels/paper_output/DelayedPrintTime.h"
 
-#include "platform/Clock.h"
+#include "platform/system/Clock.h"
 
 namespace kesta {
 namespace {

@@ -1,7 +1,7 @@
 #include "panels/paper_output/FinishingMenus.h"
 
 #include "panels/paper_output/PaperOutputOptions.h"
-#include "platform/Bundle.h"
+#include "platform/plugins/Bundle.h"
 #include "printer/InstallableOptions.h"
 
 #include <algorithm>

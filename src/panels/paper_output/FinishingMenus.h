@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/Menu.h"
+#include "toolkit/controls/Menu.h"
 
 namespace kesta {
 struct Bundle;

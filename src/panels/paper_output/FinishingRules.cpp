@@ -1,6 +1,6 @@
 #include "panels/paper_output/FinishingRules.h"
 
-#include "pde/TicketKeys.h"
+#include "pde/interface/TicketKeys.h"
 #include "printer/InstallableOptions.h"
 
 #include <algorithm>

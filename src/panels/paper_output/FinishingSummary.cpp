@@ -1,9 +1,9 @@
 #include "panels/paper_output/FinishingSummary.h"
 
 #include "panels/paper_output/FinishingRules.h"
-#include "panels/special_pages/SeparatorsDialog.h"
-#include "panels/special_pages/StockSummary.h"
-#include "platform/Bundle.h"
+#include "panels/special_pages/paper/SeparatorsDialog.h"
+#include "panels/special_pages/paper/StockSummary.h"
+#include "platform/plugins/Bundle.h"
 
 using namespace Qt::StringLiterals;
 

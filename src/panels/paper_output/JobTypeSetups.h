@@ -1,7 +1,7 @@
 #pragma once
 
 #include "panels/paper_output/JobTypeDetails.h"
-#include "toolkit/ControlEvent.h"
+#include "toolkit/controls/ControlEvent.h"
 
 namespace kesta {
 

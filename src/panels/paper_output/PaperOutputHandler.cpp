@@ -1,14 +1,14 @@
 #include "panels/paper_output/PaperOutputHandler.h"
 
-#include "panels/booklet_watermark/BookletDialog.h"
+#include "panels/booklet_watermark/booklet/BookletDialog.h"
 #include "panels/paper_output/FinishingRules.h"
 #include "panels/paper_output/JobTypeSetups.h"
 #include "panels/paper_output/PaperOutputView.h"
-#include "panels/special_pages/SeparatorsDialog.h"
-#include "pde/TicketKeys.h"
-#include "pde/TicketUtilities.h"
-#include "toolkit/Controls.h"
-#include "toolkit/ModalLoop.h"
+#include "panels/special_pages/paper/SeparatorsDialog.h"
+#include "pde/interface/TicketKeys.h"
+#include "pde/ticket/TicketUtilities.h"
+#include "toolkit/controls/Controls.h"
+#include "toolkit/windows/ModalLoop.h"
 
 namespace kesta::paper_output {
 namespace {

@@ -1,9 +1,9 @@
 #include "panels/paper_output/PaperOutputOptions.h"
 
-#include "panels/special_pages/SeparatorsDialog.h"
-#include "pde/Mappings.h"
-#include "pde/TicketKeys.h"
-#include "pde/TicketUtilities.h"
+#include "panels/special_pages/paper/SeparatorsDialog.h"
+#include "pde/interface/TicketKeys.h"
+#include "pde/menus/Mappings.h"
+#include "pde/ticket/TicketUtilities.h"
 
 #include <algorithm>
 

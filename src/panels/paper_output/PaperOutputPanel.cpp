@@ -3,10 +3,10 @@
 #include "panels/paper_output/FinishingRules.h"
 #include "panels/paper_output/PaperOutputHandler.h"
 #include "panels/paper_output/PaperOutputView.h"
-#include "pde/TicketKeys.h"
-#include "pde/TicketUtilities.h"
-#include "platform/Bundle.h"
-#include "platform/Notices.h"
+#include "pde/interface/TicketKeys.h"
+#include "pde/ticket/TicketUtilities.h"
+#include "platform/plugins/Bundle.h"
+#include "platform/system/Notices.h"
 
 namespace kesta::paper_output {
 

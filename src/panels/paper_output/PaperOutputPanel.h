@@ -2,9 +2,9 @@
 
 #include "panels/paper_output/FinishingMenus.h"
 #include "panels/paper_output/PaperOutputOptions.h"
-#include "panels/special_pages/StockMenu.h"
-#include "pde/JobTypeCheck.h"
-#include "pde/PanelOperations.h"
+#include "panels/special_pages/paper/StockMenu.h"
+#include "pde/interface/JobTypeCheck.h"
+#include "pde/interface/PanelOperations.h"
 
 #include <QPointer>
 

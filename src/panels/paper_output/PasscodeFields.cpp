@@ -1,13 +1,13 @@
 #include "panels/paper_output/PasscodeFields.h"
 
 #include "panels/paper_output/JobTypeSetups.h"
-#include "pde/LocalizationUtilities.h"
-#include "pde/LocalizedText.h"
-#include "pde/TextFieldUtilities.h"
-#include "platform/Bundle.h"
-#include "platform/Notices.h"
-#include "toolkit/Controls.h"
-#include "toolkit/TextInput.h"
+#include "pde/forms/TextFieldUtilities.h"
+#include "pde/menus/LocalizationUtilities.h"
+#include "pde/ticket/LocalizedText.h"
+#include "platform/plugins/Bundle.h"
+#include "platform/system/Notices.h"
+#include "toolkit/controls/Controls.h"
+#include "toolkit/controls/TextInput.h"
 
 namespace kesta::jobtypes {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "panels/paper_output/PasscodeRules.h"
-#include "platform/Types.h"
+#include "platform/values/Types.h"
 
 class QLineEdit;
 class QWidget;

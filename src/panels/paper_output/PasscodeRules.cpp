@@ -1,6 +1,6 @@
 #include "panels/paper_output/PasscodeRules.h"
 
-#include "platform/RandomSource.h"
+#include "platform/system/RandomSource.h"
 
 namespace kesta {
 namespace {

@@ -2,17 +2,17 @@
 
 #include "panels/paper_output/PasscodeFields.h"
 #include "panels/paper_output/SavedJobRules.h"
-#include "pde/DialogCommands.h"
-#include "pde/LocalizationUtilities.h"
-#include "pde/MenuUtilities.h"
-#include "pde/TextFieldUtilities.h"
-#include "platform/Bundle.h"
-#include "platform/UserPreferences.h"
-#include "toolkit/HistoryComboBox.h"
-#include "toolkit/InterfaceFile.h"
-#include "toolkit/PictureView.h"
-#include "toolkit/TextInput.h"
-#include "toolkit/TypedValueHistory.h"
+#include "pde/forms/DialogCommands.h"
+#include "pde/forms/TextFieldUtilities.h"
+#include "pde/menus/LocalizationUtilities.h"
+#include "pde/menus/MenuUtilities.h"
+#include "platform/plugins/Bundle.h"
+#include "platform/system/UserPreferences.h"
+#include "toolkit/controls/HistoryComboBox.h"
+#include "toolkit/controls/PictureView.h"
+#include "toolkit/controls/TextInput.h"
+#include "toolkit/controls/TypedValueHistory.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 #include <QLineEdit>
 #include <QPushButton>

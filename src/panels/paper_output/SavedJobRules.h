@@ -1,7 +1,7 @@
 #pragma once
 
-#include "pde/SettingMap.h"
-#include "platform/Types.h"
+#include "pde/menus/SettingMap.h"
+#include "platform/values/Types.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
 #include "panels/paper_output/JobTypeSetups.h"
 
 #include "panels/paper_output/PasscodeFields.h"
-#include "pde/DialogCommands.h"
-#include "toolkit/InterfaceFile.h"
+#include "pde/forms/DialogCommands.h"
+#include "toolkit/windows/InterfaceFile.h"
 
 namespace kesta {
 namespace {

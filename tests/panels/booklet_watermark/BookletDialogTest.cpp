@@ -1,14 +1,14 @@
-#include "panels/booklet_watermark/BookletDialog.h"
+#include "panels/booklet_watermark/booklet/BookletDialog.h"
 
-#include "pde/MenuUtilities.h"
-#include "pde/TicketKeys.h"
-#include "pde/TicketUtilities.h"
+#include "pde/interface/TicketKeys.h"
+#include "pde/menus/MenuUtilities.h"
+#include "pde/ticket/TicketUtilities.h"
 #include "support/Accessories.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
 #include "support/User.h"
-#include "toolkit/PictureView.h"
-#include "toolkit/SpinField.h"
+#include "toolkit/controls/PictureView.h"
+#include "toolkit/controls/SpinField.h"
 
 #include <gtest/gtest.h>
 

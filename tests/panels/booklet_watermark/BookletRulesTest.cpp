@@ -1,7 +1,7 @@
-#include "panels/booklet_watermark/BookletRules.h"
+#include "panels/booklet_watermark/booklet/BookletRules.h"
 
-#include "pde/TicketKeys.h"
-#include "platform/Ticket.h"
+#include "pde/interface/TicketKeys.h"
+#include "platform/printsystem/Ticket.h"
 
 #include <gtest/gtest.h>
 

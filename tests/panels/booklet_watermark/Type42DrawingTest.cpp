@@ -1,8 +1,8 @@
 // Draws glyphs of converted fonts with an interpreter and compares them with what a rasterizer makes of the originals.
 
-#include "panels/booklet_watermark/Sfnt.h"
-#include "panels/booklet_watermark/SfntName.h"
-#include "panels/booklet_watermark/Type42.h"
+#include "panels/booklet_watermark/fonts/Sfnt.h"
+#include "panels/booklet_watermark/fonts/SfntName.h"
+#include "panels/booklet_watermark/fonts/Type42.h"
 
 #include <QFile>
 #include <QProcess>

@@ -1,7 +1,7 @@
-#include "panels/booklet_watermark/Type42.h"
+#include "panels/booklet_watermark/fonts/Type42.h"
 #include "panels/booklet_watermark/FontBuilder.h"
-#include "panels/booklet_watermark/Sfnt.h"
-#include "panels/booklet_watermark/SfntName.h"
+#include "panels/booklet_watermark/fonts/Sfnt.h"
+#include "panels/booklet_watermark/fonts/SfntName.h"
 
 #include <QByteArrayList>
 

@@ -1,5 +1,5 @@
 #include "panels/booklet_watermark/FontBuilder.h"
-#include "panels/booklet_watermark/Type42.h"
+#include "panels/booklet_watermark/fonts/Type42.h"
 
 #include <QFile>
 #include <QProcess>

@@ -1,4 +1,4 @@
-#include "panels/booklet_watermark/WatermarkData.h"
+#include "panels/booklet_watermark/watermark/WatermarkData.h"
 
 #include "support/TestTexts.h"
 

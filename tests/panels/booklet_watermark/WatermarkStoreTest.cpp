@@ -1,8 +1,8 @@
-#include "panels/booklet_watermark/WatermarkStore.h"
+#include "panels/booklet_watermark/watermark/WatermarkStore.h"
 
-#include "panels/booklet_watermark/WatermarkFile.h"
-#include "platform/PropertyList.h"
-#include "platform/SafeFile.h"
+#include "platform/system/SafeFile.h"
+#include "platform/system/SharedStoreFile.h"
+#include "platform/values/PropertyList.h"
 #include "support/SmallDisk.h"
 #include "support/TestTexts.h"
 

@@ -2,7 +2,7 @@
 
 #include "panels/paper_output/FinishingSummary.h"
 #include "panels/paper_output/PaperOutputPictures.h"
-#include "pde/TicketKeys.h"
+#include "pde/interface/TicketKeys.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
 

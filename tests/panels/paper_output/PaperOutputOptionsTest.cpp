@@ -1,8 +1,8 @@
 #include "panels/paper_output/PaperOutputOptions.h"
 
-#include "pde/TicketKeys.h"
-#include "pde/TicketUtilities.h"
-#include "platform/JobSettings.h"
+#include "pde/interface/TicketKeys.h"
+#include "pde/ticket/TicketUtilities.h"
+#include "platform/printsystem/JobSettings.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
 

@@ -1,16 +1,16 @@
 #include "panels/paper_output/PaperOutputPanel.h"
 
 #include "panels/PanelFixture.h"
-#include "panels/booklet_watermark/BookletDialog.h"
+#include "panels/booklet_watermark/booklet/BookletDialog.h"
 #include "panels/paper_output/JobTypeSetups.h"
-#include "panels/special_pages/SeparatorsDialog.h"
-#include "pde/MenuUtilities.h"
-#include "pde/TicketKeys.h"
-#include "pde/TicketUtilities.h"
+#include "panels/special_pages/paper/SeparatorsDialog.h"
+#include "pde/interface/TicketKeys.h"
+#include "pde/menus/MenuUtilities.h"
+#include "pde/ticket/TicketUtilities.h"
 #include "support/Accessories.h"
 #include "support/Recorders.h"
-#include "toolkit/MenuButton.h"
-#include "toolkit/SummaryTextView.h"
+#include "toolkit/controls/MenuButton.h"
+#include "toolkit/controls/SummaryTextView.h"
 
 #include <algorithm>
 

@@ -1,13 +1,13 @@
-#include "panels/special_pages/StockMenu.h"
+#include "panels/special_pages/paper/StockMenu.h"
 
-#include "panels/special_pages/CustomStockSizeDialog.h"
+#include "panels/special_pages/paper/CustomStockSizeDialog.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
 #include "support/User.h"
-#include "toolkit/MenuButton.h"
-#include "toolkit/PictureView.h"
-#include "toolkit/PopupButton.h"
-#include "toolkit/SummaryTextView.h"
+#include "toolkit/controls/MenuButton.h"
+#include "toolkit/controls/PictureView.h"
+#include "toolkit/controls/PopupButton.h"
+#include "toolkit/controls/SummaryTextView.h"
 
 #include <gtest/gtest.h>
 

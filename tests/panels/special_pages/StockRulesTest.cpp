@@ -1,6 +1,6 @@
-#include "panels/special_pages/StockIcon.h"
-#include "panels/special_pages/StockMenuRules.h"
-#include "panels/special_pages/StockSummary.h"
+#include "panels/special_pages/paper/StockIcon.h"
+#include "panels/special_pages/paper/StockMenuRules.h"
+#include "panels/special_pages/paper/StockSummary.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
 

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "platform/printsystem/Ticket.h"
+
+#include <QString>
+
+#include <array>
+#include <optional>
+
+namespace kesta::host {
+
+// The print system's own keys, which the dialog writes and the panels read. A released key never changes its meaning.
+inline constexpr char kHostClient[] = "com.kesta.print.host";
+
+namespace key {
+
+inline constexpr char JobName[] = "com.apple.print.JobInfo.PMJobName";                            // string
+inline constexpr char Copies[] = "com.apple.print.PrintSettings.PMCopies";                        // number, from 1
+inline constexpr char LayoutNUp[] = "com.apple.print.PrintSettings.PMLayoutNUp";                  // boolean
+inline constexpr char Duplexing[] = "com.apple.print.PrintSettings.PMDuplexing";                  // number, 1..3
+inline constexpr char PagesPerSheet[] = "com.kesta.print.host.PagesPerSheet";                     // number
+inline constexpr char PageRanges[] = "com.kesta.print.host.PageRanges";                           // "1-4,7"
+inline constexpr char Orientation[] = "com.apple.print.PageFormat.PMOrientation";                 // number, 1..4
+inline constexpr char UnadjustedPaperRect[] = "com.apple.print.PageFormat.PMUnadjustedPaperRect"; // 4 reals
+
+} // namespace key
+
+enum class Orientation : SInt32 { Portrait = 1, Landscape = 2, ReversePortrait = 3, ReverseLandscape = 4 };
+
+inline constexpr SInt32 kMostCopies = 9999;
+inline constexpr auto kPagesPerSheet = std::to_array<SInt32>({1, 2, 4, 6, 9, 16});
+
+// What the dialog's own controls edit.
+struct HostSettings {
+    QString jobName = {};
+    SInt32 copies = 1;       // 1..kMostCopies
+    QString pageRanges = {}; // "1-4,7"; empty for all pages
+    Orientation orientation = Orientation::Portrait;
+    SInt32 pagesPerSheet = 1; // one of kPagesPerSheet
+
+    bool operator==(const HostSettings&) const = default;
+};
+
+void WriteTickets(const HostSettings& settings, Ticket& printSettings, Ticket& pageFormat);
+
+// An entry that is missing, of another type or out of range gives the default.
+HostSettings ReadTickets(const Ticket& printSettings, const Ticket& pageFormat);
+
+// The sheet as the printer knows it, before orientation and margins: points, origin at the top left.
+struct PaperRect {
+    double top = 0;
+    double left = 0;
+    double bottom = 0;
+    double right = 0;
+
+    bool operator==(const PaperRect&) const = default;
+};
+
+void WritePaperRect(const PaperRect& paper, Ticket& pageFormat);
+std::optional<PaperRect> ReadPaperRect(const Ticket& pageFormat);
+
+// How sides are printed unless a panel says otherwise: 1 one-sided, 2 and 3 two-sided. What stands in the ticket stays.
+void WriteInitialDuplexing(SInt32 duplexing, Ticket& printSettings);
+
+// The duplexing that a choice of the printer's option "Duplex" stands for.
+SInt32 DuplexingOfChoice(QAnyStringView choice);
+
+} // namespace kesta::host

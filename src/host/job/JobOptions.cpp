@@ -1,0 +1,75 @@
+#include "host/job/JobOptions.h"
+
+#include <cups/cups.h>
+
+#include <algorithm>
+
+namespace kesta::host {
+namespace {
+
+constexpr qsizetype kLongestName = 255;     // the print protocol's limit for a keyword
+constexpr qsizetype kLongestValue = 32'767; // and for a value
+
+auto Find(auto& options, QAnyStringView name)
+{
+    return std::ranges::find_if(options, [name](const JobOption& option) {
+        return QAnyStringView::compare(option.name, name, Qt::CaseInsensitive) == 0;
+    });
+}
+
+bool IsNameCharacter(QChar c)
+{
+    return c.isPrint() && !c.isSpace() && !QStringLiteral("=\"'\\{}").contains(c);
+}
+
+bool IsLostInValues(QChar c)
+{
+    return c.category() == QChar::Other_Control && c != u'\t' && c != u'\n';
+}
+
+} // namespace
+
+std::optional<QString> FindJobOption(const JobOptions& options, QAnyStringView name)
+{
+    const auto found = Find(options, name);
+    return found == options.end() ? std::nullopt : std::optional(found->value);
+}
+
+void SetJobOption(JobOptions& options, QAnyStringView name, const QString& value)
+{
+    if (const auto found = Find(options, name); found != options.end())
+        found->value = value;
+    else
+        options.push_back({name.toString(), value});
+}
+
+void RemoveJobOption(JobOptions& options, QAnyStringView name)
+{
+    if (const auto found = Find(options, name); found != options.end())
+        options.erase(found);
+}
+
+void ParseJobOptions(const QByteArray& text, JobOptions& options)
+{
+    cups_option_t* parsed = nullptr;
+    const int count = cupsParseOptions(text.constData(), 0, &parsed);
+    for (int i = 0; i < count; ++i)
+        SetJobOption(options, QString::fromUtf8(parsed[i].name), QString::fromUtf8(parsed[i].value));
+    cupsFreeOptions(count, parsed);
+}
+
+std::optional<QString> JobOptionFault(const JobOption& option)
+{
+    if (option.name.isEmpty() || option.name.size() > kLongestName ||
+        !std::ranges::all_of(option.name, IsNameCharacter))
+        return QStringLiteral("\"%1\" is not an option's name; give -o NAME=VALUE").arg(option.name);
+    if (option.value.toUtf8().size() > kLongestValue)
+        return QStringLiteral("the value of option \"%1\" is longer than %2 bytes").arg(option.name).arg(kLongestValue);
+    if (std::ranges::any_of(option.value, IsLostInValues))
+        return QStringLiteral("the value of option \"%1\" has a control character, which would get lost on the way; "
+                              "leave it out")
+            .arg(option.name);
+    return std::nullopt;
+}
+
+} // namespace kesta::host

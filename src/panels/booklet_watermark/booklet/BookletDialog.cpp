@@ -1,0 +1,186 @@
+#include "panels/booklet_watermark/booklet/BookletDialog.h"
+
+#include "panels/booklet_watermark/booklet/BookletRules.h"
+#include "panels/special_pages/paper/StockMenuRules.h"
+#include "pde/forms/DialogCommands.h"
+#include "pde/menus/LocalizationUtilities.h"
+#include "pde/menus/MenuUtilities.h"
+#include "pde/ticket/LocalizedText.h"
+#include "pde/ticket/TicketUtilities.h"
+#include "platform/plugins/Bundle.h"
+#include "printer/InstallableOptions.h"
+#include "toolkit/controls/PictureView.h"
+#include "toolkit/controls/SpinField.h"
+#include "toolkit/windows/InterfaceFile.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kesta::booklet {
+namespace {
+
+// What is a choice only while the layout is on.
+constexpr auto kLayoutControls =
+    std::to_array<Control>({kDrawOutlinesBox, kNewSizeLabel, kNewSizePopup, kGutterLabel, kGutterField, kGutterRange,
+                            kCreepLabel, kCreepField, kCreepRange});
+
+struct FoldRadio {
+    Control radio;
+    SInt32 fold;
+};
+constexpr auto kFoldRadios = std::to_array<FoldRadio>({
+    {kFoldNoneRadio, kBookletFoldNone},
+    {kFoldRadio, kBookletFold},
+    {kFoldAndStapleRadio, kBookletFoldAndStaple},
+});
+
+// The controls of one window; those that it lacks are null, and nothing is shown in or read from them.
+struct BookletWindow {
+    QWidget& window;
+
+    QWidget* control(SInt32 number) const { return FindControl(&window, {kSignature, number}); }
+    PopupButton* newSize() const { return FindPopupButton(&window, {kSignature, kNewSizePopup}); }
+    SpinField* spin(SInt32 number) const { return FindControlAs<SpinField>(&window, {kSignature, number}); }
+    bool isChecked(SInt32 number) const
+    {
+        const auto* button = FindControlAs<QAbstractButton>(&window, {kSignature, number});
+        return button && button->isChecked();
+    }
+    void check(SInt32 number, bool checked = true) const
+    {
+        if (auto* button = FindControlAs<QAbstractButton>(&window, {kSignature, number}))
+            button->setChecked(checked);
+    }
+};
+
+void BuildSizeMenu(const BookletWindow& dialog, const Bundle& bundle)
+{
+    if (!dialog.newSize())
+        return;
+    // As for covers: their menu, too, begins with an item for no size, and offers no custom one, whose width and length
+    // the booklet could not keep.
+    Menu menu;
+    PopulateStockSizeMenu(menu, bundle, JobContext::Cover);
+    SetLocalizedMenuTitle(bundle, "Off", &menu, 1);
+    dialog.newSize()->setMenu(std::move(menu));
+}
+
+void SetLimits(SpinField* field, SInt32 most, int decimals)
+{
+    if (field)
+        field->setLimits(0, most, decimals);
+}
+
+void BuildControls(const BookletWindow& dialog, const Bundle& bundle)
+{
+    BuildSizeMenu(dialog, bundle);
+    SetLimits(dialog.spin(kGutterField), kGreatestGutter, 0);
+    SetLimits(dialog.spin(kCreepField), kGreatestCreep, 1);
+    SetLocalizedStaticText(bundle, "Gutter Range Label", dialog.control(kGutterRange),
+                           {QString::number(0), QString::number(kGreatestGutter)});
+    SetLocalizedStaticText(bundle, "Creep Range Label", dialog.control(kCreepRange),
+                           {CreateLocalizedCFStringFromNumberWithDecimals(0, 1),
+                            CreateLocalizedCFStringFromNumberWithDecimals(kGreatestCreep, 1)});
+}
+
+void EnableControls(const BookletWindow& dialog)
+{
+    for (const Control number : kLayoutControls)
+        SetControlEnabled(dialog.control(number), dialog.isChecked(kLayoutOnRadio));
+
+    const PrintSession* session = GetCurrentPrintSession();
+    const Ticket* settings = session ? GetTicketFromSession(*session, kPMPrintSettingsTicket).ticket : nullptr;
+    const bool isLocked = settings && SpecialPagesLockBooklet(*settings);
+    for (const Control number : {kFoldNoneRadio, kFoldRadio, kFoldAndStapleRadio, kLayoutOnRadio})
+        SetControlEnabled(dialog.control(number), !isLocked);
+}
+
+// The first checked radio decides; without any the fold stays.
+SInt32 ChosenFold(const BookletWindow& dialog, SInt32 before)
+{
+    const auto chosen =
+        std::ranges::find_if(kFoldRadios, [&](const FoldRadio& row) { return dialog.isChecked(row.radio); });
+    return chosen == kFoldRadios.end() ? before : chosen->fold;
+}
+
+void SyncToUI(const BookletWindow& dialog, const _BookletCreationParams& params)
+{
+    const auto fold = std::ranges::find(kFoldRadios, params.fold, &FoldRadio::fold);
+    dialog.check(fold == kFoldRadios.end() ? kFoldNoneRadio : fold->radio);
+    dialog.check(params.layout == kBookletLayoutOn ? kLayoutOnRadio : kLayoutOffRadio);
+    dialog.check(kDrawOutlinesBox, params.drawOutlines == kDrawPageBorders);
+    if (!SetPopupButtonToTicketValue(dialog.newSize(), params.newPaperSize) && dialog.newSize())
+        dialog.newSize()->setValue(1);
+    if (SpinField* gutter = dialog.spin(kGutterField))
+        gutter->setNumber(params.gutter);
+    if (SpinField* creep = dialog.spin(kCreepField))
+        creep->setNumber(params.creep);
+}
+
+void SyncFromUI(const BookletWindow& dialog, _BookletCreationParams& params)
+{
+    params.fold = ChosenFold(dialog, params.fold);
+    params.layout = dialog.isChecked(kLayoutOnRadio) ? kBookletLayoutOn : kBookletLayoutOff;
+    params.drawOutlines = dialog.isChecked(kDrawOutlinesBox) ? kDrawPageBorders : kNoPageBorders;
+    if (const PopupButton* popup = dialog.newSize())
+        params.newPaperSize = GetPopupButtonTicketValue(popup);
+    if (const SpinField* gutter = dialog.spin(kGutterField))
+        params.gutter = gutter->number();
+    if (const SpinField* creep = dialog.spin(kCreepField))
+        params.creep = creep->number();
+}
+
+void ShowIllustration(const BookletWindow& dialog, const _BookletCreationParams& before)
+{
+    _BookletCreationParams shown = before;
+    SyncFromUI(dialog, shown);
+    if (auto* picture = FindControlAs<PictureView>(&dialog.window, {kSignature, kIllustration}))
+        picture->setPicture(QString::fromLatin1(BookletIllustration(shown.layout, shown.fold, shown.drawOutlines)));
+}
+
+OSStatus RunModalBookletDialog(_BookletCreationParams& params, QAnyStringView windowName)
+{
+    if (!params.bundle)
+        return kMissingArgument;
+    const std::unique_ptr<QWidget> window = CreateWindowFromNib(*params.bundle, "BookletCreation", windowName);
+    if (!window)
+        return kInterfaceFileUnreadable;
+    const BookletWindow dialog{*window};
+    BuildControls(dialog, *params.bundle);
+    SyncToUI(dialog, params);
+    EnableControls(dialog);
+    ShowIllustration(dialog, params);
+    const EventHandler handler = InstallEventHandler(*window, [&](const HitEvent&) {
+        EnableControls(dialog);
+        ShowIllustration(dialog, params);
+        return EventResult::NotHandled;
+    });
+    if (RunModalDialog(*params.bundle, *window, {}) != ModalResult::OK)
+        return kBookletDialogCancelled;
+    SyncFromUI(dialog, params);
+    return noErr;
+}
+
+bool FoldsBooklets()
+{
+    return getInstalledFeature("BookletFoldKey") || getInstalledFeature("BiFoldMultiple") ||
+           getInstalledFeature("BiFoldStapleMultiple");
+}
+
+} // namespace
+} // namespace kesta::booklet
+
+namespace kesta {
+
+OSStatus RunModalBookletOptionsDialog(_BookletCreationParams& params)
+{
+    return booklet::RunModalBookletDialog(params,
+                                          booklet::FoldsBooklets() ? "BookletFinishingOptions" : "BookletOptions");
+}
+
+OSStatus RunModalBookletCreationDialog(_BookletCreationParams& params)
+{
+    return booklet::RunModalBookletDialog(params, "BookletCreation");
+}
+
+} // namespace kesta

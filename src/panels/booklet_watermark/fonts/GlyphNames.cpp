@@ -1,0 +1,142 @@
+#include "panels/booklet_watermark/fonts/GlyphNames.h"
+
+namespace kesta::booklet_watermark {
+
+// clang-format off
+const std::array<std::string_view, 256> _StandardEncodings = std::to_array<std::string_view>({
+    ".notdef", ".notdef", ".notdef", ".notdef", // 0
+    ".notdef", ".notdef", ".notdef", ".notdef", // 4
+    ".notdef", ".notdef", ".notdef", ".notdef", // 8
+    ".notdef", ".notdef", ".notdef", ".notdef", // 12
+    ".notdef", ".notdef", ".notdef", ".notdef", // 16
+    ".notdef", ".notdef", ".notdef", ".notdef", // 20
+    ".notdef", ".notdef", ".notdef", ".notdef", // 24
+    ".notdef", ".notdef", ".notdef", ".notdef", // 28
+    "space", "exclam", "quotedbl", "numbersign", // 32
+    "dollar", "percent", "ampersand", "quoteright", // 36
+    "parenleft", "parenright", "asterisk", "plus", // 40
+    "comma", "hyphen", "period", "slash", // 44
+    "zero", "one", "two", "three", // 48
+    "four", "five", "six", "seven", // 52
+    "eight", "nine", "colon", "semicolon", // 56
+    "less", "equal", "greater", "question", // 60
+    "at", "A", "B", "C", // 64
+    "D", "E", "F", "G", // 68
+    "H", "I", "J", "K", // 72
+    "L", "M", "N", "O", // 76
+    "P", "Q", "R", "S", // 80
+    "T", "U", "V", "W", // 84
+    "X", "Y", "Z", "bracketleft", // 88
+    "backslash", "bracketright", "asciicircum", "underscore", // 92
+    "quoteleft", "a", "b", "c", // 96
+    "d", "e", "f", "g", // 100
+    "h", "i", "j", "k", // 104
+    "l", "m", "n", "o", // 108
+    "p", "q", "r", "s", // 112
+    "t", "u", "v", "w", // 116
+    "x", "y", "z", "braceleft", // 120
+    "bar", "braceright", "asciitilde", ".notdef", // 124
+    ".notdef", ".notdef", ".notdef", ".notdef", // 128
+    ".notdef", ".notdef", ".notdef", ".notdef", // 132
+    ".notdef", ".notdef", ".notdef", ".notdef", // 136
+    ".notdef", ".notdef", ".notdef", ".notdef", // 140
+    ".notdef", ".notdef", ".notdef", ".notdef", // 144
+    ".notdef", ".notdef", ".notdef", ".notdef", // 148
+    ".notdef", ".notdef", ".notdef", ".notdef", // 152
+    ".notdef", ".notdef", ".notdef", ".notdef", // 156
+    ".notdef", "exclamdown", "cent", "sterling", // 160
+    "fraction", "yen", "florin", "section", // 164
+    "currency", "quotesingle", "quotedblleft", "guillemotleft", // 168
+    "guilsinglleft", "guilsinglright", "fi", "fl", // 172
+    ".notdef", "endash", "dagger", "daggerdbl", // 176
+    "periodcentered", ".notdef", "paragraph", "bullet", // 180
+    "quotesinglbase", "quotedblbase", "quotedblright", "guillemotright", // 184
+    "ellipsis", "perthousand", ".notdef", "questiondown", // 188
+    ".notdef", "grave", "acute", "circumflex", // 192
+    "tilde", "macron", "breve", "dotaccent", // 196
+    "dieresis", ".notdef", "ring", "cedilla", // 200
+    ".notdef", "hungarumlaut", "ogonek", "caron", // 204
+    "emdash", ".notdef", ".notdef", ".notdef", // 208
+    ".notdef", ".notdef", ".notdef", ".notdef", // 212
+    ".notdef", ".notdef", ".notdef", ".notdef", // 216
+    ".notdef", ".notdef", ".notdef", ".notdef", // 220
+    ".notdef", "AE", ".notdef", "ordfeminine", // 224
+    ".notdef", ".notdef", ".notdef", ".notdef", // 228
+    "Lslash", "Oslash", "OE", "ordmasculine", // 232
+    ".notdef", ".notdef", ".notdef", ".notdef", // 236
+    ".notdef", "ae", ".notdef", ".notdef", // 240
+    ".notdef", "dotlessi", ".notdef", ".notdef", // 244
+    "lslash", "oslash", "oe", "germandbls", // 248
+    ".notdef", ".notdef", ".notdef", ".notdef", // 252
+});
+
+const std::array<std::string_view, 258> _macGlyphEncoding = std::to_array<std::string_view>({
+    ".notdef", ".null", "nonmarkingreturn", "space", // 0
+    "exclam", "quotedbl", "numbersign", "dollar", // 4
+    "percent", "ampersand", "quotesingle", "parenleft", // 8
+    "parenright", "asterisk", "plus", "comma", // 12
+    "hyphen", "period", "slash", "zero", // 16
+    "one", "two", "three", "four", // 20
+    "five", "six", "seven", "eight", // 24
+    "nine", "colon", "semicolon", "less", // 28
+    "equal", "greater", "question", "at", // 32
+    "A", "B", "C", "D", // 36
+    "E", "F", "G", "H", // 40
+    "I", "J", "K", "L", // 44
+    "M", "N", "O", "P", // 48
+    "Q", "R", "S", "T", // 52
+    "U", "V", "W", "X", // 56
+    "Y", "Z", "bracketleft", "backslash", // 60
+    "bracketright", "asciicircum", "underscore", "grave", // 64
+    "a", "b", "c", "d", // 68
+    "e", "f", "g", "h", // 72
+    "i", "j", "k", "l", // 76
+    "m", "n", "o", "p", // 80
+    "q", "r", "s", "t", // 84
+    "u", "v", "w", "x", // 88
+    "y", "z", "braceleft", "bar", // 92
+    "braceright", "asciitilde", "Adieresis", "Aring", // 96
+    "Ccedilla", "Eacute", "Ntilde", "Odieresis", // 100
+    "Udieresis", "aacute", "agrave", "acircumflex", // 104
+    "adieresis", "atilde", "aring", "ccedilla", // 108
+    "eacute", "egrave", "ecircumflex", "edieresis", // 112
+    "iacute", "igrave", "icircumflex", "idieresis", // 116
+    "ntilde", "oacute", "ograve", "ocircumflex", // 120
+    "odieresis", "otilde", "uacute", "ugrave", // 124
+    "ucircumflex", "udieresis", "dagger", "degree", // 128
+    "cent", "sterling", "section", "bullet", // 132
+    "paragraph", "germandbls", "registered", "copyright", // 136
+    "trademark", "acute", "dieresis", "notequal", // 140
+    "AE", "Oslash", "infinity", "plusminus", // 144
+    "lessequal", "greaterequal", "yen", "mu", // 148
+    "partialdiff", "summation", "product", "pi", // 152
+    "integral", "ordfeminine", "ordmasculine", "Omega", // 156
+    "ae", "oslash", "questiondown", "exclamdown", // 160
+    "logicalnot", "radical", "florin", "approxequal", // 164
+    "Delta", "guillemotleft", "guillemotright", "ellipsis", // 168
+    "nonbreakingspace", "Agrave", "Atilde", "Otilde", // 172
+    "OE", "oe", "endash", "emdash", // 176
+    "quotedblleft", "quotedblright", "quoteleft", "quoteright", // 180
+    "divide", "lozenge", "ydieresis", "Ydieresis", // 184
+    "fraction", "currency", "guilsinglleft", "guilsinglright", // 188
+    "fi", "fl", "daggerdbl", "periodcentered", // 192
+    "quotesinglbase", "quotedblbase", "perthousand", "Acircumflex", // 196
+    "Ecircumflex", "Aacute", "Edieresis", "Egrave", // 200
+    "Iacute", "Icircumflex", "Idieresis", "Igrave", // 204
+    "Oacute", "Ocircumflex", "apple", "Ograve", // 208
+    "Uacute", "Ucircumflex", "Ugrave", "dotlessi", // 212
+    "circumflex", "tilde", "macron", "breve", // 216
+    "dotaccent", "ring", "cedilla", "hungarumlaut", // 220
+    "ogonek", "caron", "Lslash", "lslash", // 224
+    "Scaron", "scaron", "Zcaron", "zcaron", // 228
+    "brokenbar", "Eth", "eth", "Yacute", // 232
+    "yacute", "Thorn", "thorn", "minus", // 236
+    "multiply", "onesuperior", "twosuperior", "threesuperior", // 240
+    "onehalf", "onequarter", "threequarters", "franc", // 244
+    "Gbreve", "gbreve", "Idotaccent", "Scedilla", // 248
+    "scedilla", "Cacute", "cacute", "Ccaron", // 252
+    "ccaron", "dcroat", // 256
+});
+// clang-format on
+
+} // namespace kesta::booklet_watermark

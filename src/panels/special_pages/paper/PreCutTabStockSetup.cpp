@@ -1,0 +1,27 @@
+#include "panels/special_pages/paper/PreCutTabStockSetup.h"
+
+#include "panels/special_pages/paper/TabStockRules.h"
+#include "pde/forms/DialogCommands.h"
+#include "toolkit/controls/SpinField.h"
+#include "toolkit/windows/InterfaceFile.h"
+
+namespace kesta {
+
+OSStatus RunModalPreCutTabStockSetup(const Bundle& bundle, DialogMode, JobContext, Stock& stock, ModalResult& result)
+{
+    using namespace precuttab;
+    const std::unique_ptr<QWidget> window = CreateWindowFromNib(bundle, "PreCutTabStockSetup", "PreCutTabStockSetup");
+    auto* field = FindControlAs<SpinField>(window.get(), {kSignature, kSequenceField});
+    if (!field)
+        return kInterfaceFileUnreadable;
+    field->setLimits(kTabSequenceLimits.least, kTabSequenceLimits.most);
+    field->setNumber(TabsInSequence(stock));
+    field->selectAll();
+    SetControlText(FindControl(window.get(), {kSignature, kSequenceLimits}), TabSequenceLimitsText(bundle));
+    result = RunModalDialog(bundle, *window, {});
+    if (result == ModalResult::OK)
+        stock.setModulus(field->number());
+    return noErr;
+}
+
+} // namespace kesta

@@ -1,0 +1,130 @@
+#include "panels/special_pages/paper/StockMenuRules.h"
+
+#include "platform/plugins/Bundle.h"
+#include "printer/InstallableOptions.h"
+#include "printer/PPDUtilities.h"
+
+#include <algorithm>
+
+namespace kesta {
+namespace {
+
+void Populate(Menu& menu, const Bundle& bundle, PPDKeyword keyword, FourCharCode command, JobContext context)
+{
+    menu.items.clear(); // also without a PPD
+    PPDPopulateMenuWithChoices(menu, PPDGetCurrent(), keyword, command, Conflicting::Keep);
+    if (context != JobContext::Job)
+        menu.items.insert(menu.items.begin(),
+                          {.title = LocalizedString(bundle, "UseJobSetting"), .command = command, .value = kUnset});
+}
+
+void RemoveFirst(Menu& menu, SInt32 value)
+{
+    const auto found = std::ranges::find(menu.items, value, &MenuItem::value);
+    if (found != menu.items.end())
+        menu.items.erase(found);
+}
+
+using PopulateFunction = void (*)(Menu&, const Bundle&, JobContext);
+
+MenuItem SubmenuItem(const Bundle& bundle, const char* key, PopulateFunction populate, JobContext context)
+{
+    Menu submenu;
+    populate(submenu, bundle, context);
+    return {
+        .title = LocalizedString(bundle, key), .enabled = !submenu.items.empty(), .submenu = std::move(submenu.items)};
+}
+
+bool HasCommand(const MenuItem& item, FourCharCode command)
+{
+    return item.submenu.empty() ? item.command == command : item.submenu.front().command == command;
+}
+
+} // namespace
+
+void PopulateStockSizeMenu(Menu& menu, const Bundle& bundle, JobContext context)
+{
+    Populate(menu, bundle, "PageSize", kStockSizeCommand, context);
+    if (context != JobContext::Cover)
+        return;
+    SInt32 const custom = kStockSizeCustom;
+    const auto found = std::ranges::find(menu.items, custom, &MenuItem::value);
+    if (found != menu.items.end())
+        found->enabled = false;
+}
+
+void PopulateStockTypeMenu(Menu& menu, const Bundle& bundle, JobContext context)
+{
+    Populate(menu, bundle, "MediaType", kStockTypeCommand, context);
+    if (context == JobContext::Job)
+        return;
+    RemoveFirst(menu, kStockTypeSystemDefault);
+    RemoveFirst(menu, kStockTypeUnspecified);
+}
+
+void PopulateStockColorMenu(Menu& menu, const Bundle& bundle, JobContext context)
+{
+    Populate(menu, bundle, "MediaColor", kStockColorCommand, context);
+    if (context != JobContext::Job)
+        RemoveFirst(menu, kStockColorUnspecified);
+}
+
+void PopulateStockMenu(Menu& menu, const Bundle& bundle, JobContext context)
+{
+    menu.items.clear();
+    if (context != JobContext::Job)
+        menu.items.push_back(SubmenuItem(bundle, "OtherSize", PopulateStockSizeMenu, context));
+    menu.items.push_back(SubmenuItem(bundle, "OtherColor", PopulateStockColorMenu, context));
+    menu.items.push_back(SubmenuItem(bundle, "OtherType", PopulateStockTypeMenu, context));
+    menu.items.push_back({.separator = true});
+    menu.items.push_back({.separator = true});
+    if (context != JobContext::Cover && context != JobContext::Insert)
+        return;
+    if (const auto inserter = CopyLocalizedStringForInstalledFeatureFromPlugin("PostPrintInserterKey", bundle))
+        menu.items.push_back(
+            {.title = *inserter, .command = kStockSourceCommand, .value = kStockSourcePostPrintInserter});
+}
+
+void EnableStockCommand(Menu& menu, FourCharCode command, bool enabled)
+{
+    for (MenuItem& item : menu.items) {
+        if (HasCommand(item, command))
+            item.enabled = enabled;
+    }
+}
+
+void ForgetStockName(Stock& stock)
+{
+    stock.setCustomName({});
+    stock.setCustomNameOnly(false);
+}
+
+bool ApplyStockCommand(Stock& stock, JobContext context, FourCharCode command, SInt32 value)
+{
+    switch (command) {
+    case kStockSizeCommand:
+        if (value == kStockSizeCustom)
+            return false;
+        stock.setSize(value);
+        break;
+    case kStockColorCommand:
+        stock.setColor(value);
+        break;
+    case kStockTypeCommand:
+        stock.setType(value);
+        break;
+    case kStockSourceCommand:
+        stock.setSource(value);
+        return true;
+    case kStockDefaultsCommand:
+        DefaultStock(stock, context);
+        return true;
+    default:
+        return false;
+    }
+    stock.setSource(kUnset);
+    ForgetStockName(stock);
+    return true;
+}
+
+} // namespace kesta

@@ -1,0 +1,108 @@
+#include "panels/special_pages/paper/StockSummary.h"
+
+#include "platform/plugins/Bundle.h"
+#include "printer/InstallableOptions.h"
+#include "printer/PPDUtilities.h"
+
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta {
+namespace {
+
+using Text = std::optional<QString>;
+
+Text TextIfAny(const QString& text)
+{
+    return text.isEmpty() ? Text() : Text(text);
+}
+
+Text ChoiceText(PPDKeyword keyword, SInt32 value)
+{
+    const char* choice = PPDChoiceForTicketValue(keyword, value);
+    return choice ? PPDCopyChoiceText(PPDGetCurrent(), keyword.name(), choice) : std::nullopt;
+}
+
+Text WithModulus(const Text& text, SInt32 modulus)
+{
+    return text && modulus != kUnset ? *text + u" ("_s + QString::number(modulus) + u')' : text;
+}
+
+Text TypeText(const Bundle& bundle, const Stock& stock)
+{
+    switch (stock.type()) {
+    case kStockTypePrecutTab:
+        return WithModulus(LocalizedString(bundle, "StockTypePrecutTab"), stock.modulus());
+    case kStockTypeOrdered:
+        return WithModulus(TextIfAny(stock.customType()), stock.modulus());
+    case kStockTypeText:
+        return TextIfAny(stock.customType());
+    case kStockTypeTabStock:
+    case kStockTypeHeavyTabStock:
+        return WithModulus(ChoiceText("MediaType", stock.type()), stock.modulus() > 0 ? stock.modulus() : kUnset);
+    default:
+        return ChoiceText("MediaType", stock.type());
+    }
+}
+
+class Parts {
+public:
+    explicit Parts(const Bundle& bundle) : bundle_(bundle) {}
+
+    void add(const Text& text)
+    {
+        if (text)
+            parts_ << "- "_L1 + *text;
+    }
+    void addNamed(const char* key, const Text& text)
+    {
+        if (text)
+            parts_ << LocalizedString(bundle_, key) + LocalizedString(bundle_, ":") + *text;
+    }
+    QString joined(const QString& separator) const { return parts_.join(separator); }
+
+private:
+    const Bundle& bundle_;
+    QStringList parts_;
+};
+
+void AddPaper(Parts& parts, const Bundle& bundle, JobContext context, const Stock& stock)
+{
+    const bool isJob = context == JobContext::Job;
+    parts.addNamed("StockName", TextIfAny(stock.customName()));
+    if (stock.customNameOnly())
+        return;
+    if (!isJob && stock.size() != kUnset)
+        parts.add(ChoiceText("PageSize", stock.size()));
+    if (stock.color() == kStockColorText)
+        parts.addNamed("StockColor", TextIfAny(stock.customColor()));
+    else if (isJob || stock.color() != kUnset)
+        parts.add(ChoiceText("MediaColor", stock.color()));
+    if (isJob || stock.type() != kUnset)
+        parts.add(TypeText(bundle, stock));
+}
+
+} // namespace
+
+QString GenerateStockSummary(const Bundle& bundle, JobContext context, const Stock& stock, const QString& separator)
+{
+    Parts parts(bundle);
+    if (stock.source() == kUnset)
+        AddPaper(parts, bundle, context, stock);
+    else if (stock.source() == kStockSourcePostPrintInserter)
+        parts.add(CopyLocalizedStringForInstalledFeatureFromPlugin("PostPrintInserterKey", bundle));
+    return parts.joined(separator);
+}
+
+QString StockSummaryText(const Bundle& bundle, const Stock* stock, JobContext context)
+{
+    if (!stock)
+        return u""_s;
+    const QString summary = GenerateStockSummary(bundle, context, *stock, u"\n"_s);
+    if (!summary.isEmpty())
+        return summary;
+    return LocalizedString(bundle, context == JobContext::Job ? "PrinterDefault" : "UseJobSetting");
+}
+
+} // namespace kesta

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "panels/special_pages/paper/CustomSizeRules.h"
+#include "pde/menus/SettingMap.h"
+
+#include <array>
+
+namespace kesta {
+
+class Stock;
+struct Bundle;
+struct _IS_Options;
+
+// How far the print moves onto the tabs.
+inline constexpr SInt32 kTabShiftNone = 1;
+inline constexpr SInt32 kTabShiftLetterTemplate = 2;
+inline constexpr SInt32 kTabShiftA4Template = 3;
+inline constexpr SInt32 kTabShiftCustom = 4;
+inline constexpr auto _TabStockSetupMap = std::to_array<SettingRow>({
+    {"None", kTabShiftNone},
+    {"0.5\" (8.5x11\" Template)", kTabShiftLetterTemplate},
+    {"12.7 mm (A4 Template)", kTabShiftA4Template},
+    {"Custom", kTabShiftCustom},
+});
+inline constexpr auto _TabStockRadioMap = std::to_array<SettingRow>({
+    {"Inches", static_cast<SInt32>(SizeUnits::Inches)},
+    {"Millimeters", static_cast<SInt32>(SizeUnits::Millimetres)},
+});
+static_assert(_TabStockSetupMap.size() == 4 && _TabStockRadioMap.size() == 2);
+
+inline constexpr FieldLimits kTabSequenceLimits{1, 254};
+
+// Tabs in a set as the stock's modulus says; 3 when it does not.
+SInt32 TabsInSequence(const Stock& stock);
+QString TabSequenceLimitsText(const Bundle& bundle);
+
+// Shifts are whole millimetres; the field counts these or tenths of an inch. Both conversions truncate.
+SInt32 TabShiftToInches(SInt32 millimetres);
+SInt32 TabShiftToMillimetres(SInt32 tenthsOfInch);
+FieldLimits TabShiftLimits(SizeUnits units);
+
+// What the dialog shows of the options, and makes of them. A shift of 13 millimetres is a template's whatever stored
+// it; the field counts with a custom shift alone.
+struct TabShift {
+    SInt32 choice = kTabShiftNone;
+    SInt32 field = 0;
+
+    bool operator==(const TabShift&) const = default;
+};
+TabShift TabShiftFromOptions(const _IS_Options& options, SizeUnits units);
+void ApplyTabShift(const TabShift& shift, SizeUnits units, _IS_Options& options);
+
+} // namespace kesta

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "toolkit/controls/ControlEvent.h"
+#include "toolkit/windows/ModalLoop.h"
+
+#include <functional>
+
+namespace kesta {
+
+struct Bundle;
+
+// What the buttons that every dialog has do: OK and Cancel end the dialog, Help opens the page of the bundle's book.
+EventResult HandleDialogCommand(const Bundle& bundle, QWidget& window, FourCharCode command, const QString& helpPage);
+
+// Runs a dialog whose buttons do no more than that; where OK may be refused, only once it is accepted.
+ModalResult RunModalDialog(const Bundle& bundle, QWidget& window, const QString& helpPage,
+                           const std::function<bool()>& accepts = {});
+
+} // namespace kesta

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/values/Types.h"
+
+#include <functional>
+
+namespace kesta {
+
+struct Bundle;
+
+inline constexpr SInt32 kJobTypeFax = 5;
+inline constexpr SInt32 kJobTypeSecurePrint = 6;
+
+// What the shell has to know before it lets OK through, answered by the panel in which the user chooses the job type.
+// All functions must be set; they are called on the dialog's thread while the registration lives.
+struct JobTypeCheck {
+    std::function<SInt32()> jobType = {};
+    std::function<bool()> hasPasscode = {};              // asked for secure jobs
+    std::function<bool()> hasFaxRecipients = {};         // asked for faxes
+    std::function<void(const Bundle&)> runFaxSetup = {}; // lets the user name recipients, modally
+};
+
+// Holds the check of the panel that registered last; destroying it takes the check away, unless another panel has
+// registered one since.
+class JobTypeCheckRegistration {
+public:
+    explicit JobTypeCheckRegistration(JobTypeCheck check);
+    ~JobTypeCheckRegistration();
+    JobTypeCheckRegistration(const JobTypeCheckRegistration&) = delete;
+    JobTypeCheckRegistration& operator=(const JobTypeCheckRegistration&) = delete;
+
+private:
+    JobTypeCheck check_;
+};
+
+// Null while no panel with job types is loaded: nothing is held back then.
+const JobTypeCheck* GetJobTypeCheck();
+
+} // namespace kesta

@@ -1,0 +1,110 @@
+#include "platform/printsystem/PPDFileCheck.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QFileInfo>
+
+#include <zlib.h>
+
+#include <map>
+#include <memory>
+#include <string_view>
+
+namespace kesta {
+namespace {
+
+// Far above real descriptions; at these limits the library needs less than half a second.
+constexpr qsizetype kMaximumMegabytes = 4;
+constexpr qsizetype kMaximumSize = kMaximumMegabytes * 1024 * 1024;
+constexpr int kMaximumLines = 100'000;
+constexpr int kMaximumOfOneKeyword = 2000;
+
+struct CloseGzip {
+    void operator()(gzFile file) const { gzclose(file); }
+};
+
+// The unpacked bytes, at most one more than the limit; nothing when they can't be read.
+std::optional<QByteArray> ReadUnpacked(const QString& path)
+{
+    const std::unique_ptr<gzFile_s, CloseGzip> file(gzopen(QFile::encodeName(path).constData(), "rb"));
+    if (!file)
+        return std::nullopt;
+    QByteArray content(kMaximumSize + 1, Qt::Uninitialized);
+    const int size = gzread(file.get(), content.data(), static_cast<unsigned>(content.size()));
+    if (size < 0)
+        return std::nullopt;
+    content.truncate(size);
+    return content;
+}
+
+// "OpenUI" of "*OpenUI *Jog/Offset: PickOne"; empty for a comment, for code and for what is counted elsewhere.
+std::string_view MainKeyword(std::string_view line)
+{
+    if (!line.starts_with('*') || line.starts_with("*%") || line.starts_with("*End"))
+        return {};
+    line.remove_prefix(1);
+    const std::string_view keyword = line.substr(0, line.find_first_of(" \t:/"));
+    // Constraints come in thousands and cost the library no more than any line.
+    return keyword == "UIConstraints" || keyword == "NonUIConstraints" ? std::string_view() : keyword;
+}
+
+std::optional<QString> LineProblem(std::string_view content)
+{
+    std::map<std::string_view, int> count;
+    int lines = 0;
+    while (!content.empty()) {
+        const std::size_t end = content.find_first_of("\r\n");
+        const std::string_view keyword = MainKeyword(content.substr(0, end));
+        content.remove_prefix(end == std::string_view::npos ? content.size() : end + 1);
+        if (++lines > kMaximumLines)
+            return QStringLiteral("it has more than %1 lines").arg(kMaximumLines);
+        if (!keyword.empty() && ++count[keyword] > kMaximumOfOneKeyword)
+            return QStringLiteral("it has more than %1 lines of *%2")
+                .arg(kMaximumOfOneKeyword)
+                .arg(QString::fromLatin1(keyword.data(), qMin<qsizetype>(keyword.size(), 40)));
+    }
+    return std::nullopt;
+}
+
+// Whether the last of the things that are opened is not closed: the file was not written or fetched whole.
+bool BreaksOff(const QByteArray& content)
+{
+    const auto isOpen = [&content](const char* opening, const char* closing) {
+        return content.lastIndexOf(opening) > content.lastIndexOf(closing);
+    };
+    return isOpen("\n*OpenUI", "\n*CloseUI") || isOpen("\n*JCLOpenUI", "\n*JCLCloseUI") ||
+           isOpen("\n*OpenGroup", "\n*CloseGroup");
+}
+
+std::optional<QString> ContentProblem(const QByteArray& content)
+{
+    if (content.size() > kMaximumSize)
+        return QStringLiteral("it is larger than %1 MB").arg(kMaximumMegabytes);
+    if (!content.startsWith("*PPD-Adobe:"))
+        return QStringLiteral("it does not begin as a PPD file does");
+    if (content.contains('\0'))
+        return QStringLiteral("it holds bytes that are not text");
+    if (std::optional<QString> problem = LineProblem({content.constData(), static_cast<std::size_t>(content.size())}))
+        return problem;
+    return BreaksOff(content) ? std::optional(QStringLiteral("it breaks off in the middle")) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<QString> PPDFileProblem(const QString& path)
+{
+    const auto sentence = [&](const QString& reason) {
+        return QStringLiteral("The printer description %1 can't be used: %2.").arg(path, reason);
+    };
+    if (!QFileInfo::exists(path))
+        return sentence(QStringLiteral("there is no such file"));
+    if (!QFileInfo(path).isFile()) // reading a pipe or a device might never end
+        return sentence(QStringLiteral("it is not a file"));
+    const std::optional<QByteArray> content = ReadUnpacked(path);
+    if (!content)
+        return sentence(QStringLiteral("it can't be read"));
+    const std::optional<QString> problem = ContentProblem(*content);
+    return problem ? std::optional(sentence(*problem)) : std::nullopt;
+}
+
+} // namespace kesta

@@ -1,0 +1,127 @@
+#include "platform/system/SharedStoreFile.h"
+
+#include "platform/system/Directories.h"
+#include "platform/system/SafeFile.h"
+#include "platform/values/PropertyList.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace kesta {
+namespace {
+
+constexpr char kFolder[] = "/Kesta";
+
+// Everything that a list may have is read.
+constexpr qsizetype kLargestStoreFile = PropertyListLimits().bytes;
+
+std::optional<mode_t> Mode(const QString& path)
+{
+    struct stat status = {};
+    if (lstat(QFile::encodeName(path).constData(), &status) != 0)
+        return std::nullopt;
+    return status.st_mode;
+}
+
+bool IsAllowed(const QString& path, int access)
+{
+    return ::access(QFile::encodeName(path).constData(), access) == 0;
+}
+
+// Open to whom the folder above is open, whatever the umask: sharing is decided by who set up that one.
+void ShareLikeFolder(const QString& path, mode_t bits)
+{
+    if (const std::optional<mode_t> folder = Mode(QFileInfo(path).path()))
+        chmod(QFile::encodeName(path).constData(), *folder & bits);
+}
+
+void MakeSharedFolder(const QString& path)
+{
+    if (mkdir(QFile::encodeName(path).constData(), S_IRWXU) == 0)
+        ShareLikeFolder(path, ALLPERMS);
+}
+
+// In a folder that others may write to as well, a link could lead to any file of this user's: nothing but a plain file
+// will do.
+bool CanKeepShared(const QString& folder, const QString& path)
+{
+    const std::optional<mode_t> file = Mode(path);
+    return IsAllowed(folder, R_OK | W_OK | X_OK) && (!file || (S_ISREG(*file) && IsAllowed(path, R_OK | W_OK)));
+}
+
+bool IsFileName(const QString& name)
+{
+    return !name.isEmpty() && !name.startsWith(u'.') && !name.contains(u'/') && !name.contains(QChar());
+}
+
+// Nothing when the file can't be understood.
+std::optional<Dictionary> ReadRoot(const QString& path)
+{
+    const FileContent content = ReadFile(path, kLargestStoreFile);
+    if (!content.bytes)
+        return std::nullopt;
+    PropertyListResult list = ParsePropertyList(*content.bytes);
+    if (Dictionary* root = list.value ? list.value->dictionary() : nullptr)
+        return std::move(*root);
+    const QString problem = list.value ? QStringLiteral("the list is not a dictionary") : list.error;
+    std::fprintf(stderr, "CopyXMLData()::CFPropertyListCreateFromXMLData() error: %s\n", qPrintable(problem));
+    return std::nullopt;
+}
+
+int WriteRoot(const QString& path, const Dictionary& root)
+{
+    const bool isNew = !QFileInfo::exists(path);
+    if (const std::optional<FileError> error = WriteFile(path, WritePropertyList(root)))
+        return error->code;
+    if (isNew)
+        ShareLikeFolder(path, DEFFILEMODE);
+    return 0;
+}
+
+} // namespace
+
+std::optional<QString> CopyPreferenceFileURL(QAnyStringView file)
+{
+    const QString name = file.toString();
+    if (!IsFileName(name))
+        return std::nullopt;
+    const QString shared = MachineDirectory() + QLatin1String(kFolder);
+    const QString sharedPath = shared + u'/' + name;
+    MakeSharedFolder(shared);
+    if (CanKeepShared(shared, sharedPath))
+        return sharedPath;
+    const QString data = DataDirectory();
+    if (data.isEmpty() || !MakeDirectory(data + QLatin1String(kFolder)))
+        return std::nullopt;
+    return data + QLatin1String(kFolder) + u'/' + name;
+}
+
+std::optional<Dictionary> CopyXMLData(QAnyStringView file)
+{
+    const std::optional<QString> path = CopyPreferenceFileURL(file);
+    return path ? ReadRoot(*path) : std::nullopt;
+}
+
+int ChangeXMLData(QAnyStringView file, WhenUnreadable whenUnreadable, const Change& change)
+{
+    const std::optional<QString> path = CopyPreferenceFileURL(file);
+    if (!path)
+        return ENOENT;
+    std::optional<Dictionary> root = ReadRoot(*path);
+    if (!root) {
+        if (whenUnreadable == WhenUnreadable::DoNothing)
+            return 0;
+        if (QFileInfo::exists(*path) && !KeepAsDamaged(*path))
+            return errno;
+        root.emplace();
+    }
+    change(*root);
+    return WriteRoot(*path, *root);
+}
+
+} // namespace kesta

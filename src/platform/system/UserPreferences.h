@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/values/Value.h"
+
+namespace kesta {
+
+// Property lists in the user's preferences folder, by their plain file names.
+
+// An empty dictionary when the file is missing or can't be parsed, and a file that can't be parsed is kept aside as
+// damaged; nothing only when there is no preferences folder or the name is not a plain one.
+std::optional<Dictionary> CopyUserPreferences(QAnyStringView file);
+
+// Readable by the user alone. On failure prints "WriteUserPreferences() failed (%d)" with the error code and answers
+// false; the file is then as it was.
+bool WriteUserPreferences(QAnyStringView file, const Dictionary& preferences);
+
+} // namespace kesta

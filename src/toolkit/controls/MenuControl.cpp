@@ -1,0 +1,156 @@
+#include "toolkit/controls/MenuControl.h"
+
+#include "toolkit/controls/AccessibleControls.h"
+#include "toolkit/controls/ControlEvent.h"
+
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPointer>
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace kesta {
+namespace {
+
+// Opens where the control ends, as wide as the control at least, and above it where the screen ends.
+void ShowBelow(QMenu& menu, const QWidget& control)
+{
+    menu.setMinimumWidth(control.width());
+    const bool rightToLeft = control.isRightToLeft();
+    QPoint corner = control.mapToGlobal(rightToLeft ? control.rect().bottomRight() : control.rect().bottomLeft());
+    if (rightToLeft)
+        corner.rx() -= std::max(menu.sizeHint().width(), control.width()) - 1;
+    menu.exec(corner);
+}
+
+} // namespace
+
+MenuControl::MenuControl(QWidget* parent) : QAbstractButton(parent)
+{
+    InstallAccessibleControls();
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(this, &QAbstractButton::pressed, this, [this] {
+        setDown(false);
+        openMenu();
+    });
+}
+
+void MenuControl::replaceMenu(Menu menu)
+{
+    menu_ = std::move(menu);
+}
+
+void MenuControl::changeItems(const std::function<void(Menu&)>& change)
+{
+    change(menu_);
+    menuChanged();
+    updateGeometry();
+}
+
+bool MenuControl::isOffered(int) const
+{
+    return true;
+}
+
+int MenuControl::currentItem() const
+{
+    return 0;
+}
+
+bool MenuControl::isMarked(int, const MenuItem& item) const
+{
+    return item.checked;
+}
+
+const MenuItem* MenuControl::itemAt(const MenuPath& path) const
+{
+    const std::vector<MenuItem>* items = &menu_.items;
+    const MenuItem* item = nullptr;
+    for (const int position : path) {
+        if (position < 1 || position > static_cast<int>(items->size()) || (item && !item->enabled))
+            return nullptr;
+        item = &(*items)[static_cast<std::size_t>(position) - 1];
+        items = &item->submenu;
+    }
+    return item;
+}
+
+bool MenuControl::chooseFromOpenMenu(const MenuPath& path)
+{
+    const MenuItem* item = itemAt(path);
+    if (!isEnabled() || !item || !item->enabled || item->separator || !item->submenu.empty() ||
+        !isOffered(path.front()))
+        return false;
+    sendChosen(path, MenuItem(*item)); // a copy: handlers may refill the menu
+    return true;
+}
+
+bool MenuControl::chooseItem(const MenuPath& path)
+{
+    if (!isEnabled())
+        return false;
+    const QPointer<MenuControl> alive = this;
+    SendControlEvent(*this, MenuEnableItemsEvent{});
+    return alive && chooseFromOpenMenu(path);
+}
+
+bool MenuControl::chooseItem(int position, int submenuPosition)
+{
+    return chooseItem(submenuPosition ? MenuPath{position, submenuPosition} : MenuPath{position});
+}
+
+void MenuControl::addActions(QMenu& shown, const std::vector<MenuItem>& items, const MenuPath& owner)
+{
+    MenuPath path = owner;
+    path.push_back(0);
+    for (const MenuItem& item : items) {
+        ++path.back();
+        QString title = item.title;
+        title.replace(QLatin1Char('&'), QLatin1String("&&")); // titles carry no mnemonics
+        if (item.separator) {
+            shown.addSeparator();
+        } else if (!item.submenu.empty()) {
+            QMenu* submenu = shown.addMenu(title);
+            submenu->setEnabled(item.enabled);
+            addActions(*submenu, item.submenu, path);
+        } else {
+            QAction* action = shown.addAction(title);
+            const bool marked = owner.empty() ? isMarked(path.back(), item) : item.checked;
+            action->setCheckable(marked);
+            action->setChecked(marked);
+            action->setEnabled(item.enabled && isOffered(path.front()));
+            connect(action, &QAction::triggered, this, [this, path] { chooseFromOpenMenu(path); });
+        }
+    }
+}
+
+void MenuControl::openMenu()
+{
+    const QPointer<MenuControl> alive = this;
+    SendControlEvent(*this, MenuEnableItemsEvent{});
+    if (!alive || !isEnabled() || menu_.items.empty())
+        return;
+    const QPointer<QMenu> shown = new QMenu(this); // a handler may delete the control, and the menu with it
+    addActions(*shown, menu_.items, {});
+    const int current = currentItem();
+    if (current >= 1 && current <= shown->actions().size())
+        QTimer::singleShot(0, shown, [shown, current] { shown->setActiveAction(shown->actions()[current - 1]); });
+    ShowBelow(*shown, *this);
+    delete shown;
+}
+
+void MenuControl::keyPressEvent(QKeyEvent* event)
+{
+    const bool altDown = event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier;
+    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_F4 || altDown)
+        openMenu();
+    else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
+        event->ignore(); // abstract buttons move the focus
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+} // namespace kesta

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "toolkit/controls/Menu.h"
+
+#include <QAbstractButton>
+
+#include <functional>
+#include <vector>
+
+class QMenu;
+
+namespace kesta {
+
+// Positions from 1: of the item in the menu, then of the item in its submenu, and so on.
+using MenuPath = std::vector<int>;
+
+// What pop-up and menu buttons have in common: a menu as plain data, opened by a click, Space, Alt+Down or F4.
+class MenuControl : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit MenuControl(QWidget* parent);
+
+    const Menu& menu() const { return menu_; }
+    void changeItems(const std::function<void(Menu&)>& change); // titles, marks, enabling: the maximum stays
+
+    // What the user does, opening the menu included: false, and nothing sent, when the control, the item or a menu on
+    // the way is disabled, or there is no such item, or it is a separator or a submenu's title.
+    bool chooseItem(const MenuPath& path);
+    bool chooseItem(int position, int submenuPosition = 0);
+
+    void openMenu();
+
+protected:
+    void replaceMenu(Menu menu); // without a look at value or maximum
+    virtual void menuChanged() = 0;
+    virtual int currentItem() const;            // where an open menu begins; 0 without one
+    virtual bool isOffered(int position) const; // of the top level
+    virtual bool isMarked(int position, const MenuItem& item) const;
+    virtual void sendChosen(const MenuPath& path, const MenuItem& item) = 0; // may delete the control
+
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void addActions(QMenu& shown, const std::vector<MenuItem>& items, const MenuPath& owner);
+    const MenuItem* itemAt(const MenuPath& path) const;
+    bool chooseFromOpenMenu(const MenuPath& path);
+
+    Menu menu_;
+};
+
+} // namespace kesta

@@ -1,0 +1,132 @@
+#include "toolkit/windows/ModalLoop.h"
+
+#include "toolkit/controls/Mnemonics.h"
+#include "toolkit/windows/FitToScreen.h"
+#include "toolkit/windows/InterfaceFile.h"
+
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QPushButton>
+#include <QTimer>
+#include <QWindow>
+
+#include <utility>
+#include <vector>
+
+namespace kesta {
+namespace {
+
+struct Loop {
+    QPointer<QWidget> window;
+    QEventLoop events{};
+    QTimer idle{}; // with no delay: fires when the loop has run out of events
+    ModalResult result = ModalResult::Cancel;
+};
+
+struct ModalState {
+    std::vector<Loop*> loops; // innermost last
+    ModalIdleAction idleAction;
+};
+
+ModalState& State()
+{
+    static ModalState state;
+    return state;
+}
+
+void ActWhenIdle(const Loop& loop)
+{
+    if (State().loops.back() != &loop || !loop.window || !State().idleAction)
+        return;
+    const ModalIdleAction action = State().idleAction; // it may replace itself
+    action(*loop.window);
+}
+
+// Keys reach the window when no control in it took them.
+class WindowEvents : public QObject {
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto& window = static_cast<QWidget&>(*watched);
+        if (event->type() == QEvent::Close)
+            EndModalLoop(window, ModalResult::Cancel);
+        return event->type() == QEvent::KeyPress && pressButton(window, static_cast<QKeyEvent&>(*event));
+    }
+
+private:
+    static bool pressButton(QWidget& window, const QKeyEvent& key)
+    {
+        if (key.modifiers() & ~Qt::KeypadModifier)
+            return false;
+        if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) {
+            auto* focused = qobject_cast<QPushButton*>(window.focusWidget());
+            QPushButton* button = focused ? focused : GetWindowDefaultButton(window);
+            ClickControl(button);
+            return button;
+        }
+        if (key.key() != Qt::Key_Escape)
+            return false;
+        QPushButton* cancel = GetWindowCancelButton(window);
+        cancel ? ClickControl(cancel) : static_cast<void>(window.close());
+        return true;
+    }
+};
+
+void ShowInFront(QWidget& window, const QWidget* before)
+{
+    window.setWindowModality(Qt::ApplicationModal);
+    window.winId(); // makes its native window
+    if (before && before->windowHandle() && !window.parentWidget())
+        window.windowHandle()->setTransientParent(before->windowHandle());
+    AssignMnemonics(window);
+    FitToScreen(window);
+    window.show();
+    window.activateWindow();
+}
+
+} // namespace
+
+ModalResult RunModalLoop(QWidget& window)
+{
+    Loop loop{.window = &window};
+    QObject::connect(&loop.idle, &QTimer::timeout, [&loop] { ActWhenIdle(loop); });
+    QObject::connect(&window, &QObject::destroyed, &loop.events, &QEventLoop::quit);
+    const QWidget* before = FrontModalWindow();
+    State().loops.push_back(&loop);
+
+    WindowEvents windowEvents;
+    window.installEventFilter(&windowEvents);
+    if (State().idleAction)
+        loop.idle.start();
+    ShowInFront(window, before);
+    loop.events.exec();
+    std::erase(State().loops, &loop);
+    if (loop.window)
+        loop.window->hide();
+    return loop.result;
+}
+
+void EndModalLoop(QWidget& window, ModalResult result)
+{
+    for (Loop* loop : State().loops) {
+        if (loop->window == &window) {
+            loop->result = result;
+            loop->events.quit();
+        }
+    }
+}
+
+QWidget* FrontModalWindow()
+{
+    return State().loops.empty() ? nullptr : State().loops.back()->window.data();
+}
+
+ModalIdleAction SetModalIdleAction(ModalIdleAction action)
+{
+    for (Loop* loop : State().loops)
+        action ? loop->idle.start() : loop->idle.stop();
+    return std::exchange(State().idleAction, std::move(action));
+}
+
+} // namespace kesta

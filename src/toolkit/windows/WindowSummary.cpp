@@ -1,0 +1,88 @@
+#include "toolkit/windows/WindowSummary.h"
+
+#include "toolkit/controls/PopupButton.h"
+#include "toolkit/controls/SummaryTextView.h"
+
+#include <QVariant>
+
+#include <map>
+
+using namespace Qt::StringLiterals;
+
+namespace kesta {
+namespace {
+
+constexpr char kPlace[] = "summaryPlace";
+constexpr char kDefault[] = "summaryDefault";
+
+void Mark(QWidget* control, SummaryPlace place, const QVariant& shownByDefault)
+{
+    if (!control)
+        return;
+    control->setProperty(kPlace, static_cast<SInt32>(place));
+    control->setProperty(kDefault, shownByDefault);
+}
+
+bool IsHiddenItself(const QWidget& control)
+{
+    return control.testAttribute(Qt::WA_WState_ExplicitShowHide) && control.testAttribute(Qt::WA_WState_Hidden);
+}
+
+QStringList FactsOf(const PopupButton& popup)
+{
+    const MenuItem* item = popup.selectedItem();
+    return item && item->value != popup.property(kDefault).toInt() ? QStringList(item->title) : QStringList();
+}
+
+QStringList FactsOf(const SummaryTextView& view)
+{
+    const QStringList byDefault = SummaryFacts(view.property(kDefault).toString());
+    QStringList facts = SummaryFacts(view.text());
+    facts.removeIf([&](const QString& fact) { return byDefault.contains(fact); });
+    return facts;
+}
+
+} // namespace
+
+void ShowInSummary(PopupButton* popup, SummaryPlace place, SInt32 defaultValue)
+{
+    Mark(popup, place, defaultValue);
+}
+
+void ShowInSummary(QWidget* summaryTextView, SummaryPlace place, const QString& defaultText)
+{
+    Mark(summaryTextView, place, defaultText);
+}
+
+QStringList SummaryFacts(const QString& summary)
+{
+    QStringList facts;
+    for (const QString& line : summary.split(u'\n')) {
+        const QString fact = line.startsWith(u"- "_s) ? line.sliced(2).trimmed() : line.trimmed();
+        if (!fact.isEmpty())
+            facts << fact;
+    }
+    return facts;
+}
+
+QStringList WindowSummary(const QWidget& window)
+{
+    std::map<SInt32, QStringList> found;
+    for (const QWidget* control : window.findChildren<QWidget*>()) {
+        const QVariant place = control->property(kPlace);
+        if (!place.isValid() || IsHiddenItself(*control))
+            continue;
+        if (const auto* popup = qobject_cast<const PopupButton*>(control))
+            found[place.toInt()] += FactsOf(*popup);
+        else if (const auto* view = qobject_cast<const SummaryTextView*>(control))
+            found[place.toInt()] += FactsOf(*view);
+    }
+    QStringList phrases;
+    for (const auto& [place, facts] : found) {
+        if (!facts.isEmpty())
+            phrases << facts.join(u", "_s);
+    }
+    return phrases;
+}
+
+} // namespace kesta
