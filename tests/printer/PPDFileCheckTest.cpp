@@ -17,6 +17,7 @@
 namespace kesta {
 namespace {
 
+using test::Bare;
 using test::PPDVariant;
 
 QByteArray Repeated(int count, const char* before, const char* after)
