@@ -6,6 +6,8 @@ namespace kesta {
 
 // Property lists in the user's preferences folder, by their plain file names.
 
+inline constexpr char kInputHistoryFile[] = "com.kesta.print.inputhistory.plist"; // the texts typed into fields
+
 // An empty dictionary when the file is missing or can't be parsed, and a file that can't be parsed is kept aside as
 // damaged; nothing only when there is no preferences folder or the name is not a plain one.
 std::optional<Dictionary> CopyUserPreferences(QAnyStringView file);
