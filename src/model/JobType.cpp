@@ -12,10 +12,10 @@ Dictionary CopyEntries(const Ticket& settings)
 {
     if (const Dictionary* stored = settings.values().dictionary(key::JobType))
         return *stored;
-    return {{"MediaType", Number::Index(1)},
-            {"JobType", Number::SInt32(kJobTypeNormal)},
-            {"UseJobName", true},
-            {"SavedJobName", ""}};
+    return {{key::JobTypeMediaType, Number::Index(1)},
+            {key::JobTypeNumber, Number::SInt32(kJobTypeNormal)},
+            {key::JobTypeUseJobName, true},
+            {key::JobTypeSavedJobName, ""}};
 }
 
 std::optional<QString> ReadText(const Dictionary& entries, const char* key)
@@ -44,35 +44,35 @@ void ReadJobType(JobType& job, const Ticket& settings)
 {
     job.entries = CopyEntries(settings);
     const auto index = [&](const char* key) { return CFDictionaryGetNumber<SInt64>(job.entries, key); };
-    const SInt32 number = CFDictionaryGetNumber<SInt32>(job.entries, "JobType").value_or(kJobTypeNormal);
+    const SInt32 number = CFDictionaryGetNumber<SInt32>(job.entries, key::JobTypeNumber).value_or(kJobTypeNormal);
 
     job.number = number >= kJobTypeNormal && number <= kHighestJobType ? number : kJobTypeNormal;
-    job.mediaTypeInJob = index("MediaType").value_or(1);
-    job.useJobName = job.entries.boolean("UseJobName").value_or(true);
-    job.savedJobName = ReadText(job.entries, "SavedJobName");
-    job.savedJobLocation = ReadText(job.entries, "SavedJobLocation");
+    job.mediaTypeInJob = index(key::JobTypeMediaType).value_or(1);
+    job.useJobName = job.entries.boolean(key::JobTypeUseJobName).value_or(true);
+    job.savedJobName = ReadText(job.entries, key::JobTypeSavedJobName);
+    job.savedJobLocation = ReadText(job.entries, key::JobTypeSavedJobLocation);
     job.useDefaultLocation = !job.savedJobLocation;
-    job.securePasscode = ReadText(job.entries, "SecurePrintPassword");
+    job.securePasscode = ReadText(job.entries, key::JobTypeSecurePrintPassword);
     job.hasPasscode = job.securePasscode.has_value();
-    job.delayedPrintTime = index("DelayedPrintTime").value_or(job.delayedPrintTime);
-    job.saveDisposition = index("SaveDisposition").value_or(1);
+    job.delayedPrintTime = index(key::JobTypeDelayedPrintTime).value_or(job.delayedPrintTime);
+    job.saveDisposition = index(key::JobTypeSaveDisposition).value_or(1);
 }
 
 void WriteJobType(JobType& job, const TicketWriter& settings)
 {
     Dictionary& entries = job.entries;
-    entries.set("MediaType", Number::Index(job.mediaTypeInJob));
-    entries.set("UseJobName", job.useJobName);
-    entries.set("JobType", Number::SInt32(job.number));
-    SetOrRemove(entries, "SavedJobName", job.useJobName, job.savedJobName);
-    SetOrRemove(entries, "SavedJobLocation", job.useDefaultLocation, job.savedJobLocation);
+    entries.set(key::JobTypeMediaType, Number::Index(job.mediaTypeInJob));
+    entries.set(key::JobTypeUseJobName, job.useJobName);
+    entries.set(key::JobTypeNumber, Number::SInt32(job.number));
+    SetOrRemove(entries, key::JobTypeSavedJobName, job.useJobName, job.savedJobName);
+    SetOrRemove(entries, key::JobTypeSavedJobLocation, job.useDefaultLocation, job.savedJobLocation);
     if (job.securePasscode)
-        entries.set("SecurePrintPassword", *job.securePasscode);
-    entries.set("DelayedPrintTime", Number::SInt64(job.delayedPrintTime));
+        entries.set(key::JobTypeSecurePrintPassword, *job.securePasscode);
+    entries.set(key::JobTypeDelayedPrintTime, Number::SInt64(job.delayedPrintTime));
     if (job.number == kJobTypeSavedJob)
-        entries.set("SaveDisposition", Number::Index(job.saveDisposition));
+        entries.set(key::JobTypeSaveDisposition, Number::Index(job.saveDisposition));
     else
-        entries.remove("SaveDisposition");
+        entries.remove(key::JobTypeSaveDisposition);
     settings.set(key::JobType, entries);
 }
 
