@@ -150,13 +150,13 @@ JobFields FieldsOf(const Run& run)
         return ticket.values().find(key) && !FindJobOption(presets.options, option);
     };
     JobFields fields;
-    if (presets.copies || counts(settings, key::Copies, "copies"))
+    if (presets.copies || counts(settings, key::PMCopies, "copies"))
         fields.copies = values.copies;
     if (!presets.pageRanges.isEmpty() || counts(settings, key::PageRanges, "page-ranges"))
         fields.pageRanges = values.pageRanges;
     if (counts(settings, key::PagesPerSheet, "number-up"))
         fields.pagesPerSheet = values.pagesPerSheet;
-    if (counts(run.tickets.pageFormat, key::Orientation, "orientation-requested") &&
+    if (counts(run.tickets.pageFormat, key::PMOrientation, "orientation-requested") &&
         !FindJobOption(presets.options, "landscape"))
         fields.orientation = values.orientation;
     return fields;
