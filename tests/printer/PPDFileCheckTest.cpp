@@ -105,7 +105,7 @@ TEST(PPDFileCheck, AHostilePPDIsNoCurrentPPD)
     testing::internal::CaptureStderr();
     const test::CurrentPrinter hostile(ppd);
     EXPECT_EQ(PPDGetCurrent(), nullptr);
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("more than 2000 lines of *OpenUI"), std::string::npos);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("2000, OpenUI"), std::string::npos);
 }
 
 TEST(PPDFileCheck, WhatTheLibraryRefusesIsSaidWithItsLine)

@@ -18,7 +18,7 @@ struct RequestOrProblem {
 };
 RequestOrProblem DialogRequest(const CommandLine& commandLine, const Bundle& texts);
 
-// Sends the command line's files, and prints the job's number unless that is not wanted.
+// Sends the command line's files, and prints the job's number unless that is not wanted. Both arguments must outlive it.
 SendFunction DialogSender(const CommandLine& commandLine, const Bundle& texts);
 
 } // namespace kesta::host
