@@ -121,7 +121,7 @@ PaneMessage PrintDialog::whyNoPane() const
 {
     const Bundle& texts = *start_.texts;
     const QString stillWorks = start_.request.ppdPath.isEmpty() ? PrintText(texts, "Printing Still Works")
-                                                                    : PrintText(texts, "Saving Still Works");
+                                                                : PrintText(texts, "Saving Still Works");
     if (!start_.plugIn.plugIn)
         return {PrintText(texts, "No Plug-in Title"),
                 PrintText(texts, "No Plug-in Message").arg(Sentence(start_.plugIn.error, texts), stillWorks)};

@@ -173,8 +173,7 @@ bool PrintDialog::saveAfterPrint()
 // Nothing when it can't be told to the print server; the user knows why then.
 std::optional<AcceptedJob> PrintDialog::composeJob()
 {
-    AcceptedJob job{
-        .queue = printer_->queue.name, .title = start_.request.title, .settings = start_.request.settings};
+    AcceptedJob job{.queue = printer_->queue.name, .title = start_.request.title, .settings = start_.request.settings};
     if (!printer_->isQueue())
         return job;
     const HostSettings settings = fields_->settings();

@@ -121,7 +121,7 @@ DialogOutcome PrintDialog::run()
     qApp->removeEventFilter(this);
     sending_.reset();
     pane_.reset(); // Cancel: nothing more goes to the tickets
-    if (!end_) // the window was closed
+    if (!end_)     // the window was closed
         close(hasFailed_ ? DialogEnd::Failed : DialogEnd::Cancelled);
     return {*end_, end_ == DialogEnd::Accepted ? std::move(accepted_) : std::nullopt};
 }

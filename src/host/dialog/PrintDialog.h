@@ -36,8 +36,8 @@ struct DialogOutcome {
     std::optional<AcceptedJob> job = {}; // that was accepted
 };
 
-// The print dialog: its window, the chosen printer with its pane, and the job's tickets. It opens no document and prints
-// nothing itself.
+// The print dialog: its window, the chosen printer with its pane, and the job's tickets. It opens no document and
+// prints nothing itself.
 class PrintDialog : public QObject, public ScriptedDialog {
 public:
     explicit PrintDialog(DialogStart start);

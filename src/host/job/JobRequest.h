@@ -20,14 +20,14 @@ struct JobPresets {
 
 // What the dialog is asked for. The dialog opens no document and sends nothing: there may be no document yet.
 struct JobRequest {
-    QString server = {};                    // "host[:port][/version=1.1]" or a socket's path; empty: the default one
-    QString queue = {};                     // "queue" or "queue/instance"; empty: the default one
-    QString ppdPath = {};                   // a printer that is a description alone, in place of a queue
-    QString deviceURI = {};                 // that printer's address; empty: not known
-    std::optional<QString> document = {};   // its name for people; nothing: there is none, or it comes later
-    std::optional<QString> title = {};      // the job's; nothing: as the document
+    QString server = {};                  // "host[:port][/version=1.1]" or a socket's path; empty: the default one
+    QString queue = {};                   // "queue" or "queue/instance"; empty: the default one
+    QString ppdPath = {};                 // a printer that is a description alone, in place of a queue
+    QString deviceURI = {};               // that printer's address; empty: not known
+    std::optional<QString> document = {}; // its name for people; nothing: there is none, or it comes later
+    std::optional<QString> title = {};    // the job's; nothing: as the document
     JobPresets presets = {};
-    QString saveSettingsPath = {};          // where the settings go once they are accepted; empty: nowhere
+    QString saveSettingsPath = {}; // where the settings go once they are accepted; empty: nowhere
     // What the job starts from. The dialog works on them; of an accepted job they are the settings.
     std::shared_ptr<JobTickets> settings = std::make_shared<JobTickets>();
 };
