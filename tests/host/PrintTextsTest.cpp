@@ -140,6 +140,7 @@ TEST(PrintTexts, EveryKeyHasATextAndEveryTextIsUsed)
 TEST(PrintTexts, SentencesAreFilledInOnce)
 {
     const Bundle& texts = test::PrintBundle();
+    EXPECT_EQ(&HostTexts(), &texts) << "what the platform looks for is what the program has";
     EXPECT_EQ(test::OnConsole(Say("Request ID", u"a%2b-1"_s, 3)), u"request id is a%2b-1 (3 file(s))"_s);
     EXPECT_EQ(Sentence(Say("PPD Refused", u"x%2y.ppd"_s, 91, u"why"_s), texts),
               u"The printer description x%2y.ppd can’t be used: line 91: why."_s);

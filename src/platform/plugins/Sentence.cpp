@@ -48,7 +48,7 @@ QString Sentence(const Message& message, const Bundle& texts, std::initializer_l
 
 const Bundle& HostTexts()
 {
-    return BundleNamed("com.kesta.print.host");
+    return BundleNamed("com.kesta.print.dialog");
 }
 
 QString LocalizedCount(const Bundle& bundle, QAnyStringView key, int count, QAnyStringView table)
