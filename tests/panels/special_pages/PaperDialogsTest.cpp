@@ -6,6 +6,7 @@
 #include "panels/special_pages/paper/StockDescriptionSetup.h"
 #include "panels/special_pages/paper/StockTypeSetupDialog.h"
 #include "panels/special_pages/paper/TabStockRules.h"
+#include "pde/forms/DialogCommands.h"
 #include "pde/menus/MenuUtilities.h"
 #include "support/CurrentPrinter.h"
 #include "support/Recorders.h"
@@ -112,7 +113,7 @@ TEST_F(CustomSizeDialogTest, TheUnitsChosenAreThoseOfTheNextDialog)
         EXPECT_TRUE(test::Pick(units(window), 1));
         EXPECT_TRUE(test::Pick(units(window), 2));
         EXPECT_EQ(width(window).number(), 2100) << "there and back";
-        Press(window, customsize::kDefaultsCommand);
+        Press(window, kCommandDefaults);
         EXPECT_EQ(GetPopupButtonTicketValue(units(window)), 1);
         EXPECT_EQ(length(window).number(), 1100);
         Press(window, kCommandCancel);
@@ -266,7 +267,7 @@ TEST_F(PaperDialogsTest, SeparatorsEndWithTheDefaultsAndCancelChangesNothing)
     stock.setColor(kStockColorGreen);
     const auto press = [&](FourCharCode end) {
         user.then([=](QWidget& window) {
-            Press(window, kDefaultsCommand);
+            Press(window, kCommandDefaults);
             EXPECT_FALSE(popup(window, kSignature, kColorPopup)->isEnabled());
             Press(window, kCommandHelp);
             Press(window, end);
