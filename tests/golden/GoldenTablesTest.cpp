@@ -2,7 +2,8 @@
 #include "panels/advanced/AdvancedMaps.h"
 #include "panels/booklet_watermark/fonts/GlyphNames.h"
 #include "panels/paper_output/SavedJobRules.h"
-#include "panels/special_pages/paper/CustomSizeRules.h"
+#include "panels/special_pages/paper/AdvancedStockDialog.h"
+#include "panels/special_pages/paper/CustomStockSizeDialog.h"
 #include "panels/special_pages/paper/TabStockRules.h"
 #include "pde/menus/Mappings.h"
 #include "printer/PPDChoiceMaps.h"
@@ -25,14 +26,41 @@ QString Number(SInt32 value)
     return value == kUnset ? u"unset"_s : QString::number(value);
 }
 
-void AddSettings(GoldenFile& file, const char* name, SettingMap map)
+struct NamedMap {
+    const char* name;
+    SettingMap map;
+};
+const NamedMap kSettingMaps[] = {
+    {"CoverSidesDuplexImaged", _CoverSidesDuplexImagedMap},
+    {"CoverSidesSimplexImaged", _CoverSidesSimplexImagedMap},
+    {"GrainCompensation", _GrainCompensationMap},
+    {"AdvancedMirrorImage", _AdvancedMirrorImageMap},
+    {"PrintingOptimization", _PrintingOptimizationMap},
+    {"PrintQuality", _PrintQualityMap},
+    {"JobType", _JobTypeMap},
+    {"Plex", _PlexMap},
+    {"Resolution", _ResolutionMap},
+    {"CoverSidesImaged", _CoverSidesImagedMap},
+    {"SeparatorOption", _SeparatorOptionMap},
+    {"FaxCoverSize", _FaxCoverSizeMap},
+    {"OutputOptions", advanced::_OutputOptionsMap},
+    {"SavedJobSaveOption", SavedJobSaveOptionRadioMap},
+    {"StockPunched", _StockPunchedMap},
+    {"CustomSizeUnits", _CustomSizeUnitsMap},
+    {"TabStockSetup", _TabStockSetupMap},
+    {"TabStockRadio", _TabStockRadioMap},
+};
+
+void AddSettings(GoldenFile& file)
 {
-    for (const SettingRow& row : map) {
-        QString condition = row.feature ? QString::fromLatin1(row.feature) : QString();
-        if (row.feature && !row.featureState)
-            condition.prepend(u"without "_s);
-        file.add(QStringList{QString::fromLatin1(name), QString::fromUtf8(row.key), Number(row.value), condition}.join(
-            u'\t'));
+    for (const auto& [name, map] : kSettingMaps) {
+        for (const SettingRow& row : map) {
+            QString condition = row.feature ? QString::fromLatin1(row.feature) : QString();
+            if (row.feature && !row.featureState)
+                condition.prepend(u"without "_s);
+            const QString key = QString::fromUtf8(row.key);
+            file.add(QStringList{QString::fromLatin1(name), key, Number(row.value), condition}.join(u'\t'));
+        }
     }
 }
 
@@ -70,20 +98,7 @@ TEST(GoldenTables, EveryRowIsWhatTheFileSays)
     GoldenFile file(TEST_DATA "/golden-tables.tsv");
     file.add(u"table\tkey\tvalue\tcondition"_s);
     AddChoices(file);
-    AddSettings(file, "CoverSidesDuplexImaged", _CoverSidesDuplexImagedMap);
-    AddSettings(file, "CoverSidesSimplexImaged", _CoverSidesSimplexImagedMap);
-    AddSettings(file, "GrainCompensation", _GrainCompensationMap);
-    AddSettings(file, "AdvancedMirrorImage", _AdvancedMirrorImageMap);
-    AddSettings(file, "PrintingOptimization", _PrintingOptimizationMap);
-    AddSettings(file, "PrintQuality", _PrintQualityMap);
-    AddSettings(file, "JobType", _JobTypeMap);
-    AddSettings(file, "Plex", _PlexMap);
-    AddSettings(file, "Resolution", _ResolutionMap);
-    AddSettings(file, "CoverSidesImaged", _CoverSidesImagedMap);
-    AddSettings(file, "SeparatorOption", _SeparatorOptionMap);
-    AddSettings(file, "FaxCoverSize", _FaxCoverSizeMap);
-    AddSettings(file, "OutputOptions", advanced::_OutputOptionsMap);
-    AddSettings(file, "SavedJobSaveOption", SavedJobSaveOptionRadioMap);
+    AddSettings(file);
     AddFeatures(file);
     AddNames(file, "StandardEncodings", booklet_watermark::_StandardEncodings);
     AddNames(file, "macGlyphEncoding", booklet_watermark::_macGlyphEncoding);
