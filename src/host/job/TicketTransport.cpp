@@ -113,17 +113,13 @@ std::map<int, QByteArray> TicketOptions(const JobOptions& options)
 EncodedTicket EncodeTicket(const QByteArray& propertyList)
 {
     if (propertyList.isEmpty() || propertyList.size() > kMaximumTicket)
-        return {{}, QStringLiteral("the job's settings are empty or larger than %1 MB").arg(kMaximumTicket >> 20)};
+        return {{}, Say("Ticket Empty Or Large", kMaximumTicket >> 20)};
     const QByteArray text =
         Compress(propertyList).toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
     constexpr qsizetype kTextAnOption = kMaximumTicketOption - kRoomForHeader;
     const int count = int((text.size() + kTextAnOption - 1) / kTextAnOption);
     if (count > kMostPieces)
-        return {{},
-                QStringLiteral("the job's settings take %1 KB on the way to the printer and at most %2 KB can travel; "
-                               "use fewer special pages, watermarks or recipients")
-                    .arg((text.size() + 1023) / 1024)
-                    .arg(kMostPieces * kTextAnOption / 1024)};
+        return {{}, Say("Ticket Too Large", (text.size() + 1023) / 1024, kMostPieces * kTextAnOption / 1024)};
     const Header header{count, propertyList.size(), Checksum(propertyList)};
     EncodedTicket encoded;
     for (int i = 0; i < count; ++i) {

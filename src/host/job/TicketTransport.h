@@ -17,7 +17,7 @@ inline constexpr qsizetype kMaximumTicket = 8 * 1024 * 1024;  // of the property
 
 struct EncodedTicket {
     JobOptions options;
-    QString problem; // empty, or why the ticket can't travel; then there are no options
+    Message problem = {}; // empty, or why the ticket can't travel; then there are no options
 };
 EncodedTicket EncodeTicket(const QByteArray& propertyList);
 

@@ -2,6 +2,8 @@
 
 #include "host/job/HostTickets.h"
 
+#include "platform/values/Message.h"
+
 #include <map>
 #include <set>
 
@@ -14,7 +16,7 @@ struct PPDFacts {
     std::optional<PaperRect> paper = {};               // of the chosen page size
     QString duplexChoice = {};                         // the default choice of the option "Duplex"; empty without one
     std::map<QString, std::set<QString>> choices = {}; // option keyword to its choice keywords
-    QString problem = {}; // empty, or why the file can't be read; then there is nothing else
+    Message problem = {}; // empty, or why the file can't be read; then there is nothing else
 
     bool offers(const QString& keyword, const QString& choice) const;
 };
