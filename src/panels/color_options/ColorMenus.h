@@ -17,9 +17,6 @@ struct MenuAndPosition {
     int position = 1; // of the item that stands for what is set, from 1
 };
 
-// The choices of a setting, and one more for a value that is none of them, so that it is shown and stays choosable.
-MenuAndPosition ChoiceMenu(const Bundle& bundle, const NumberSetting& setting, const FullColorOptions& record);
-
 // The printer's default, its built-in profiles by number, the name that is set, and the item that asks for one.
 MenuAndPosition NameMenu(const Bundle& bundle, const NameSetting& setting, const FullColorOptions& record);
 
