@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace kesta::color {
+namespace kesta::color_options {
 namespace {
 
 Value N(int number)
@@ -219,4 +219,4 @@ TEST(ColorSwatches, EachAdjustmentDoesWhatItIsCalled)
 }
 
 } // namespace
-} // namespace kesta::color
+} // namespace kesta::color_options

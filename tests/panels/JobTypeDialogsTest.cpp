@@ -1,4 +1,7 @@
-#include "panels/paper_output/JobTypeSetups.h"
+#include "panels/paper_output/DelayedPrint.h"
+#include "panels/paper_output/PasscodeFields.h"
+#include "panels/paper_output/SavedJob.h"
+#include "panels/paper_output/SecurePrint.h"
 
 #include "pde/menus/MenuUtilities.h"
 #include "platform/system/UserPreferences.h"

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace kesta::color {
+namespace kesta::color_options {
 namespace {
 
 // The position of the value's item; 0 without one.
@@ -38,4 +38,4 @@ MenuAndPosition NameMenu(const Bundle& bundle, const NameSetting& setting, const
     return {menu, PositionOf(menu, profile.kind)};
 }
 
-} // namespace kesta::color
+} // namespace kesta::color_options

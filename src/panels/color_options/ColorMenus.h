@@ -7,7 +7,7 @@ namespace kesta {
 struct Bundle;
 }
 
-namespace kesta::color {
+namespace kesta::color_options {
 
 // The value of the item that asks for a name; no setting has it.
 inline constexpr SInt32 kAskForName = kUnset + 1;
@@ -20,4 +20,4 @@ struct MenuAndPosition {
 // The printer's default, its built-in profiles by number, the name that is set, and the item that asks for one.
 MenuAndPosition NameMenu(const Bundle& bundle, const NameSetting& setting, const FullColorOptions& record);
 
-} // namespace kesta::color
+} // namespace kesta::color_options

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace kesta::color {
+namespace kesta::color_options {
 namespace {
 
 using _ColorOptionsPanelContext = FormContext<ColorOptions>;
@@ -115,9 +115,9 @@ void HandleHit(_ColorOptionsPanelContext& panel, const HitEvent& hit)
 }
 
 } // namespace
-} // namespace kesta::color
+} // namespace kesta::color_options
 
 KestaStatus GetColorOptionPanelInterface(const PanelInterfaceHolder** holder)
 {
-    return kesta::GiveForm<kesta::color::kPanel>(holder);
+    return kesta::GiveForm<kesta::color_options::kPanel>(holder);
 }

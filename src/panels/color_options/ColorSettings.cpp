@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace kesta::color {
+namespace kesta::color_options {
 namespace {
 
 using Record = FullColorOptions;
@@ -191,4 +191,4 @@ bool UsesTrappingDirections(const FullColorOptions& record)
     return Get<&Record::trapping>(record) == kTrappingOn;
 }
 
-} // namespace kesta::color
+} // namespace kesta::color_options

@@ -5,7 +5,7 @@
 
 #include <array>
 
-namespace kesta::color {
+namespace kesta::color_options {
 
 // The numbers of the controls in ColorOptionsPanel/ColorOptions.
 inline constexpr FourCharCode kSignature = "Colr"_code;
@@ -58,4 +58,4 @@ bool HasAdjustments(const ColorOptions& options);
 void ResetAdjustments(ColorOptions& options); // lightness to casts: not set
 bool UsesTrappingDirections(const FullColorOptions& record);
 
-} // namespace kesta::color
+} // namespace kesta::color_options

@@ -1,9 +1,11 @@
 #include "panels/paper_output/PaperOutputHandler.h"
 
 #include "panels/booklet_watermark/booklet/BookletDialog.h"
+#include "panels/paper_output/DelayedPrint.h"
 #include "panels/paper_output/FinishingRules.h"
-#include "panels/paper_output/JobTypeSetups.h"
 #include "panels/paper_output/PaperOutputView.h"
+#include "panels/paper_output/SavedJob.h"
+#include "panels/paper_output/SecurePrint.h"
 #include "panels/special_pages/paper/SeparatorsDialog.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"

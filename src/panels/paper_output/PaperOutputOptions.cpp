@@ -1,6 +1,6 @@
 #include "panels/paper_output/PaperOutputOptions.h"
 
-#include "panels/special_pages/paper/SeparatorsDialog.h"
+#include "panels/special_pages/paper/SeparatorsRules.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/menus/Mappings.h"
 #include "pde/ticket/TicketUtilities.h"

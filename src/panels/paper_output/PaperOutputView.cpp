@@ -4,6 +4,7 @@
 #include "panels/paper_output/FinishingSummary.h"
 #include "panels/paper_output/PaperOutputPictures.h"
 #include "pde/forms/ViewUtilities.h"
+#include "pde/interface/SummaryPlaces.h"
 #include "pde/menus/Mappings.h"
 #include "pde/menus/MenuUtilities.h"
 #include "platform/plugins/Bundle.h"

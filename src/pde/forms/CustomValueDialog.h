@@ -14,7 +14,9 @@ enum class ModalResult : SInt32;
 namespace customvalue {
 
 inline constexpr FourCharCode kSignature = "Util"_code;
-enum Control : SInt32 { kValueField = 1 };
+enum Control : SInt32 {
+    kValueField = 1,
+};
 
 } // namespace customvalue
 

@@ -1,3 +1,4 @@
+#include "panels/booklet_watermark/watermark/WatermarkDefaults.h"
 #include "panels/booklet_watermark/watermark/WatermarkStore.h"
 
 #include "platform/system/SafeFile.h"
