@@ -52,7 +52,7 @@ protected:
     JobTypeDialogsTest() { qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path())); }
     ~JobTypeDialogsTest() override { qunsetenv("XDG_CONFIG_HOME"); }
 
-    template <class Widget = QLineEdit> static Widget& get(QWidget& window, Control number)
+    template <class Widget = QLineEdit> static Widget& get(QWidget& window, SInt32 number)
     {
         for (const FourCharCode signature : {kSecurePrintSignature, kDelayedPrintSignature, kSavedJobSignature})
             if (auto* found = FindControlAs<Widget>(&window, {signature, number}))
@@ -60,7 +60,7 @@ protected:
         throw std::out_of_range("no such control");
     }
     // In place of all that the field holds.
-    static void type(QWidget& window, Control number, const QString& text)
+    static void type(QWidget& window, SInt32 number, const QString& text)
     {
         QLineEdit& field = get(window, number);
         field.selectAll();
@@ -77,7 +77,7 @@ protected:
     {
         return (get(window, kPasscodeField).text() + u'|' + get(window, kConfirmationField).text()).toStdString();
     }
-    static bool isEnabled(QWidget& window, Control number) { return get<QWidget>(window, number).isEnabled(); }
+    static bool isEnabled(QWidget& window, SInt32 number) { return get<QWidget>(window, number).isEnabled(); }
     static void cancel(QWidget& window) { Press(window, kCommandCancel); }
     static void ok(QWidget& window) { Press(window, kCommandOK); }
     OSStatus runSecurePrint() { return RunModalSecurePrintSetup(bundle, passcode); }
@@ -108,7 +108,7 @@ TEST_F(JobTypeDialogsTest, SecurePrintTakesAPasscodeTypedTwice)
         EXPECT_TRUE(isEnabled(window, kConfirmationField) && isEnabled(window, kConfirmationLabel));
         type(window, kPasscodeField, u"12"_s);
         EXPECT_FALSE(isEnabled(window, kConfirmationField));
-        for (const Control number : {kPasscodeField, kConfirmationField}) {
+        for (const SInt32 number : {kPasscodeField, kConfirmationField}) {
             type(window, number, u"012345678"_s);
             for (const QString& text : {u"a"_s, u"٣"_s, u"12"_s, u"9"_s}) // only the last one may come in
                 TypeIntoField(&get(window, number), text);
@@ -226,7 +226,7 @@ TEST_F(JobTypeDialogsTest, ASavedJobStartsWithTheDocumentsNameInThePublicFolder)
         EXPECT_EQ(get<HistoryComboBox>(window, kFolderBox).currentText(), u"PublicFolder"_s);
         EXPECT_TRUE(get<QRadioButton>(window, kSaveRadio).isChecked());
         EXPECT_EQ(get<PictureView>(window, kFormatPicture).picture(), u"JobType_JobFormat_TIFF.gif"_s);
-        for (const Control number : {kPasscodeLabel, kPasscodeField, kPasscodeLimits, kConfirmationLabel,
+        for (const SInt32 number : {kPasscodeLabel, kPasscodeField, kPasscodeLimits, kConfirmationLabel,
                                      kConfirmationField, kConfirmationLimits})
             EXPECT_FALSE(isEnabled(window, number)) << number;
     });

@@ -84,6 +84,7 @@ TEST_F(BoundControlsTest, ANumberThatNoItemStandsForIsOneMoreItemOrLeavesThePopu
 
 TEST_F(BoundControlsTest, AHitChangesItsOwnNumber)
 {
+    controls.show(record, Showing::Opened);
     const EventHandler hits = InstallEventHandler(window, [this](const HitEvent& hit) {
         EXPECT_TRUE(controls.take(hit, record));
         return EventResult::NotHandled;

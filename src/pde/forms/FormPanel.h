@@ -11,7 +11,7 @@
 // A panel that is one window over one record: the slots of such a panel are the same in all of them and stand here. An
 // author says what is the panel's own:
 //
-//     constexpr FormPanel<DeliveryOptions> kPanel{.title = "Delivery", .interfaceFile = "DeliveryPanel", ...};
+//     constexpr FormPanel<DeliveryOptions> kPanel{ ... };
 //     ... GetDeliveryPanelInterface(...) { return kesta::GiveForm<kesta::delivery::kPanel>(holder); }
 namespace kesta {
 
