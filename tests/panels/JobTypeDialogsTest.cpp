@@ -93,7 +93,7 @@ protected:
     test::RecordingHelp help;
     const test::LoadedDice dice{kMakes1234};
     std::optional<QString> passcode;
-    JobTypeDetails details;
+    JobType details;
 };
 
 TEST_F(JobTypeDialogsTest, SecurePrintTakesAPasscodeTypedTwice)
@@ -231,7 +231,7 @@ TEST_F(JobTypeDialogsTest, ASavedJobStartsWithTheDocumentsNameInThePublicFolder)
             EXPECT_FALSE(isEnabled(window, number)) << number;
     });
     user.then(ok);
-    const JobTypeDetails before = details;
+    const JobType before = details;
     EXPECT_EQ(runSavedJob(), noErr);
     EXPECT_EQ(details, before);
     EXPECT_FALSE(QDir(folder.path()).exists(u"kesta-print/"_s + QLatin1String(kInputHistoryFile)));
@@ -254,7 +254,7 @@ TEST_F(JobTypeDialogsTest, WhatTheUserTypesReachesTheSavedJobAndTheHistoryButNot
     });
     user.then(ok);
     runSavedJob();
-    EXPECT_EQ(details, (JobTypeDetails{.securePasscode = u"86420"_s,
+    EXPECT_EQ(details, (JobType{.securePasscode = u"86420"_s,
                                        .hasPasscode = true,
                                        .saveDisposition = 2,
                                        .savedJobName = u"Report"_s,
@@ -309,7 +309,7 @@ TEST_F(JobTypeDialogsTest, AJobNameTakesNoSlashAndFortyCharactersAndCancelNothin
 {
     details.useJobName = false;
     details.savedJobName = QString(38, u'x');
-    const JobTypeDetails before = details;
+    const JobType before = details;
     ModalUser user;
     user.then([](QWidget& window) {
         auto& name = get<HistoryComboBox>(window, kJobNameBox);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panels/paper_output/JobTypeDetails.h"
+#include "model/JobType.h"
 
 namespace kesta {
 
@@ -22,8 +22,8 @@ enum SavedJobControl : SInt32 {
 } // namespace jobtypes
 
 // Asks for name, folder, disposition and protection of a saved job; OK remembers typed names and folders, never the
-// passcode. noErr when it was shown, with the details changed on OK only; kInterfaceFileUnreadable, with nothing shown
+// passcode. noErr when it was shown, with the job changed on OK only; kInterfaceFileUnreadable, with nothing shown
 // or changed, when its window can't be loaded.
-OSStatus RunModalSavedJobDialog(const Bundle& bundle, JobTypeDetails& details);
+OSStatus RunModalSavedJobDialog(const Bundle& bundle, JobType& job);
 
 } // namespace kesta
