@@ -24,9 +24,9 @@ namespace booklet {
 // BookletCreation/BookletCreation.
 inline constexpr FourCharCode kSignature = "Bkcr"_code;
 enum Control : SInt32 {
-    kFoldLabel = 1, // not in BookletOptions
-    kFoldNoneRadio = 2, // not in BookletOptions
-    kFoldRadio = 3, // not in BookletOptions
+    kFoldLabel = 1,          // not in BookletOptions
+    kFoldNoneRadio = 2,      // not in BookletOptions
+    kFoldRadio = 3,          // not in BookletOptions
     kFoldAndStapleRadio = 4, // not in BookletOptions
     kLayoutOffRadio = 5,
     kLayoutOnRadio = 6,
