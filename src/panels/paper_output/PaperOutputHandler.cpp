@@ -64,6 +64,7 @@ void ChooseSeparators(_PaperOutputContext& panel)
 {
     ModalResult result = ModalResult::Cancel;
     RunModalSeparatorsDialog(*panel.bundle, panel.options.separatorCount, panel.options.separatorStock, result);
+    ShowPaper(panel);
 }
 
 } // namespace
@@ -98,7 +99,6 @@ EventResult pdeShellPaperOutputEventHandler(_PaperOutputContext& panel, const Co
         ChooseSeparators(panel);
     else if (ApplyFinishingCommand(panel.options, chosen.command) && panel.options.booklet.isOn())
         ShowTwoSided(panel, kTwoSidedLongEdge);
-    ShowPaper(panel); // the paper's own commands have come this way, too
     ShowFinishing(panel);
     return EventResult::NotHandled;
 }

@@ -107,6 +107,7 @@ void FillStockMenu(_PaperOutputContext& panel)
     auto* button = FindControlAs<MenuButton>(panel.pane, {kSignature, kStockMenuButton});
     panel.stockMenu.bundle = panel.bundle;
     panel.stockMenu.stock = &panel.options.stock;
+    panel.stockMenu.summary = [&panel] { return PaperSummary(*panel.bundle, panel.ppd, panel.options); };
     panel.stockMenu.summaryView = FindHere(panel, kPaperSummary);
     panel.stockMenu.iconView = FindControlAs<PictureView>(panel.pane, {kSignature, kPaperPicture});
     InitializeStockMenuButton(button, panel.stockMenu);
@@ -241,7 +242,6 @@ void ShowOptions(_PaperOutputContext& panel)
 void ShowPaper(const _PaperOutputContext& panel)
 {
     ShowStock(panel.stockMenu);
-    ShowSummary(panel, kPaperSummary, kStockMenuButton, PaperSummary(*panel.bundle, panel.ppd, panel.options));
 }
 
 void ShowFinishing(const _PaperOutputContext& panel)

@@ -60,7 +60,7 @@ void ShowDefaults(const _SeparatorDialogContext& dialog)
 
 EventResult HandleCommand(const _SeparatorDialogContext& dialog, FourCharCode command)
 {
-    if (command != kDefaultsCommand)
+    if (command != kCommandDefaults)
         return HandleDialogCommand(dialog.bundle, dialog.window, command, kHelpPage);
     ShowDefaults(dialog);
     return EventResult::Handled;

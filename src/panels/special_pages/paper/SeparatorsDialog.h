@@ -11,7 +11,6 @@ namespace separators {
 
 // The numbers of the controls in SeparatorsDialog/Separators.
 inline constexpr FourCharCode kSignature = "Sepa"_code;
-inline constexpr FourCharCode kDefaultsCommand = "Dflt"_code;
 enum Control : SInt32 {
     kOptionPopup = 1,
     kColorLabel = 2,
