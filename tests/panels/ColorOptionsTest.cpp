@@ -52,8 +52,9 @@ TEST(ColorOptions, EverySettingReachesTheTicketAndComesBack)
     int value = 1;
     EXPECT_TRUE(Set(kTrapping, options, 1)) << "a ticket has the directions of no other";
     for (const Binding<ColorOptions>& binding : kBindings) {
-        if (binding.control != kTrapping)
+        if (binding.control != kTrapping) {
             EXPECT_TRUE(Set(Control{binding.control}, options, ++value)) << binding.control;
+        }
     }
     for (const NameSetting& setting : NameSettings())
         EXPECT_EQ(setting.set(options.record, {setting.namedKind, QString::number(++value)}), noErr);
