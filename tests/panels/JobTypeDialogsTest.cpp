@@ -1,4 +1,7 @@
-#include "panels/paper_output/JobTypeSetups.h"
+#include "panels/paper_output/DelayedPrint.h"
+#include "panels/paper_output/PasscodeFields.h"
+#include "panels/paper_output/SavedJob.h"
+#include "panels/paper_output/SecurePrint.h"
 
 #include "pde/menus/MenuUtilities.h"
 #include "platform/system/UserPreferences.h"
@@ -48,7 +51,7 @@ protected:
     JobTypeDialogsTest() { qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path())); }
     ~JobTypeDialogsTest() override { qunsetenv("XDG_CONFIG_HOME"); }
 
-    template <class Widget = QLineEdit> static Widget& get(QWidget& window, Control number)
+    template <class Widget = QLineEdit> static Widget& get(QWidget& window, SInt32 number)
     {
         for (const FourCharCode signature : {kSecurePrintSignature, kDelayedPrintSignature, kSavedJobSignature})
             if (auto* found = FindControlAs<Widget>(&window, {signature, number}))
@@ -56,7 +59,7 @@ protected:
         throw std::out_of_range("no such control");
     }
     // In place of all that the field holds.
-    static void type(QWidget& window, Control number, const QString& text)
+    static void type(QWidget& window, SInt32 number, const QString& text)
     {
         QLineEdit& field = get(window, number);
         field.selectAll();
@@ -73,7 +76,7 @@ protected:
     {
         return (get(window, kPasscodeField).text() + u'|' + get(window, kConfirmationField).text()).toStdString();
     }
-    static bool isEnabled(QWidget& window, Control number) { return get<QWidget>(window, number).isEnabled(); }
+    static bool isEnabled(QWidget& window, SInt32 number) { return get<QWidget>(window, number).isEnabled(); }
     static void cancel(QWidget& window) { Press(window, kCommandCancel); }
     static void ok(QWidget& window) { Press(window, kCommandOK); }
     OSStatus runSecurePrint() { return RunModalSecurePrintSetup(bundle, passcode); }
@@ -96,7 +99,7 @@ TEST_F(JobTypeDialogsTest, PasscodesAreHiddenAndMarkedWhereTheyDiffer)
 {
     ModalUser user;
     user.then([](QWidget& window) {
-        for (const Control number : {kPasscodeField, kConfirmationField})
+        for (const SInt32 number : {kPasscodeField, kConfirmationField})
             EXPECT_EQ(get(window, number).echoMode(), QLineEdit::Password);
         EXPECT_EQ(get<QLabel>(window, kPasscodeLimits).text(), u"Min-Max Digits 4 10"_s);
         type(window, kPasscodeField, u"٣12"_s); // refused whole

@@ -1,7 +1,8 @@
 // What Print and Save Settings do.
 
-#include "host/commandline/DialogOptions.h"
 #include "host/dialog/PrintDialog.h"
+
+#include "host/commandline/DialogOptions.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
 #include "host/job/JobComposition.h"

@@ -2,7 +2,10 @@
 
 #include "panels/PanelFixture.h"
 #include "panels/booklet_watermark/booklet/BookletDialog.h"
-#include "panels/paper_output/JobTypeSetups.h"
+#include "panels/paper_output/DelayedPrint.h"
+#include "panels/paper_output/PasscodeFields.h"
+#include "panels/paper_output/SavedJob.h"
+#include "panels/paper_output/SecurePrint.h"
 #include "panels/special_pages/paper/SeparatorsDialog.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/menus/MenuUtilities.h"
