@@ -52,28 +52,28 @@ Dictionary CopyJobTypeDictionary(const Ticket& settings)
 {
     if (const Dictionary* stored = settings.values().dictionary(key::JobType))
         return *stored;
-    return {{"MediaType", Number::Index(1)},
-            {"JobType", Number::SInt32(kJobTypeNormal)},
-            {"UseJobName", true},
-            {"SavedJobName", ""}};
+    return {{key::JobTypeMediaType, Number::Index(1)},
+            {key::JobTypeNumber, Number::SInt32(kJobTypeNormal)},
+            {key::JobTypeUseJobName, true},
+            {key::JobTypeSavedJobName, ""}};
 }
 
 void ReadJobType(PaperOutputOptions& options, const Ticket& settings)
 {
     const Dictionary job = CopyJobTypeDictionary(settings);
-    const SInt32 type = CFDictionaryGetNumber<SInt32>(job, "JobType").value_or(kJobTypeNormal);
+    const SInt32 type = CFDictionaryGetNumber<SInt32>(job, key::JobTypeNumber).value_or(kJobTypeNormal);
 
     options.jobType = type >= kJobTypeNormal && type <= kHighestJobType ? type : kJobTypeNormal;
     JobTypeDetails& details = options.jobTypeDetails;
-    details.mediaTypeInJob = ReadIndex(job, "MediaType").value_or(1);
-    details.useJobName = job.boolean("UseJobName").value_or(true);
-    details.savedJobName = ReadString(job, "SavedJobName");
-    details.savedJobLocation = ReadString(job, "SavedJobLocation");
+    details.mediaTypeInJob = ReadIndex(job, key::JobTypeMediaType).value_or(1);
+    details.useJobName = job.boolean(key::JobTypeUseJobName).value_or(true);
+    details.savedJobName = ReadString(job, key::JobTypeSavedJobName);
+    details.savedJobLocation = ReadString(job, key::JobTypeSavedJobLocation);
     details.useDefaultLocation = !details.savedJobLocation;
-    details.securePasscode = ReadString(job, "SecurePrintPassword");
+    details.securePasscode = ReadString(job, key::JobTypeSecurePrintPassword);
     details.hasPasscode = details.securePasscode.has_value();
-    details.delayedPrintTime = ReadIndex(job, "DelayedPrintTime").value_or(details.delayedPrintTime);
-    details.saveDisposition = ReadIndex(job, "SaveDisposition").value_or(1);
+    details.delayedPrintTime = ReadIndex(job, key::JobTypeDelayedPrintTime).value_or(details.delayedPrintTime);
+    details.saveDisposition = ReadIndex(job, key::JobTypeSaveDisposition).value_or(1);
     options.jobTypeDict = job;
 }
 
@@ -162,18 +162,18 @@ void WriteJobType(PaperOutputOptions& options, const TicketWriter& settings)
 {
     const JobTypeDetails& details = options.jobTypeDetails;
     Dictionary& job = options.jobTypeDict;
-    job.set("MediaType", Number::Index(details.mediaTypeInJob));
-    job.set("UseJobName", details.useJobName);
-    job.set("JobType", Number::SInt32(options.jobType));
-    SetOrRemove(job, "SavedJobName", details.useJobName, details.savedJobName);
-    SetOrRemove(job, "SavedJobLocation", details.useDefaultLocation, details.savedJobLocation);
+    job.set(key::JobTypeMediaType, Number::Index(details.mediaTypeInJob));
+    job.set(key::JobTypeUseJobName, details.useJobName);
+    job.set(key::JobTypeNumber, Number::SInt32(options.jobType));
+    SetOrRemove(job, key::JobTypeSavedJobName, details.useJobName, details.savedJobName);
+    SetOrRemove(job, key::JobTypeSavedJobLocation, details.useDefaultLocation, details.savedJobLocation);
     if (details.securePasscode)
-        job.set("SecurePrintPassword", *details.securePasscode);
-    job.set("DelayedPrintTime", Number::SInt64(details.delayedPrintTime));
+        job.set(key::JobTypeSecurePrintPassword, *details.securePasscode);
+    job.set(key::JobTypeDelayedPrintTime, Number::SInt64(details.delayedPrintTime));
     if (options.jobType == kJobTypeSavedJob)
-        job.set("SaveDisposition", Number::Index(details.saveDisposition));
+        job.set(key::JobTypeSaveDisposition, Number::Index(details.saveDisposition));
     else
-        job.remove("SaveDisposition");
+        job.remove(key::JobTypeSaveDisposition);
     settings.set(key::JobType, job);
 }
 

@@ -56,7 +56,7 @@ OSStatus WriteJobWideKeys(Ticket& settings)
     const OSStatus status = WriteClientInformation(ticket);
 
     const Dictionary* jobType = settings.values().dictionary(key::JobType);
-    if (jobType && CFDictionaryGetNumber<SInt32>(*jobType, "JobType") == kJobTypeFax)
+    if (jobType && CFDictionaryGetNumber<SInt32>(*jobType, key::JobTypeNumber) == kJobTypeFax)
         PPDSetCurrentChoice(settings, "KSTColor", "BW"); // a fax has no colours
     return status;
 }
