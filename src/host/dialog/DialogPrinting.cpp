@@ -11,7 +11,6 @@
 #include "platform/system/FileChooser.h"
 #include "platform/system/Notices.h"
 #include "platform/system/SafeFile.h"
-#include "platform/values/PropertyList.h"
 #include "toolkit/windows/InterfaceFile.h"
 
 using namespace Qt::StringLiterals;
@@ -170,6 +169,14 @@ bool PrintDialog::saveAfterPrint()
     return start_.scripted;
 }
 
+TicketReader PrintDialog::ticketReader() const
+{
+    TicketReader reader = facts_.ticketReader;
+    if (!printer_->ppd.hasNone)
+        reader.problem = facts_.problem;
+    return reader;
+}
+
 void PrintDialog::send()
 {
     const HostSettings settings = fields_->settings();
@@ -181,7 +188,8 @@ void PrintDialog::send()
                                       .pageRanges = settings.pageRanges,
                                       .orientation = settings.orientation,
                                       .pagesPerSheet = settings.pagesPerSheet},
-                           .ticket = WritePropertyList(tickets_.printSettings.values())});
+                           .ticket = tickets_.printSettings.values(),
+                           .reader = ticketReader()});
     if (!composed.problem.isEmpty()) {
         failedToPrint(composed.problem);
         return;

@@ -77,6 +77,7 @@ private:
     void saveSettings();
     std::optional<QString> askForFile(); // where to save; nothing when the user cancels
     bool saveAfterPrint();
+    TicketReader ticketReader() const;
     void send();
     void sent(const SubmissionResult& result);
     void failedToPrint(const QString& reason);

@@ -4,7 +4,8 @@
 
 namespace kesta::host {
 
-// How a ticket's property list is compressed. Bzip2 takes two fifths less than Zlib for many recipients or special pages.
+// How a ticket's property list is compressed. Bzip2 takes two fifths less than Zlib for many recipients or special
+// pages.
 enum class TicketPacking { Zlib, Bzip2 };
 
 // Empty when there is no memory.

@@ -96,9 +96,9 @@ OpenedSeal OpenWith(const PrivateKey& key, const QByteArray& box)
 {
     QByteArray content(box.size() - qsizetype(crypto_box_SEALBYTES), Qt::Uninitialized);
     std::size_t size = 0;
-    const bool opened = crypto_box_seal_open(Written(content), Read(box), box.size(), Read(key.publicKey),
-                                             Read(key.secret)) == 0 &&
-                        sodium_unpad(&size, Read(content), content.size(), kPadding) == 0;
+    const bool opened =
+        crypto_box_seal_open(Written(content), Read(box), box.size(), Read(key.publicKey), Read(key.secret)) == 0 &&
+        sodium_unpad(&size, Read(content), content.size(), kPadding) == 0;
     if (!opened)
         return {OpenedSeal::Status::Damaged};
     content.truncate(static_cast<qsizetype>(size));

@@ -9,8 +9,8 @@ namespace kesta::host {
 
 // Bytes sealed for a print server: whoever has its public key can close a seal, only the private key opens it.
 //
-// A public key is "kk1-KEY-ID" and a private key "kp1-KEY-ID": 32 bytes in base64url, and 8 hexadecimal digits that name
-// the pair and tell a damaged key. Sealed bytes are "ks1-ID-TEXT", TEXT in base64url.
+// A public key is "kk1-KEY-ID" and a private key "kp1-KEY-ID": 32 bytes in base64url, and 8 hexadecimal digits that
+// name the pair and tell a damaged key. Sealed bytes are "ks1-ID-TEXT", TEXT in base64url.
 struct TicketKeys {
     QByteArray publicKey;
     QByteArray privateKey;

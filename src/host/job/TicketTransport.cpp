@@ -112,7 +112,8 @@ std::map<int, QByteArray> TicketOptions(const JobOptions& options)
 EncodedTicket EncodeTicket(const QByteArray& propertyList, int version, const QString& sealedPart)
 {
     if (propertyList.isEmpty() || propertyList.size() > kMaximumTicket)
-        return {.problem = QStringLiteral("the job's settings are empty or larger than %1 MB").arg(kMaximumTicket >> 20)};
+        return {.problem =
+                    QStringLiteral("the job's settings are empty or larger than %1 MB").arg(kMaximumTicket >> 20)};
     Header header{.version = version,
                   .bytes = propertyList.size(),
                   .checksum = Checksum(propertyList),
@@ -157,13 +158,15 @@ DecodedTicket DecodeTicket(const JobOptions& options)
         return Fault(QStringLiteral("the ticket has more pieces or text than it says"));
     const auto compressed = QByteArray::fromBase64Encoding(
         text, QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals | QByteArray::AbortOnBase64DecodingErrors);
-    const QByteArray bytes = compressed ? UnpackTicket(PackingOf(first->header), *compressed, first->header.bytes) : QByteArray();
+    const QByteArray bytes =
+        compressed ? UnpackTicket(PackingOf(first->header), *compressed, first->header.bytes) : QByteArray();
     if (bytes.isEmpty() || Checksum(bytes) != first->header.checksum)
         return Fault(QStringLiteral("the ticket is damaged: its checksum does not fit"));
     const QString sealedPart = FindJobOption(options, kTicketSealedOption).value_or(QString());
     if (sealedPart.isEmpty() == (first->header.sealedParts > 0))
-        return Fault(first->header.sealedParts > 0 ? QStringLiteral("the ticket's sealed part is missing")
-                                                   : QStringLiteral("the ticket has a sealed part that is not its own"));
+        return Fault(first->header.sealedParts > 0
+                         ? QStringLiteral("the ticket's sealed part is missing")
+                         : QStringLiteral("the ticket has a sealed part that is not its own"));
     return {.propertyList = bytes, .sealedPart = sealedPart};
 }
 

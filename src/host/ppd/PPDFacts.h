@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/job/HostTickets.h"
+#include "host/job/SealedTicket.h"
 
 #include <map>
 #include <set>
@@ -14,6 +15,7 @@ struct PPDFacts {
     std::optional<PaperRect> paper = {};               // of the chosen page size
     QString duplexChoice = {};                         // the default choice of the option "Duplex"; empty without one
     std::map<QString, std::set<QString>> choices = {}; // option keyword to its choice keywords
+    TicketReader ticketReader = {};                    // of the queue's print server
     QString problem = {}; // empty, or why the file can't be read; then there is nothing else
 
     bool offers(const QString& keyword, const QString& choice) const;
