@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <map>
 #include <thread>
 
 #include <sys/stat.h>
@@ -112,11 +113,16 @@ protected:
         const QByteArray control =
             Content(QFileInfo(server.address()).path() + u"/spool/c%1"_s.arg(number, 5, 10, QChar(u'0')));
         const QString log = QFileInfo(server.address()).path() + u"/log/error"_s;
-        for (const QByteArray& place : {job.options, job.argv, shown, control, Content(log)}) {
+        const std::map<const char*, QByteArray> places{{"options", job.options},
+                                                       {"arguments", job.argv},
+                                                       {"answer", shown},
+                                                       {"control file", control},
+                                                       {"log", Content(log)}};
+        for (const auto& [name, place] : places) {
             const qsizetype start = place.lastIndexOf("com.kesta.print.ticket.sealed");
-            ASSERT_GE(start, 0);
-            EXPECT_EQ(place.mid(start + 29).left(20).count("ks1-"), 1);
-            EXPECT_FALSE(place.contains(secret));
+            ASSERT_GE(start, 0) << name << place.size();
+            EXPECT_EQ(place.mid(start + 29, 20).count("ks1-"), 1) << name;
+            EXPECT_FALSE(place.contains(secret)) << name;
         }
         for (const QByteArray& options : {job.options, QByteArray(shown).replace('\n', ' ')}) {
             const Read read = readTicket({u"show"_s, u"--key"_s, u"/no/such/key"_s}, options);

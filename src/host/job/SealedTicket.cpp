@@ -38,7 +38,7 @@ QString LeaveOut(const Dictionary& ticket)
             largest = part.name;
         }
     }
-    return largest ? QStringLiteral("most of it are the %1: leave out some, or print in two jobs")
+    return largest ? QStringLiteral("the %1 take most of it: leave out some of them, or print in two jobs")
                          .arg(QLatin1StringView(largest))
                    : QStringLiteral("leave out some special pages, recipients or a watermark, or print in two jobs");
 }
