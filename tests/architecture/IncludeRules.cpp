@@ -57,7 +57,7 @@ const std::vector<Rule>& Rules()
         {"host/ppd", {"platform", "host/job"}, true},
         {"host/server", {"platform", "host/job"}, true},
         {"host/commandline", {"platform", "host/job", "host/ppd", "host/server"}},
-        {"host/script", {"platform", "toolkit", "host/commandline"}},
+        {"host/script", {"platform", "toolkit", "host/job", "host/commandline"}},
         {"host/pane", {"platform", "toolkit", "pde/interface"}},
         {"host/dialog",
          {"platform", "toolkit", "host/job", "host/ppd", "host/server", "host/commandline", "host/script",

@@ -180,7 +180,7 @@ TEST_F(PrintingTest, WhatThePrinterForbidsOrLacksIsSaidBeforeSending)
 {
     const Outcome conflict = print({u"--settings"_s, save(), u"-o"_s, u"KSFold=C"_s, QLatin1StringView(SAMPLE)});
     EXPECT_EQ(conflict.status, 1);
-    EXPECT_TRUE(conflict.error.contains("can't be used together. Set ") && conflict.error.contains("(-o "))
+    EXPECT_TRUE(conflict.error.contains("can’t be used together. Set ") && conflict.error.contains("(-o "))
         << conflict.error.constData();
     const Outcome lacking = print({u"-o"_s, u"KSFold=Swan"_s, QLatin1StringView(SAMPLE)});
     EXPECT_EQ(lacking.status, 1);
@@ -212,7 +212,7 @@ TEST_F(PrintingTest, SaysWhatIsMissing)
         {{u"-dNowhere"_s, QLatin1StringView(SAMPLE)}, "The printer or class does not exist"},
         {{u"-dPlain"_s, QLatin1StringView(SAMPLE)}, "not accepting"},
         {{QLatin1StringView(SAMPLE), u"/dev/null"_s}, "\"/dev/null\" is empty"},
-        {{u"--settings"_s, QLatin1StringView(SAMPLE), QLatin1StringView(SAMPLE)}, "sample.pdf can't be used: "},
+        {{u"--settings"_s, QLatin1StringView(SAMPLE), QLatin1StringView(SAMPLE)}, "sample.pdf can’t be used: "},
         {{u"--settings"_s, u"/no/such"_s, QLatin1StringView(SAMPLE)}, "/no/such"},
         {{u"--save-settings"_s, u"/no/such/place"_s, QLatin1StringView(SAMPLE)}, "/no/such/place"},
     };

@@ -66,7 +66,7 @@ bool WriteCatalogue(QXmlStreamReader& in, QIODevice& out, bool mirrored)
     while (!in.atEnd()) {
         in.readNext();
         if (in.isStartElement())
-            inTranslation = in.name() == u"translation";
+            inTranslation = in.name() == u"translation" || in.name() == u"numerusform";
         if (in.isEndElement())
             inTranslation = false;
         if (in.isStartElement() && in.name() == u"TS") {

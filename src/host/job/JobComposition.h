@@ -29,8 +29,8 @@ struct JobSources {
 };
 
 struct ComposedOptions {
-    JobOptions options;
-    QString problem; // empty, or why nothing may be sent: one line
+    JobOptions options = {};
+    Message problem = {}; // empty, or why nothing may be sent
 };
 
 // Later sources prevail over earlier ones, in the order of JobSources: -o prevails over saved settings, and what the

@@ -5,50 +5,45 @@
 #include "pde/interface/TicketKeys.h"
 #include "platform/values/PropertyList.h"
 
+#include <vector>
+
 namespace kesta::host {
 namespace {
 
+// What can grow beyond what travels, and what to do then.
 struct TicketPart {
     const char* key;
-    const char* name; // for the user: "leave out some ..."
+    Message leaveOut;
 };
 
-// What can grow beyond what travels.
-constexpr auto kLargeParts = std::to_array<TicketPart>({
-    {key::FaxRecipientList, "fax recipients"},
-    {key::SpecialPagesExceptionList, "exception pages"},
-    {key::SpecialPagesInsertList, "inserts"},
-    {key::FaxOptions, "notes and texts of the fax cover sheet"},
-});
+std::vector<TicketPart> LargeParts()
+{
+    return {{key::FaxRecipientList, Say("Leave Out Recipients")},
+            {key::SpecialPagesExceptionList, Say("Leave Out Exception Pages")},
+            {key::SpecialPagesInsertList, Say("Leave Out Inserts")},
+            {key::FaxOptions, Say("Leave Out Cover Sheet Texts")}};
+}
 
-EncodedTicket Refuse(const QString& problem)
+EncodedTicket Refuse(const Message& problem)
 {
     return {.problem = problem};
 }
 
-QString LeaveOut(const Dictionary& ticket)
+// What takes more than half of the ticket is named.
+Message LeaveOut(const Dictionary& ticket)
 {
-    const char* largest = nullptr;
-    qsizetype most = WritePropertyList(ticket).size() / 2;
-    for (const TicketPart& part : kLargeParts) {
+    const qsizetype half = WritePropertyList(ticket).size() / 2;
+    for (const TicketPart& part : LargeParts()) {
         const Value* value = ticket.find(part.key);
-        const qsizetype size = value ? WritePropertyList(*value).size() : 0;
-        if (size > most) {
-            most = size;
-            largest = part.name;
-        }
+        if (value && WritePropertyList(*value).size() > half)
+            return part.leaveOut;
     }
-    return largest ? QStringLiteral("the %1 take most of it: leave out some of them, or print in two jobs")
-                         .arg(QLatin1StringView(largest))
-                   : QStringLiteral("leave out some special pages, recipients or a watermark, or print in two jobs");
+    return Say("Leave Out Anything");
 }
 
-QString TooLarge(const EncodedTicket& encoded, const Dictionary& ticket)
+Message TooLarge(const EncodedTicket& encoded, const Dictionary& ticket)
 {
-    return QStringLiteral("the job's settings take %1 KB on the way to the printer and at most %2 KB can travel; %3")
-        .arg((encoded.tooLarge + 1023) / 1024)
-        .arg(encoded.room / 1024)
-        .arg(LeaveOut(ticket));
+    return Say("Ticket Too Large", (encoded.tooLarge + 1023) / 1024, encoded.room / 1024, LeaveOut(ticket));
 }
 
 // What is sealed: the digest of the open part, which it belongs to, and the secrets. Empty where that fails.
@@ -76,19 +71,13 @@ QByteArray WithSecrets(const QByteArray& openPart, QByteArray content)
 
 } // namespace
 
-std::optional<QString> TicketReaderProblem(const TicketReader& reader)
+std::optional<Message> TicketReaderProblem(const TicketReader& reader)
 {
     if (reader.publicKeys.isEmpty())
         return std::nullopt;
-    const std::optional<QString> fault = reader.publicKeys.size() > 1
-                                             ? std::optional(QStringLiteral("there are several"))
-                                             : TicketKeyProblem(reader.publicKeys.front());
-    if (!fault)
-        return std::nullopt;
-    return QStringLiteral(
-               "the printer's key that keeps passcodes secret (KSTicketKey in its description) can't be used: "
-               "%1; nothing was sent, ask your administrator for a new key")
-        .arg(*fault);
+    const std::optional<Message> fault = reader.publicKeys.size() > 1 ? std::optional(Say("Ticket Keys Differ"))
+                                                                      : TicketKeyProblem(reader.publicKeys.front());
+    return fault ? std::optional(Say("Ticket Key Unusable", *fault)) : std::nullopt;
 }
 
 EncodedTicket EncodeJobTicket(Dictionary ticket, const TicketReader& reader)
@@ -98,14 +87,12 @@ EncodedTicket EncodeJobTicket(Dictionary ticket, const TicketReader& reader)
     const Dictionary whole = ticket;
     const Array secrets = TakeSecrets(ticket, kJobSecrets);
     if (!secrets.empty() && !reader.problem.isEmpty())
-        return Refuse(QStringLiteral("the job has a passcode, a dialing prefix or a credit-card code, and whether the "
-                                     "printer has a key for them is not known: %1")
-                          .arg(reader.problem));
+        return Refuse(Say("Ticket Key Unknown", reader.problem));
     const bool seals = !secrets.empty() && !reader.publicKeys.isEmpty();
     const QByteArray openPart = WritePropertyList(seals ? ticket : whole);
     const QByteArray sealedPart = seals ? SealSecrets(secrets, openPart, reader.publicKeys.front()) : QByteArray();
     if (seals && sealedPart.isEmpty())
-        return Refuse(QStringLiteral("the passcode, dialing prefix or credit-card code is too long to be encrypted"));
+        return Refuse(Say("Ticket Secret Too Long"));
     const int version = reader.version > 1 || !reader.publicKeys.isEmpty() ? 2 : 1;
     EncodedTicket encoded = EncodeTicket(openPart, version, QString::fromLatin1(sealedPart));
     return encoded.tooLarge > 0 ? Refuse(TooLarge(encoded, ticket)) : encoded;

@@ -2,6 +2,7 @@
 
 #include "host/job/TicketTransport.h"
 
+#include "platform/values/Message.h"
 #include "platform/values/Value.h"
 
 #include <QByteArrayList>
@@ -14,12 +15,11 @@ namespace kesta::host {
 struct TicketReader {
     int version = 1;
     QByteArrayList publicKeys = {}; // as the PPD has them; more than one is a fault
-    QString problem = {};           // empty, or why nobody knows: secrets then do not travel
+    Message problem = {};           // empty, or why nobody knows: secrets then do not travel
 };
 
-// The queue's key can't be used: nothing may be sent to the queue. A clause; nothing when there is no key or a good
-// one.
-std::optional<QString> TicketReaderProblem(const TicketReader& reader);
+// The queue's key can't be used, and nothing may be sent to the queue. Nothing when there is no key or a good one.
+std::optional<Message> TicketReaderProblem(const TicketReader& reader);
 
 // The ticket's entries as the reader reads them. With a key kJobSecrets travel in a part of their own, sealed; without
 // one they travel like the rest. Where that can't be, there are no options and a problem.

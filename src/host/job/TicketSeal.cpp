@@ -120,15 +120,15 @@ std::optional<TicketKeys> MakeTicketKeys()
     return keys;
 }
 
-std::optional<QString> TicketKeyProblem(const QByteArray& publicKey)
+std::optional<Message> TicketKeyProblem(const QByteArray& publicKey)
 {
     if (!IsReady())
-        return QStringLiteral("this computer can't encrypt");
+        return Say("Ticket Key No Encryption");
     if (publicKey.isEmpty())
-        return QStringLiteral("it is empty");
+        return Say("Ticket Key Empty");
     if (!publicKey.startsWith("kk1-"))
-        return QStringLiteral("it is of a kind that this program does not know");
-    return SealBytes({}, publicKey).isEmpty() ? std::optional(QStringLiteral("it is damaged")) : std::nullopt;
+        return Say("Ticket Key Of Unknown Kind");
+    return SealBytes({}, publicKey).isEmpty() ? std::optional(Say("Ticket Key Damaged")) : std::nullopt;
 }
 
 QByteArray SealBytes(const QByteArray& content, const QByteArray& publicKey)

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "platform/values/Message.h"
+
 #include <QByteArray>
-#include <QString>
 
 #include <optional>
 
@@ -19,8 +20,8 @@ struct TicketKeys {
 // A fresh pair; nothing where there is no randomness.
 std::optional<TicketKeys> MakeTicketKeys();
 
-// Why nothing can be sealed for this public key, as a clause; nothing when it can be.
-std::optional<QString> TicketKeyProblem(const QByteArray& publicKey);
+// Why nothing can be sealed for this public key; nothing when it can be.
+std::optional<Message> TicketKeyProblem(const QByteArray& publicKey);
 
 // The length tells the content's only roughly. Empty when the key is damaged.
 QByteArray SealBytes(const QByteArray& content, const QByteArray& publicKey);

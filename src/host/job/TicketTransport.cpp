@@ -112,8 +112,7 @@ std::map<int, QByteArray> TicketOptions(const JobOptions& options)
 EncodedTicket EncodeTicket(const QByteArray& propertyList, int version, const QString& sealedPart)
 {
     if (propertyList.isEmpty() || propertyList.size() > kMaximumTicket)
-        return {.problem =
-                    QStringLiteral("the job's settings are empty or larger than %1 MB").arg(kMaximumTicket >> 20)};
+        return {.problem = Say("Ticket Empty Or Large", kMaximumTicket >> 20)};
     Header header{.version = version,
                   .bytes = propertyList.size(),
                   .checksum = Checksum(propertyList),

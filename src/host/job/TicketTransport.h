@@ -20,7 +20,7 @@ inline constexpr qsizetype kMaximumTicket = 8 * 1024 * 1024;  // of the property
 
 struct EncodedTicket {
     JobOptions options = {};
-    QString problem = {};   // empty, or why the ticket can't travel; then there are no options
+    Message problem = {};   // empty, or why the ticket can't travel; then there are no options
     qsizetype tooLarge = 0; // or how many bytes it would take, where there is only so much room
     qsizetype room = 0;
 };

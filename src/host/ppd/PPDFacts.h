@@ -3,6 +3,8 @@
 #include "host/job/HostTickets.h"
 #include "host/job/SealedTicket.h"
 
+#include "platform/values/Message.h"
+
 #include <map>
 #include <set>
 
@@ -16,7 +18,7 @@ struct PPDFacts {
     QString duplexChoice = {};                         // the default choice of the option "Duplex"; empty without one
     std::map<QString, std::set<QString>> choices = {}; // option keyword to its choice keywords
     TicketReader ticketReader = {};                    // of the queue's print server
-    QString problem = {}; // empty, or why the file can't be read; then there is nothing else
+    Message problem = {}; // empty, or why the file can't be read; then there is nothing else
 
     bool offers(const QString& keyword, const QString& choice) const;
 };

@@ -59,6 +59,7 @@ struct ScriptStep {
     ScriptKey key = {};               // Key
     bool flag = false;                // Check: on; ExpectEnabled: yes; Sync: from the tickets
     std::vector<SInt32> numbers = {}; // Select: rows from 1
+    std::optional<SInt32> status = {}; // Cancel: the exit status that is expected
 
     bool operator==(const ScriptStep&) const = default;
 };
