@@ -672,6 +672,10 @@ Go back and change one of them.</translation>
         <translation>%1</translation>
     </message>
     <message>
+        <source>Bundle Code Cut Off</source>
+        <translation>%1: the file is cut off</translation>
+    </message>
+    <message>
         <source>Bundle Without Identifier</source>
         <translation>%1 has no CFBundleIdentifier</translation>
     </message>
