@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 namespace kesta::host {
 namespace {
 
-using test::CapturedJob;
-using test::PrivateServer;
+using kesta::test::CapturedJob;
+using kesta::test::PrivateServer;
 
 struct Outcome {
     int status;

@@ -21,7 +21,7 @@ namespace {
 
 using namespace std::chrono_literals;
 using test::OnConsole;
-using test::PrivateServer;
+using kesta::test::PrivateServer;
 
 class SubmissionTest : public testing::Test {
 protected:
