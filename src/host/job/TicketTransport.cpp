@@ -2,6 +2,8 @@
 
 #include "host/job/TicketPacking.h"
 
+#include <QByteArrayList>
+
 #include <zlib.h>
 
 #include <array>

@@ -96,9 +96,7 @@ std::optional<Message> ContentProblem(const QByteArray& content)
 
 std::optional<Message> PPDFileProblem(const QString& path)
 {
-    const auto sentence = [&](const Message& reason) {
-        return Say("PPD Unusable", path, reason);
-    };
+    const auto sentence = [&](const Message& reason) { return Say("PPD Unusable", path, reason); };
     if (!QFileInfo::exists(path))
         return sentence(Say("No Such File"));
     if (!QFileInfo(path).isFile()) // reading a pipe or a device might never end
