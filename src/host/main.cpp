@@ -87,7 +87,8 @@ BundleOrError LoadTexts()
 {
     const QStringList places = BundlePlaces(u"KestaPrint.bundle"_s);
     const QString folder = FindBundleFolder(places);
-    return folder.isEmpty() ? BundleOrError{nullptr, Say("Bundle Missing", places.join(u", "_s))} : LoadBundleAt(folder);
+    return folder.isEmpty() ? BundleOrError{nullptr, Say("Bundle Missing", places.join(u", "_s))}
+                            : LoadBundleAt(folder);
 }
 
 // The plug-in with its panels; an error when a panel is missing, which a pane would wait for without end.

@@ -32,8 +32,8 @@ TEST(CommandLineTest, ReadsEveryOption)
     expected.presets.pageRanges = QStringLiteral("1-4,7,16-");
     expected.title = QStringLiteral("Report");
     expected.presets.options = {{QStringLiteral("A"), QStringLiteral("1")},
-                        {QStringLiteral("B"), QStringLiteral("false")},
-                        {QStringLiteral("C"), QStringLiteral("x y")}};
+                                {QStringLiteral("B"), QStringLiteral("false")},
+                                {QStringLiteral("C"), QStringLiteral("x y")}};
     expected.server = QStringLiteral("host:8631");
     expected.silent = true;
     expected.settingsPath = QStringLiteral("in.plist");

@@ -151,7 +151,8 @@ TEST_F(PrintDialogTest, ConflictingChoicesAreAskedAbout)
 TEST_F(PrintDialogTest, AFileThatCantBeWrittenKeepsTheDialogOpen)
 {
     options.saveSettingsPath = u"/nowhere/saved.plist"_s;
-    EXPECT_EQ(run("type Copies 4\nprint\nexpect \"Saving Failed Title\"\npress OK\nexpect-value Copies 4\ncancel 1"), 1);
+    EXPECT_EQ(run("type Copies 4\nprint\nexpect \"Saving Failed Title\"\npress OK\nexpect-value Copies 4\ncancel 1"),
+              1);
     EXPECT_EQ(fault, QString());
 }
 

@@ -142,8 +142,9 @@ TEST_F(PrintingTest, StandardInputPagesAndCopies)
     EXPECT_TRUE(job.data.contains("/NumCopies 2") || job.data.contains("/#copies 2") || job.argv.contains("\n4: 2\n"))
         << job.argv.constData();
 
-    EXPECT_EQ(print({u"-s"_s, u"-dPlain"_s, u"-o"_s, u"raw"_s}, "text\n").output, "");
+    EXPECT_EQ(print({u"-s"_s, u"-dPlain"_s, u"-o"_s, u"raw"_s, u"-t"_s, u""_s}, "text\n").output, "");
     EXPECT_EQ(cups.job(2).value().data, "text\n");
+    EXPECT_TRUE(cups.job(2).value().argv.contains("\n3: \n")) << cups.job(2).value().argv.constData();
     EXPECT_TRUE(print({}).error.contains("stdin is empty"));
     EXPECT_EQ(cups.jobState(3), 0);
 }

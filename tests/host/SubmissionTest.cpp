@@ -20,8 +20,8 @@ namespace kesta::host {
 namespace {
 
 using namespace std::chrono_literals;
-using test::OnConsole;
 using kesta::test::PrivateServer;
+using test::OnConsole;
 
 class SubmissionTest : public testing::Test {
 protected:
@@ -136,7 +136,8 @@ TEST_F(SubmissionTest, ASilentServerEndsEveryWait)
     EXPECT_LT(timer.elapsed(), 3000) << "leaving does not wait for the server";
     server.patience = 300ms;
     QString problem;
-    const BackgroundTask asked = FindQueueAside(server, {}, [&](const NamedQueue& queue) { problem = OnConsole(queue.problem); });
+    const BackgroundTask asked =
+        FindQueueAside(server, {}, [&](const NamedQueue& queue) { problem = OnConsole(queue.problem); });
     while (problem.isEmpty() && timer.elapsed() < 10'000)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
     EXPECT_TRUE(problem.contains(u"does not answer"_s));

@@ -58,8 +58,7 @@ TEST(PlugIn, WhatInfoDeclaresWronglyIsNamed)
         {types, "Plug-in Factory Not Named: x, 2469D08F-1C3C-4039-BE98-6ED74B921894"},
         {noFunction, "Plug-in Function Missing: x, NoSuchFunction"},
         {{{"CFPlugInTypes", Dictionary{{type, "text"}}}}, "Plug-in Type Unusable: x"},
-        {{{"CFPlugInTypes", Dictionary{{type, Array{Value(true)}}}}},
-         "Plug-in Factory Not A UUID: x"},
+        {{{"CFPlugInTypes", Dictionary{{type, Array{Value(true)}}}}}, "Plug-in Factory Not A UUID: x"},
     };
     for (const auto& [info, problem] : wrong)
         EXPECT_EQ(test::Bare(RegisterFactories(Bundle{.identifier = QStringLiteral("x"), .info = info}).value()),

@@ -53,8 +53,7 @@ TEST(PPDFileCheck, DescriptionsThatWouldKeepTheReaderBusyAreNamed)
     EXPECT_EQ(Problem(PPDVariant().append(Repeated(100'000, "*A", " B: \"\"\r"))),
               QStringLiteral("PPD Many Lines: 100000"));
     EXPECT_EQ(Problem(PPDVariant().append(QByteArray(5'000'000, 'x'))), QStringLiteral("PPD Large: 4"));
-    EXPECT_EQ(Problem(PPDVariant().append(QByteArray("*A: \"\0\"\n", 8))),
-              QStringLiteral("PPD Not Text"));
+    EXPECT_EQ(Problem(PPDVariant().append(QByteArray("*A: \"\0\"\n", 8))), QStringLiteral("PPD Not Text"));
     EXPECT_EQ(Problem(PPDVariant().truncate(0)), QStringLiteral("PPD Of Another Kind"));
 }
 
@@ -63,7 +62,8 @@ TEST(PPDFileCheck, WhatIsNoFileIsNotOpened)
     const QTemporaryDir directory;
     EXPECT_TRUE(Bare(*PPDFileProblem(directory.path())).contains(QStringLiteral("Not A File")));
     EXPECT_TRUE(Bare(*PPDFileProblem(QStringLiteral("/dev/zero"))).contains(QStringLiteral("Not A File")));
-    EXPECT_TRUE(Bare(*PPDFileProblem(directory.filePath(QStringLiteral("none")))).contains(QStringLiteral("No Such File")));
+    EXPECT_TRUE(
+        Bare(*PPDFileProblem(directory.filePath(QStringLiteral("none")))).contains(QStringLiteral("No Such File")));
 }
 
 TEST(PPDFileCheck, TheUnpackedSizeCounts)
@@ -105,7 +105,7 @@ TEST(PPDFileCheck, AHostilePPDIsNoCurrentPPD)
     testing::internal::CaptureStderr();
     const test::CurrentPrinter hostile(ppd);
     EXPECT_EQ(PPDGetCurrent(), nullptr);
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("more than 2000 lines of *OpenUI"), std::string::npos);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("2000, OpenUI"), std::string::npos);
 }
 
 TEST(PPDFileCheck, WhatTheLibraryRefusesIsSaidWithItsLine)

@@ -44,8 +44,7 @@ SendFunction DialogSender(const CommandLine& commandLine, const Bundle& texts)
 {
     return [&commandLine, &texts](const AcceptedJob& job, ProgressFunction progress,
                                   const std::function<void(SubmissionResult)>& done) {
-        const PrintJob sent{
-            .queue = job.queue, .title = job.title, .files = commandLine.files, .options = job.options};
+        const PrintJob sent{.queue = job.queue, .title = job.title, .files = commandLine.files, .options = job.options};
         return SubmitJobAside({.address = commandLine.server}, sent, std::move(progress),
                               [&commandLine, &texts, done](const SubmissionResult& result) {
                                   if (result.sent() && !commandLine.silent)

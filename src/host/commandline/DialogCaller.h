@@ -14,11 +14,13 @@ namespace kesta::host {
 
 struct RequestOrProblem {
     JobRequest request = {};
-    Message problem = {}; // empty, or why there is nothing to ask for: a file to print or the saved settings can't be read
+    Message problem =
+        {}; // empty, or why there is nothing to ask for: a file to print or the saved settings can't be read
 };
 RequestOrProblem DialogRequest(const CommandLine& commandLine, const Bundle& texts);
 
-// Sends the command line's files, and prints the job's number unless that is not wanted.
+// Sends the command line's files, and prints the job's number unless that is not wanted. Both arguments must outlive
+// it.
 SendFunction DialogSender(const CommandLine& commandLine, const Bundle& texts);
 
 } // namespace kesta::host

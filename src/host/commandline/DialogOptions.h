@@ -6,8 +6,8 @@
 
 namespace kesta::host {
 
-// The dialog's fields as they start: saved settings, over them what the presets' options say, over that their copies and
-// pages.
+// The dialog's fields as they start: saved settings, over them what the presets' options say, over that their copies
+// and pages.
 HostSettings StartingSettings(const JobPresets& presets, HostSettings saved);
 
 // Sets the printer's own options among the job options as choices of the ticket. What is set already stays, unless

@@ -149,8 +149,8 @@ SubmissionResult Sending::refused() const
         return {.message = Say("Job Not Sent", ServerSilentMessage(server_), job_.queue)};
     if (cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND)
         return {.message = Say("Queue Unknown", job_.queue)};
-    const Message wayOut = cupsLastError() == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS ? Say("Print When Accepting")
-                                                                                  : Say("Nothing Printed");
+    const Message wayOut =
+        cupsLastError() == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS ? Say("Print When Accepting") : Say("Nothing Printed");
     return {.message = Say("Job Refused", ServerName(server_), job_.queue, LastReason(), wayOut)};
 }
 

@@ -13,9 +13,9 @@
 namespace kesta::host {
 
 struct PrintJob {
-    QString queue = {};        // the name without instance
+    QString queue = {};                // the name without instance
     std::optional<QString> title = {}; // nothing: the first file's name, or "(stdin)"
-    QByteArrayList files = {}; // local paths; none: the document is on standard input
+    QByteArrayList files = {};         // local paths; none: the document is on standard input
     JobOptions options = {};
 };
 
@@ -25,7 +25,7 @@ struct SubmissionProgress {
 };
 
 struct SubmissionResult {
-    int jobID = 0;          // 0: nothing was printed
+    int jobID = 0;                // 0: nothing was printed
     Message message = {};         // the job's number at the server, or what went wrong and what to do
     bool cancelled = false;       // by the user
     bool documentAtFault = false; // it can't be read or is empty: no printer would take it
