@@ -54,7 +54,11 @@ std::optional<Message> LineProblem(std::string_view content)
     int lines = 0;
     while (!content.empty()) {
         const std::size_t end = content.find_first_of("\r\n");
-        const std::string_view keyword = MainKeyword(content.substr(0, end));
+        const std::string_view line = content.substr(0, end);
+        const std::string_view keyword = MainKeyword(line);
+        // The library passes over it in silence, and what the key is to keep secret would travel openly.
+        if (keyword == "KSTicketKey" && line.find(':') == line.npos)
+            return Say("PPD Key Without Value");
         content.remove_prefix(end == std::string_view::npos ? content.size() : end + 1);
         if (++lines > kMaximumLines)
             return Say("PPD Many Lines", kMaximumLines);
