@@ -54,6 +54,8 @@ TEST(PPDFileCheck, DescriptionsThatWouldKeepTheReaderBusyAreNamed)
     EXPECT_EQ(Problem(PPDVariant().append(QByteArray("*A: \"\0\"\n", 8))),
               QStringLiteral("it holds bytes that are not text."));
     EXPECT_EQ(Problem(PPDVariant().truncate(0)), QStringLiteral("it does not begin as a PPD file does."));
+    for (const char* opened : {"*OpenUI *O/O: PickOne\n", "*JCLOpenUI *O/O: PickOne\r\n", "*OpenGroup: G/G\n"})
+        EXPECT_EQ(Problem(PPDVariant().append(opened)), QStringLiteral("it breaks off in the middle.")) << opened;
 }
 
 TEST(PPDFileCheck, WhatIsNoFileIsNotOpened)
