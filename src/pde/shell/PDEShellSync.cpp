@@ -1,6 +1,6 @@
 #include "pde/shell/PDEShell.h"
 
-#include "pde/interface/JobTypeCheck.h"
+#include "model/JobType.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"
 #include "platform/system/SystemConfiguration.h"
