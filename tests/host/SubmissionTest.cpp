@@ -113,6 +113,7 @@ TEST_F(SubmissionTest, ASilentServerEndsEveryWait)
     timer.start();
     const SubmissionResult halfway = SubmitJob(server, job, cancellation, midway([this] { cups.signal(SIGSTOP); }));
     EXPECT_TRUE(halfway.message.contains(u"went away"_s)) << halfway.message.toStdString();
+    server.patience = 50ms; // nobody answers any more, however long one waits
     EXPECT_TRUE(SubmitJob(server, job, cancellation).message.contains(u"does not answer"_s));
     EXPECT_TRUE(FetchQueues(server, cancellation).problem.contains(u"does not answer"_s));
     EXPECT_TRUE(FetchQueuePPD(server, u"Kesta"_s, cancellation).problem.contains(u"does not answer"_s));
@@ -128,7 +129,7 @@ TEST_F(SubmissionTest, ASilentServerEndsEveryWait)
         timer.restart();
     }
     EXPECT_LT(timer.elapsed(), 3000) << "leaving does not wait for the server";
-    server.patience = 300ms;
+    server.patience = 50ms;
     QString problem;
     const BackgroundTask asked = FindQueueAside(server, {}, [&](const NamedQueue& queue) { problem = queue.problem; });
     while (problem.isEmpty() && timer.elapsed() < 10'000)
