@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
-#include <set>
+#include <map>
 #include <utility>
 
 namespace kesta {
@@ -31,39 +31,43 @@ SInt32 LastPage(const SpecialPage& exception)
     return std::max(exception.startPage(), static_cast<const ExceptionPage&>(exception).endPage());
 }
 
-struct ByLastPage {
-    using is_transparent = void;
-    bool operator()(const Page& one, const Page& other) const { return LastPage(*one) < LastPage(*other); }
-    bool operator()(const Page& one, SInt32 page) const { return LastPage(*one) < page; }
-    bool operator()(SInt32 page, const Page& other) const { return page < LastPage(*other); }
-};
+// Exception pages of which no two have a page in common, by start page.
+using Exceptions = std::multimap<SInt32, Page>;
 
-// Exception pages of which no two have a page in common: what is cut off of one leaves their order as it is.
-using Exceptions = std::multiset<Page, ByLastPage>;
+// The first that has the page or lies behind it.
+Exceptions::iterator FirstFrom(SInt32 page, Exceptions& exceptions)
+{
+    const auto behind = exceptions.lower_bound(page);
+    if (behind == exceptions.begin())
+        return behind;
+    const auto before = std::prev(behind);
+    return LastPage(*before->second) < page ? behind : before;
+}
 
 void Place(Page exception, Exceptions& exceptions)
 {
     const SInt32 start = exception->startPage(), end = LastPage(*exception);
-    auto place = exceptions.lower_bound(start);
-    while (place != exceptions.end()) {
-        SpecialPage& there = **place;
+    auto place = FirstFrom(start, exceptions);
+    while (place != exceptions.end() && place->first <= end) {
+        SpecialPage& there = *place->second;
         const bool goesOnBehind = end < LastPage(there);
+        Page rest;
         if (there.startPage() < start) {
-            Page rest = goesOnBehind ? there.clone() : nullptr;
+            if (goesOnBehind)
+                rest = there.clone();
             static_cast<ExceptionPage&>(there).setEndPage(start - 1);
             ++place;
-            if (rest) {
-                rest->setStartPage(end + 1);
-                place = exceptions.insert(place, std::move(rest));
-            }
-        } else if (goesOnBehind) {
-            there.setStartPage(std::max(there.startPage(), end + 1));
-            break;
         } else {
+            if (goesOnBehind)
+                rest = std::move(place->second);
             place = exceptions.erase(place);
         }
+        if (rest) {
+            rest->setStartPage(end + 1);
+            place = exceptions.emplace_hint(place, end + 1, std::move(rest));
+        }
     }
-    exceptions.insert(place, std::move(exception));
+    exceptions.emplace_hint(place, start, std::move(exception));
 }
 
 } // namespace
@@ -178,12 +182,14 @@ OSStatus ExceptionPageList::add(const SpecialPages& exceptions)
     if (!AreAll<ExceptionPage>(exceptions))
         return kMissingArgument;
     std::vector<Page> added = Clones(exceptions); // of all first: some may be in this list and leave it
-    Exceptions placed(std::move_iterator(pages_.begin()), std::move_iterator(pages_.end()));
+    Exceptions placed;
+    for (Page& page : pages_)
+        placed.emplace_hint(placed.end(), page->startPage(), std::move(page));
     for (Page& exception : added)
         Place(std::move(exception), placed);
     pages_.clear();
-    while (!placed.empty())
-        pages_.push_back(std::move(placed.extract(placed.begin()).value()));
+    for (auto& [start, page] : placed)
+        pages_.push_back(std::move(page));
     return noErr;
 }
 
