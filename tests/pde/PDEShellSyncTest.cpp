@@ -1,3 +1,4 @@
+#include "model/JobType.h"
 #include "pde/ShellFixture.h"
 #include "model/JobType.h"
 #include "pde/interface/JobTypeCheck.h"

@@ -100,6 +100,44 @@ TEST(EnglishTexts, AnswerEveryKeyWithAsManyValuesAsTheCodeGives)
     EXPECT_EQ(texts.at({u"Localizable"_s, u"-"_s}), u"-"); // a line in a menu
 }
 
+// The keys in a source's setting maps, and those that its forms are titled by.
+QStringList KeysOfTables(const QString& source)
+{
+    static const QRegularExpression map(u"to_array<SettingRow>\\(\\{(.*?)\\}\\);"_s,
+                                        QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression row(u"\\{\"((?:[^\"\\\\]|\\\\.)*)\","_s);
+    static const QRegularExpression title(u"\\.(?:title|other) = \"([^\"]*)\""_s);
+    QStringList keys;
+    for (auto maps = map.globalMatch(source); maps.hasNext();) {
+        for (auto rows = row.globalMatch(maps.next().captured(1)); rows.hasNext();)
+            keys << rows.next().captured(1).replace(u"\\\""_s, u"\""_s);
+    }
+    for (auto titles = title.globalMatch(source); titles.hasNext();)
+        keys << titles.next().captured(1);
+    return keys;
+}
+
+TEST(EnglishTexts, AnswerTheKeysOfEveryTable)
+{
+    const Texts features = TextsOf(English(u"KestaFeatures"_s)), colors = TextsOf(English(u"ColorOptions"_s));
+    int count = 0;
+    for (const QString& folder : {u"pde"_s, u"panels"_s, u"product"_s, u"printer"_s}) {
+        QDirIterator sources(QStringLiteral(KESTA_SOURCES "/") + folder, {u"*.h"_s, u"*.cpp"_s}, QDir::Files,
+                             QDirIterator::Subdirectories);
+        while (sources.hasNext()) {
+            QFile file(sources.next());
+            ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+            const Texts& texts = file.fileName().contains(u"/color_options/"_s) ? colors : features;
+            for (const QString& key : KeysOfTables(QString::fromUtf8(file.readAll()))) {
+                EXPECT_TRUE(texts.contains({u"Localizable"_s, key}))
+                    << file.fileName().toStdString() << ": " << key.toStdString();
+                ++count;
+            }
+        }
+    }
+    EXPECT_GT(count, 70);
+}
+
 // The house rules for what people read.
 TEST(EnglishTexts, KeepToTheWordingOfTheHouse)
 {

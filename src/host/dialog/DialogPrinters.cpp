@@ -1,7 +1,8 @@
 // The chosen printer and its pane.
 
-#include "host/commandline/DialogOptions.h"
 #include "host/dialog/PrintDialog.h"
+
+#include "host/commandline/DialogOptions.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
 #include "platform/plugins/Sentence.h"

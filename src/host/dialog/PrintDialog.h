@@ -88,6 +88,7 @@ private:
     void saveSettings();
     std::optional<QString> askForFile(); // where to save; nothing when the user cancels
     bool saveAfterPrint();
+    TicketReader ticketReader() const;
     std::optional<AcceptedJob> composeJob();
     void send();
     void sent(const SubmissionResult& result);

@@ -1,5 +1,7 @@
 #include "host/server/DocumentSource.h"
 
+#include "platform/system/Descriptor.h"
+
 #include <QTemporaryFile>
 
 #include <algorithm>
@@ -7,7 +9,6 @@
 #include <cerrno>
 #include <cstring>
 #include <span>
-#include <utility>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -20,23 +21,6 @@ namespace kesta::host {
 namespace {
 
 constexpr int kLookAgainMilliseconds = 100;
-
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor()
-    {
-        if (number_ > STDERR_FILENO)
-            ::close(number_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    int number() const { return number_; }
-    int release() { return std::exchange(number_, -1); }
-
-private:
-    int number_;
-};
 
 QString Reason(int error)
 {
@@ -124,12 +108,12 @@ std::optional<Message> OpenPath(const QByteArray& encoded, Document& document, C
     document.name = path.section(u'/', -1);
     Descriptor descriptor(::open(encoded.constData(), O_RDONLY | O_CLOEXEC));
     struct stat status {};
-    if (descriptor.number() < 0 || ::fstat(descriptor.number(), &status) != 0)
+    if (descriptor < 0 || ::fstat(descriptor, &status) != 0)
         return NoAccess(path, errno);
     if (auto fault = FaultOf(path, status))
         return fault;
     if (!S_ISREG(status.st_mode)) {
-        if (auto problem = Spool(descriptor.number(), Verbatim(path), document, cancellation))
+        if (auto problem = Spool(descriptor, Verbatim(path), document, cancellation))
             return problem;
     } else {
         document.file = std::make_unique<QFile>(path);

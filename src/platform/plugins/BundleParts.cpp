@@ -36,11 +36,6 @@ InfoOrError ReadInfo(const QString& file)
     return {std::move(*list.value->dictionary())};
 }
 
-bool IsPlainName(const QString& name)
-{
-    return !name.isEmpty() && !name.startsWith(u'.') && !name.contains(u'/') && !name.contains(QChar());
-}
-
 QStringList VariantsOf(const QString& language, const QStringList& names)
 {
     QStringList variants;
@@ -138,7 +133,7 @@ OpenedBundle OpenBundle(const QString& path)
         return {std::nullopt, Say("Bundle Without Identifier", contents + QStringLiteral("Info.plist"))};
     const QString name = QFileInfo(folder).completeBaseName();
     const QString* executable = info.string("CFBundleExecutable");
-    if (executable && !IsPlainName(*executable))
+    if (executable && !IsPlainFileName(*executable))
         return {std::nullopt, Say("Bundle Executable Not Plain", contents + QStringLiteral("Info.plist"))};
 
     Bundle bundle{.resourcesPath = contents + QStringLiteral("Resources"), .path = folder, .identifier = *identifier};
