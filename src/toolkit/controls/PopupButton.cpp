@@ -18,6 +18,8 @@
 namespace kesta {
 namespace {
 
+constexpr int kInset = 1; // points, of the text in its field: what Qt's own styles keep free
+
 QStyleOptionComboBox StyleOption(const PopupButton& button)
 {
     QStyleOptionComboBox option;
@@ -29,13 +31,15 @@ QStyleOptionComboBox StyleOption(const PopupButton& button)
 
 QRect TextRect(const PopupButton& button, const QStyleOptionComboBox& option)
 {
-    return button.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &button);
+    const QRect field =
+        button.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &button);
+    return field.adjusted(kInset, 0, -kInset, 0);
 }
 
 QSize SizeForText(const PopupButton& button, int textWidth)
 {
     const QStyleOptionComboBox option = StyleOption(button);
-    const QSize text(textWidth, button.fontMetrics().height());
+    const QSize text(textWidth + 2 * kInset, button.fontMetrics().height());
     return button.style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, &button);
 }
 

@@ -4,10 +4,8 @@
 
 #include <QApplication>
 #include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QDBusVariant>
 
 using namespace Qt::StringLiterals;
 
@@ -34,21 +32,21 @@ SchemeFollower::SchemeFollower(QApplication& application, QDBusConnection bus) :
             take(reply.value());
         answer->deleteLater();
     });
-    bus.connect(kService, kPath, kInterface, u"SettingChanged"_s, this,
-                SLOT(settingChanged(QString, QString, QDBusVariant)));
+    bus.connect(kService, kPath, kInterface, u"SettingChanged"_s, this, SLOT(settingChanged(QDBusMessage)));
 }
 
-void SchemeFollower::settingChanged(const QString& group, const QString& key, const QDBusVariant& value)
+void SchemeFollower::settingChanged(const QDBusMessage& change)
 {
-    if (group == kNamespace && key == kKey)
-        take(value);
+    const QVariantList said = change.arguments();
+    if (said.size() == 3 && said[0].toString() == kNamespace && said[1].toString() == kKey)
+        take(said[2].value<QDBusVariant>());
 }
 
 // Read answers with a variant in a variant, the signal with one.
 void SchemeFollower::take(const QDBusVariant& value)
 {
     QVariant scheme = value.variant();
-    if (scheme.canConvert<QDBusVariant>())
+    if (scheme.metaType() == QMetaType::fromType<QDBusVariant>())
         scheme = scheme.value<QDBusVariant>().variant();
     if (scheme.typeId() == QMetaType::UInt)
         UseOwnPalette(scheme.toUInt() == kPrefersDark);

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <QDBusMessage>
+#include <QDBusVariant>
 #include <QObject>
 
 class QApplication;
 class QDBusConnection;
-class QDBusVariant;
 
 namespace kesta {
 
@@ -16,7 +17,7 @@ public:
     SchemeFollower(QApplication& application, QDBusConnection bus);
 
 public Q_SLOTS:
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    void settingChanged(const QDBusMessage& change);
 
 private:
     void take(const QDBusVariant& value);

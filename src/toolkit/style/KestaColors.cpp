@@ -10,7 +10,8 @@ namespace kesta {
 namespace {
 
 constexpr double kLeastOfTexts = 4.5; // contrast that small texts need
-constexpr double kLeastOfParts = 3;   // that parts of controls need
+constexpr double kLeastOfLabels = 5;
+constexpr double kLeastOfParts = 3; // that parts of controls need
 constexpr double kLeastOfDisabled = 2;
 constexpr double kDisabledShare = 0.58; // of the ground in a disabled text
 
@@ -51,7 +52,8 @@ KestaColors MixedFrom(const QPalette& palette)
     colors.onButton = active(QPalette::ButtonText);
     colors.dark = colors.window.lightness() < colors.text.lightness();
     colors.pane = colors.dark ? Mix(colors.window, colors.text, 0.04) : Mix(colors.window, colors.base, 0.80);
-    colors.text2 = Mix(colors.text, colors.window, 0.30);
+    colors.text2 =
+        Moved(Mix(colors.text, colors.window, 0.30), colors.text, {colors.window, colors.pane}, kLeastOfLabels);
     colors.disabled = Mix(colors.text, colors.window, kDisabledShare);
     colors.hairline = Mix(colors.window, colors.text, 0.11);
     colors.border = Mix(colors.window, colors.text, 0.25);
@@ -87,8 +89,12 @@ QPalette Readable(QPalette palette)
     mend(QPalette::WindowText, colors.window, colors.disabled);
     mend(QPalette::Text, colors.base, colors.disabledOnBase);
     mend(QPalette::ButtonText, colors.button, colors.disabledOnButton);
-    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+    const QColor link = Moved(palette.color(QPalette::Active, QPalette::Link), colors.text,
+                              {colors.window, colors.pane}, kLeastOfLabels);
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
         palette.setColor(group, QPalette::PlaceholderText, colors.placeholder);
+        palette.setColor(group, QPalette::Link, link);
+    }
     palette.setColor(QPalette::Disabled, QPalette::PlaceholderText, colors.disabledOnBase);
     return palette;
 }

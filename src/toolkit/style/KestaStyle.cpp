@@ -57,6 +57,14 @@ bool IsNobodysPalette(const QPalette& palette, const QPalette& defaults)
                                [&](QPalette::ColorRole role) { return palette.color(role) == defaults.color(role); });
 }
 
+// A desktop's palette comes through the style, which mends it; one that code has set does not.
+void MakeReadable()
+{
+    const QPalette palette = QApplication::palette();
+    if (const QPalette readable = Readable(palette); readable != palette)
+        QApplication::setPalette(readable);
+}
+
 void SetTextColor(QWidget& widget, const QColor& color, const QColor& disabled)
 {
     QPalette palette; // of these roles alone, so that the others follow the application's
@@ -128,15 +136,14 @@ void InstallKestaStyle(QApplication& application)
         QApplication::setStyle(new KestaProxyStyle(own));
         application.installEventFilter(application.style());
     }
-    if (own)
-        UseOwnPalette(dark);
+    own ? UseOwnPalette(dark) : MakeReadable();
     if (own && !wished && !installed)
         FollowDesktopScheme(application);
 }
 
 void UseOwnPalette(bool dark)
 {
-    QApplication::setPalette(OwnPalette(dark));
+    QApplication::setPalette(Readable(OwnPalette(dark)));
 }
 
 void KestaProxyStyle::polish(QPalette& palette)
