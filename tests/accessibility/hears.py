@@ -1,4 +1,4 @@
-#!/usr/bin/python3
+#!/usr/bin/python3 -W ignore
 """Listens to the print dialog on a real accessibility bus: at-spi-run hears.py PROGRAM PPD
 
 Plays a dialog script in the program and checks what a screen reader is told: roles, names, labels by relation, items,

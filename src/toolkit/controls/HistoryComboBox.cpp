@@ -58,14 +58,14 @@ void HistoryComboBox::refill()
 
 std::optional<SInt32> HistoryComboBox::fixedValue() const
 {
-    if (chosenFixed_ < 0)
-        return std::nullopt;
+    if (chosenFixed_ < 0 || currentText() != fixed_[static_cast<std::size_t>(chosenFixed_)].title)
+        return std::nullopt; // an assistive program sets the text without typing it
     return fixed_[static_cast<std::size_t>(chosenFixed_)].value;
 }
 
 QString HistoryComboBox::typedText() const
 {
-    return chosenFixed_ < 0 ? currentText() : QString();
+    return fixedValue() ? QString() : currentText();
 }
 
 bool HistoryComboBox::setFixedValue(SInt32 value)
