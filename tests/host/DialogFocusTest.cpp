@@ -87,8 +87,6 @@ TEST_F(DialogFocusTest, TabWalksFromThePrinterToTheLastButton)
                                    u"Portrait"_s,
                                    u"Landscape"_s,
                                    u"Panel"_s,
-                                   u"Previous panel"_s,
-                                   u"Next panel"_s,
                                    u"Booklet image order"_s,
                                    u"Output options"_s,
                                    u"Banner sheet"_s,

@@ -6,6 +6,7 @@
 #include "host/dialog/PrintTexts.h"
 #include "host/job/SavedSettings.h"
 #include "host/server/DocumentSource.h"
+#include "toolkit/windows/FitToScreen.h"
 #include "toolkit/windows/InterfaceFile.h"
 #include "toolkit/windows/ModalLoop.h"
 #include "toolkit/windows/WindowSummary.h"
@@ -16,7 +17,6 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 
 #include <algorithm>
@@ -95,10 +95,7 @@ void PrintDialog::setUpWindow()
     const QString document = documentName();
     window_->setWindowTitle(document.isEmpty() ? PrintText(texts, "Window Title No Document")
                                                : PrintText(texts, "Window Title").arg(document));
-    QSize size = kUsualSize;
-    if (const QScreen* screen = window_->screen())
-        size = size.boundedTo(screen->availableSize());
-    window_->resize(size);
+    window_->resize(kUsualSize.boundedTo(RoomOnScreen(*window_)));
 
     paneArea_.emplace(*window_);
     fields_.emplace(*window_, texts);
