@@ -281,6 +281,29 @@ TEST_F(AccessibilityTest, EveryPanelAndEveryWindowThatItOpensCanBeHeard)
     EXPECT_GE(walked.size(), 6U) << QStringList(walked.begin(), walked.end()).join(u", "_s).toStdString();
 }
 
+TEST_F(AccessibilityTest, ThePanelThatWasShownLastIsShownAgain)
+{
+    const auto shownThenChosen = [this](SInt32 chosen) {
+        const PlugInOrError loaded = LoadPlugIn();
+        EXPECT_FALSE(ChoosePanels(*loaded.plugIn, {}));
+        PrintDialog dialog({.commandLine = options, .texts = &PrintBundle(), .plugIn = loaded});
+        EXPECT_FALSE(dialog.prepare());
+        SInt32 shown = 0;
+        const ModalIdleAction before = SetModalIdleAction([&](QWidget& window) {
+            shown = ShownPanel(window);
+            ShowPanel(window, chosen);
+            EndModalLoop(window, ModalResult::Cancel);
+        });
+        dialog.run();
+        SetModalIdleAction(before);
+        return shown;
+    };
+    EXPECT_EQ(shownThenChosen(3), 1);
+    EXPECT_EQ(shownThenChosen(2), 3);
+    RememberDialog({.printer = {}, .panel = 77});
+    EXPECT_EQ(shownThenChosen(1), 1) << "there are fewer now";
+}
+
 TEST_F(AccessibilityTest, EveryInterfaceFileCanBeHeard)
 {
     const Bundle* features = LoadBundleAt(QStringLiteral(KESTA_FEATURES_BUNDLE)).bundle;

@@ -25,7 +25,8 @@ using namespace Qt::StringLiterals;
 // What a screen reader calls the widget.
 QString HeardName(QWidget& widget)
 {
-    if (qobject_cast<QComboBox*>(&widget) || qobject_cast<PopupButton*>(&widget)) // its label is a relation; what has the name's place is its text
+    if (qobject_cast<QComboBox*>(&widget) ||
+        qobject_cast<PopupButton*>(&widget)) // its label is a relation; what has the name's place is its text
         return ControlName(widget);
     const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&widget);
     return accessible ? accessible->text(QAccessible::Name) : QString();

@@ -41,7 +41,7 @@ protected:
         PrintDialog dialog({.commandLine = options,
                             .texts = &PrintBundle(),
                             .plugIn = {plugIn, u"The plug-in is missing."_s},
-                            .scripted = true});
+                            .scripted = scripted});
         problem = dialog.prepare().value_or(QString());
         if (!problem.isEmpty())
             return 1;
@@ -79,6 +79,7 @@ protected:
     FakePlugIn fake;
     std::optional<PlugIn> plugIn = FakePlugIn::door();
     CommandLine options;
+    bool scripted = true;
     QString problem;
     QString fault;
 };

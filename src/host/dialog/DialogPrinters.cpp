@@ -8,6 +8,8 @@
 
 #include <QFileInfo>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace kesta::host {
@@ -21,7 +23,7 @@ void PrintDialog::startPrinters()
 {
     const CommandLine& options = start_.commandLine;
     if (options.ppdPath.isEmpty()) {
-        finder_.start(options.queue);
+        finder_.start(options.queue, memory_.printer);
         enableButtons();
         return;
     }
@@ -31,6 +33,21 @@ void PrintDialog::startPrinters()
     printer.ppd.path = options.ppdPath;
     usePrinter(printer);
     fillPrinterChoice();
+}
+
+// Of this window's first pane: another printer's shows the panel that the plug-in has in front.
+void PrintDialog::recallPanel()
+{
+    if (pane_ && memory_.panel > 0)
+        ShowPanel(paneArea_->host(), std::exchange(memory_.panel, 0));
+}
+
+void PrintDialog::rememberDialog() const
+{
+    const bool hasPrinted = hasPrinted_ && printer_ && printer_->isQueue();
+    const Queue queue = hasPrinted ? printer_->queue : Queue();
+    RememberDialog({.printer = queue.instance.isEmpty() ? queue.name : queue.name + u'/' + queue.instance,
+                    .panel = pane_ ? ShownPanel(paneArea_->host()) : 0});
 }
 
 void PrintDialog::fillPrinterChoice()
@@ -46,6 +63,7 @@ void PrintDialog::fillPrinterChoice()
     }
     for (const Queue& queue : finder_.queues())
         menu.items.push_back({.title = PrinterTitle(queue, *start_.texts)});
+    choice->setEnabled(!menu.items.empty()); // nothing to choose from while printers are looked for
     choice->setMenu(std::move(menu));
     if (position)
         choice->setValue(position);
@@ -97,6 +115,7 @@ void PrintDialog::openPane()
     paneStatus_ = pane_ ? pane_->status() : noErr;
     if (paneStatus_ != noErr)
         pane_.reset();
+    recallPanel();
     if (pane_)
         paneArea_->showPane();
     else

@@ -123,6 +123,8 @@ void PrintDialog::showFields()
 
 int PrintDialog::run()
 {
+    if (!start_.scripted) // a script begins where every other begins
+        memory_ = RecallDialog();
     showFields();
     startPrinters();
     qApp->installEventFilter(this);
@@ -133,6 +135,8 @@ int PrintDialog::run()
     RunModalLoop(*window_);
     qApp->removeEventFilter(this);
     sending_.reset();
+    if (!start_.scripted)
+        rememberDialog();
     pane_.reset(); // Cancel: nothing more goes to the tickets
     return status_;
 }
@@ -140,6 +144,7 @@ int PrintDialog::run()
 void PrintDialog::end(int status)
 {
     status_ = status;
+    hasPrinted_ = status == 0;
     EndModalLoop(*window_, status == 0 ? ModalResult::OK : ModalResult::Cancel);
 }
 

@@ -2,6 +2,7 @@
 
 #include "host/commandline/CommandLine.h"
 #include "host/dialog/DialogFields.h"
+#include "host/dialog/DialogMemory.h"
 #include "host/dialog/ElidedText.h"
 #include "host/dialog/PaneArea.h"
 #include "host/dialog/PrinterFinder.h"
@@ -64,6 +65,8 @@ private:
     void choosePrinter(int position);
     void presetFromPrinter();
     void openPane();
+    void recallPanel();
+    void rememberDialog() const;
     void closePane(); // what the pane shows goes to the tickets first
     void enableButtons();
     PaneMessage whyNoPane() const;
@@ -93,11 +96,13 @@ private:
     PrinterFinder finder_;
     std::optional<DialogPrinter> printer_;
     PPDFacts facts_; // of the printer
+    DialogMemory memory_;
     std::optional<Pane> pane_;
     OSStatus paneStatus_ = noErr; // of the last attempt to open one
     std::optional<BackgroundTask> sending_;
     bool summaryIsDue_ = false;
     int status_ = 0;
+    bool hasPrinted_ = false;
 };
 
 } // namespace kesta::host
