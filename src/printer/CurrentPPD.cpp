@@ -1,6 +1,7 @@
 #include "printer/PPDUtilities.h"
 
 #include "pde/ticket/TicketUtilities.h"
+#include "platform/plugins/Sentence.h"
 #include "platform/printsystem/PPDFileCheck.h"
 #include "printer/LocalizedPPD.h"
 
@@ -38,8 +39,8 @@ std::optional<QString> CurrentPPDPath()
 
 ppd_file_t* OpenPPD(const QString& path)
 {
-    if (const std::optional<QString> problem = PPDFileProblem(path)) {
-        std::fprintf(stderr, "%s\n", qUtf8Printable(*problem));
+    if (const std::optional<Message> problem = PPDFileProblem(path)) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(Sentence(*problem, HostTexts())));
         return nullptr;
     }
     ppd_file_t* ppd = ppdOpenFile(QFile::encodeName(path).constData());

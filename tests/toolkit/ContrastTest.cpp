@@ -1,6 +1,6 @@
 // Whether everything can be seen on any palette, by the pixels.
 
-#include "toolkit/GalleryWindow.h"
+#include "gallery/GalleryWindow.h"
 #include "toolkit/controls/Controls.h"
 #include "toolkit/controls/ListView.h"
 #include "toolkit/controls/MenuButton.h"
@@ -125,7 +125,7 @@ protected:
 
 TEST_P(ContrastTest, TextsCanBeReadAndDisabledOnesSeen)
 {
-    for (const auto make : {test::MakeGalleryWindow, test::MakeGalleryControls}) {
+    for (const auto make : {gallery::MakeGalleryWindow, gallery::MakeGalleryControls}) {
         const auto window = make();
         window->resize(700, 650);
         window->show();
@@ -163,9 +163,9 @@ TEST_P(ContrastTest, TheFocusCanBeSeen)
 
 TEST_P(ContrastTest, ItemsOfMenusCanBeReadAlsoUnderTheMouse)
 {
-    const auto window = test::MakeGalleryWindow();
+    const auto window = gallery::MakeGalleryWindow();
     window->show();
-    auto* button = FindControlAs<MenuButton>(window.get(), {test::kGallery, 107});
+    auto* button = FindControlAs<MenuButton>(window.get(), {gallery::kGallery, 107});
     QTimer::singleShot(0, [] {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         ASSERT_TRUE(menu);

@@ -4,13 +4,11 @@
 
 #include <QFile>
 
-using namespace Qt::StringLiterals;
-
 namespace kesta::host {
 
 PPDFile OpenPPDFile(const QString& path)
 {
-    if (const std::optional<QString> problem = PPDFileProblem(path))
+    if (const std::optional<Message> problem = PPDFileProblem(path))
         return {{}, *problem};
     PPDFile file;
     file.ppd.reset(ppdOpenFile(QFile::encodeName(path).constData()));
@@ -20,8 +18,7 @@ PPDFile OpenPPDFile(const QString& path)
     }
     int line = 0;
     const ppd_status_t status = ppdLastError(&line);
-    file.problem =
-        u"\"%1\" can't be read, line %2: %3"_s.arg(path).arg(line).arg(QString::fromUtf8(ppdErrorString(status)));
+    file.problem = Say("PPD Refused", path, line, QString::fromUtf8(ppdErrorString(status)));
     return file;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/values/Message.h"
+
 #include <QString>
 
 #include <cups/ppd.h>
@@ -14,7 +16,7 @@ struct PPDClose {
 
 struct PPDFile {
     std::unique_ptr<ppd_file_t, PPDClose> ppd; // with its defaults marked
-    QString problem;                           // empty, or why it can't be read: one line
+    Message problem;                           // empty, or why it can't be read
 };
 
 // Opens a PPD of any origin, plain or gzipped, in bounded time.

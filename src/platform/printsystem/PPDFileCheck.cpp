@@ -48,20 +48,23 @@ std::string_view MainKeyword(std::string_view line)
     return keyword == "UIConstraints" || keyword == "NonUIConstraints" ? std::string_view() : keyword;
 }
 
-std::optional<QString> LineProblem(std::string_view content)
+std::optional<Message> LineProblem(std::string_view content)
 {
     std::map<std::string_view, int> count;
     int lines = 0;
     while (!content.empty()) {
         const std::size_t end = content.find_first_of("\r\n");
-        const std::string_view keyword = MainKeyword(content.substr(0, end));
+        const std::string_view line = content.substr(0, end);
+        const std::string_view keyword = MainKeyword(line);
+        // The library passes over it in silence, and what the key is to keep secret would travel openly.
+        if (keyword == "KSTicketKey" && line.find(':') == line.npos)
+            return Say("PPD Key Without Value");
         content.remove_prefix(end == std::string_view::npos ? content.size() : end + 1);
         if (++lines > kMaximumLines)
-            return QStringLiteral("it has more than %1 lines").arg(kMaximumLines);
+            return Say("PPD Many Lines", kMaximumLines);
         if (!keyword.empty() && ++count[keyword] > kMaximumOfOneKeyword)
-            return QStringLiteral("it has more than %1 lines of *%2")
-                .arg(kMaximumOfOneKeyword)
-                .arg(QString::fromLatin1(keyword.data(), qMin<qsizetype>(keyword.size(), 40)));
+            return Say("PPD Many Lines Of", kMaximumOfOneKeyword,
+                       QString::fromLatin1(keyword.data(), qMin<qsizetype>(keyword.size(), 40)));
     }
     return std::nullopt;
 }
@@ -76,34 +79,32 @@ bool BreaksOff(const QByteArray& content)
            isOpen("\n*OpenGroup", "\n*CloseGroup");
 }
 
-std::optional<QString> ContentProblem(const QByteArray& content)
+std::optional<Message> ContentProblem(const QByteArray& content)
 {
     if (content.size() > kMaximumSize)
-        return QStringLiteral("it is larger than %1 MB").arg(kMaximumMegabytes);
+        return Say("PPD Large", kMaximumMegabytes);
     if (!content.startsWith("*PPD-Adobe:"))
-        return QStringLiteral("it does not begin as a PPD file does");
+        return Say("PPD Of Another Kind");
     if (content.contains('\0'))
-        return QStringLiteral("it holds bytes that are not text");
-    if (std::optional<QString> problem = LineProblem({content.constData(), static_cast<std::size_t>(content.size())}))
+        return Say("PPD Not Text");
+    if (std::optional<Message> problem = LineProblem({content.constData(), static_cast<std::size_t>(content.size())}))
         return problem;
-    return BreaksOff(content) ? std::optional(QStringLiteral("it breaks off in the middle")) : std::nullopt;
+    return BreaksOff(content) ? std::optional(Say("PPD Breaks Off")) : std::nullopt;
 }
 
 } // namespace
 
-std::optional<QString> PPDFileProblem(const QString& path)
+std::optional<Message> PPDFileProblem(const QString& path)
 {
-    const auto sentence = [&](const QString& reason) {
-        return QStringLiteral("The printer description %1 can't be used: %2.").arg(path, reason);
-    };
+    const auto sentence = [&](const Message& reason) { return Say("PPD Unusable", path, reason); };
     if (!QFileInfo::exists(path))
-        return sentence(QStringLiteral("there is no such file"));
+        return sentence(Say("No Such File"));
     if (!QFileInfo(path).isFile()) // reading a pipe or a device might never end
-        return sentence(QStringLiteral("it is not a file"));
+        return sentence(Say("Not A File"));
     const std::optional<QByteArray> content = ReadUnpacked(path);
     if (!content)
-        return sentence(QStringLiteral("it can't be read"));
-    const std::optional<QString> problem = ContentProblem(*content);
+        return sentence(Say("File Unreadable"));
+    const std::optional<Message> problem = ContentProblem(*content);
     return problem ? std::optional(sentence(*problem)) : std::nullopt;
 }
 

@@ -23,7 +23,6 @@ namespace customsize {
 
 // The numbers of the controls in CustomStockSizeDialog/CustomStockSize.
 inline constexpr FourCharCode kSignature = "CuSz"_code;
-inline constexpr FourCharCode kDefaultsCommand = "Dflt"_code;
 enum Control : SInt32 {
     kWidthField = 1,
     kWidthLimits = 2,
