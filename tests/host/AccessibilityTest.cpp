@@ -254,7 +254,10 @@ TEST_F(AccessibilityTest, EveryPanelAndEveryWindowThatItOpensCanBeHeard)
     const PlugInOrError loaded = LoadPlugIn();
     ASSERT_TRUE(loaded.plugIn) << testing::PrintToString(loaded.error);
     ASSERT_FALSE(ChoosePanels(*loaded.plugIn, {}));
-    PrintDialog dialog({.request = DialogRequest(options, PrintBundle()).request, .texts = &PrintBundle(), .plugIn = loaded, .scripted = true});
+    PrintDialog dialog({.request = DialogRequest(options, PrintBundle()).request,
+                        .texts = &PrintBundle(),
+                        .plugIn = loaded,
+                        .scripted = true});
     ASSERT_FALSE(dialog.prepare());
     int panels = 0;
     const ModalIdleAction before = SetModalIdleAction([&](QWidget& front) {
@@ -286,7 +289,8 @@ TEST_F(AccessibilityTest, ThePanelThatWasShownLastIsShownAgain)
     const auto shownThenChosen = [this](SInt32 chosen) {
         const PlugInOrError loaded = LoadPlugIn();
         EXPECT_FALSE(ChoosePanels(*loaded.plugIn, {}));
-        PrintDialog dialog({.request = DialogRequest(options, PrintBundle()).request, .texts = &PrintBundle(), .plugIn = loaded});
+        PrintDialog dialog(
+            {.request = DialogRequest(options, PrintBundle()).request, .texts = &PrintBundle(), .plugIn = loaded});
         EXPECT_FALSE(dialog.prepare());
         SInt32 shown = 0;
         const ModalIdleAction before = SetModalIdleAction([&](QWidget& window) {
