@@ -1,6 +1,9 @@
 #pragma once
 
-#include "model/PageSequence.h"
+#include "model/SpecialPage.h"
+
+#include <memory>
+#include <vector>
 
 namespace kesta {
 
@@ -12,7 +15,7 @@ class SpecialPageList {
 public:
     virtual ~SpecialPageList() = default;
 
-    std::size_t count() const { return pages_.count(); }
+    std::size_t count() const { return pages_.size(); }
     virtual SpecialPage* pageAtIndex(CFIndex index) const;      // null out of range
     virtual CFIndex indexOfPage(const SpecialPage* page) const; // of this very page; -1 when absent
 
@@ -22,7 +25,7 @@ public:
     virtual std::unique_ptr<SpecialPageList> clone() const = 0;
 
     OSStatus remove(const SpecialPage* page); // -1 when absent
-    void clear() { pages_ = {}; }
+    void clear() { pages_.clear(); }
 
     // Puts new pages in the place of one; does nothing when that one is absent, and when the new ones can't be added.
     OSStatus update(const SpecialPage* page, const SpecialPages& newPages);
@@ -30,13 +33,15 @@ public:
     std::optional<Array> asTicket() const; // nothing for an empty list
 
 protected:
+    using Page = std::unique_ptr<SpecialPage>;
+
     SpecialPageList() = default;
-    SpecialPageList(const SpecialPageList&) = default; // clones the pages
+    SpecialPageList(const SpecialPageList& other); // clones the pages
     SpecialPageList(SpecialPageList&&) noexcept = default;
-    SpecialPageList& operator=(const SpecialPageList&) = default;
+    SpecialPageList& operator=(const SpecialPageList& other);
     SpecialPageList& operator=(SpecialPageList&&) noexcept = default;
 
-    PageSequence pages_;
+    std::vector<Page> pages_;
 };
 
 // Inserts by start page, those of the same page in the order of adding, but for those that were moved by hand.
@@ -58,9 +63,6 @@ class ExceptionPageList : public SpecialPageList {
 public:
     OSStatus add(const SpecialPages& exceptions) override;
     std::unique_ptr<SpecialPageList> clone() const override;
-
-private:
-    void place(std::unique_ptr<SpecialPage> exception);
 };
 
 } // namespace kesta

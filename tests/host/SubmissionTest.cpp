@@ -119,6 +119,7 @@ TEST_F(SubmissionTest, ASilentServerEndsEveryWait)
     timer.start();
     const SubmissionResult halfway = SubmitJob(server, job, cancellation, midway([this] { cups.signal(SIGSTOP); }));
     EXPECT_TRUE(OnConsole(halfway.message).contains(u"went away"_s)) << OnConsole(halfway.message).toStdString();
+    server.patience = 50ms; // nobody answers any more, however long one waits
     EXPECT_TRUE(OnConsole(SubmitJob(server, job, cancellation).message).contains(u"does not answer"_s));
     EXPECT_TRUE(OnConsole(FetchQueues(server, cancellation).problem).contains(u"does not answer"_s));
     EXPECT_TRUE(OnConsole(FetchQueuePPD(server, u"Kesta"_s, cancellation).problem).contains(u"does not answer"_s));
@@ -134,7 +135,7 @@ TEST_F(SubmissionTest, ASilentServerEndsEveryWait)
         timer.restart();
     }
     EXPECT_LT(timer.elapsed(), 3000) << "leaving does not wait for the server";
-    server.patience = 300ms;
+    server.patience = 50ms;
     QString problem;
     const BackgroundTask asked =
         FindQueueAside(server, {}, [&](const NamedQueue& queue) { problem = OnConsole(queue.problem); });

@@ -55,6 +55,8 @@ TEST(PPDFileCheck, DescriptionsThatWouldKeepTheReaderBusyAreNamed)
     EXPECT_EQ(Problem(PPDVariant().append(QByteArray(5'000'000, 'x'))), QStringLiteral("PPD Large: 4"));
     EXPECT_EQ(Problem(PPDVariant().append(QByteArray("*A: \"\0\"\n", 8))), QStringLiteral("PPD Not Text"));
     EXPECT_EQ(Problem(PPDVariant().truncate(0)), QStringLiteral("PPD Of Another Kind"));
+    for (const char* opened : {"*OpenUI *O/O: PickOne\n", "*JCLOpenUI *O/O: PickOne\r\n", "*OpenGroup: G/G\n"})
+        EXPECT_EQ(Problem(PPDVariant().append(opened)), QStringLiteral("PPD Breaks Off")) << opened;
 }
 
 TEST(PPDFileCheck, WhatIsNoFileIsNotOpened)
