@@ -10,6 +10,8 @@
 
 #include <QFileInfo>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace kesta::host {
@@ -23,7 +25,7 @@ void PrintDialog::startPrinters()
 {
     const JobRequest& request = start_.request;
     if (request.ppdPath.isEmpty()) {
-        finder_.start(request.queue);
+        finder_.start(request.queue, memory_.printer);
         enableButtons();
         return;
     }
@@ -33,6 +35,21 @@ void PrintDialog::startPrinters()
     printer.ppd.path = request.ppdPath;
     usePrinter(printer);
     fillPrinterChoice();
+}
+
+// Of this window's first pane: another printer's shows the panel that the plug-in has in front.
+void PrintDialog::recallPanel()
+{
+    if (pane_ && memory_.panel > 0)
+        ShowPanel(paneArea_->host(), std::exchange(memory_.panel, 0));
+}
+
+void PrintDialog::rememberDialog() const
+{
+    const bool hasPrinted = end_ == DialogEnd::Accepted && printer_ && printer_->isQueue();
+    const Queue queue = hasPrinted ? printer_->queue : Queue();
+    RememberDialog({.printer = queue.instance.isEmpty() ? queue.name : queue.name + u'/' + queue.instance,
+                    .panel = pane_ ? ShownPanel(paneArea_->host()) : 0});
 }
 
 void PrintDialog::fillPrinterChoice()
@@ -48,6 +65,7 @@ void PrintDialog::fillPrinterChoice()
     }
     for (const Queue& queue : finder_.queues())
         menu.items.push_back({.title = PrinterTitle(queue, *start_.texts)});
+    choice->setEnabled(!menu.items.empty()); // nothing to choose from while printers are looked for
     choice->setMenu(std::move(menu));
     if (position)
         choice->setValue(position);
@@ -99,6 +117,7 @@ void PrintDialog::openPane()
     paneStatus_ = pane_ ? pane_->status() : noErr;
     if (paneStatus_ != noErr)
         pane_.reset();
+    recallPanel();
     if (pane_)
         paneArea_->showPane();
     else

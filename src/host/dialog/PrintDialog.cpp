@@ -4,6 +4,7 @@
 #include "host/dialog/DialogSummary.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
+#include "toolkit/windows/FitToScreen.h"
 #include "toolkit/windows/InterfaceFile.h"
 #include "toolkit/windows/ModalLoop.h"
 #include "toolkit/windows/WindowSummary.h"
@@ -13,7 +14,6 @@
 #include <QEvent>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 
 #include <algorithm>
@@ -79,10 +79,7 @@ void PrintDialog::setUpWindow()
     const QString job = jobName();
     window_->setWindowTitle(job.isEmpty() ? PrintText(texts, "Window Title No Document")
                                           : PrintText(texts, "Window Title").arg(job));
-    QSize size = kUsualSize;
-    if (const QScreen* screen = window_->screen())
-        size = size.boundedTo(screen->availableSize());
-    window_->resize(size);
+    window_->resize(kUsualSize.boundedTo(RoomOnScreen(*window_)));
 
     paneArea_.emplace(*window_);
     fields_.emplace(*window_, texts);
@@ -110,6 +107,8 @@ void PrintDialog::showFields()
 
 DialogOutcome PrintDialog::run()
 {
+    if (!start_.scripted) // a script begins where every other begins
+        memory_ = RecallDialog();
     showFields();
     startPrinters();
     qApp->installEventFilter(this);
@@ -120,6 +119,8 @@ DialogOutcome PrintDialog::run()
     RunModalLoop(*window_);
     qApp->removeEventFilter(this);
     sending_.reset();
+    if (!start_.scripted)
+        rememberDialog();
     pane_.reset(); // Cancel: nothing more goes to the tickets
     if (!end_)     // the window was closed
         close(hasFailed_ ? DialogEnd::Failed : DialogEnd::Cancelled);
