@@ -1,5 +1,6 @@
 // The chosen printer and its pane.
 
+#include "host/dialog/DialogButtons.h"
 #include "host/dialog/PrintDialog.h"
 
 #include "host/commandline/DialogOptions.h"
@@ -122,10 +123,7 @@ void PrintDialog::openPane()
         paneArea_->showPane();
     else
         paneArea_->showMessage(whyNoPane());
-    std::vector<QWidget*> below;
-    for (const PrintControl button : {kHelpButton, kSaveSettingsButton, kCancelButton, kPrintButton})
-        below.push_back(FindControl(window_.get(), {kPrintSignature, button}));
-    paneArea_->placeInFocusOrder(below);
+    paneArea_->placeInFocusOrder(ButtonsInOrder(*window_));
     enableButtons();
     updateSummary();
 }

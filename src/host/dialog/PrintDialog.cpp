@@ -1,6 +1,7 @@
 #include "host/dialog/PrintDialog.h"
 
 #include "host/commandline/DialogOptions.h"
+#include "host/dialog/DialogButtons.h"
 #include "host/dialog/DialogSummary.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
@@ -79,6 +80,7 @@ void PrintDialog::setUpWindow()
     const QString job = jobName();
     window_->setWindowTitle(job.isEmpty() ? PrintText(texts, "Window Title No Document")
                                           : PrintText(texts, "Window Title").arg(job));
+    OrderButtons(*window_);
     window_->resize(kUsualSize.boundedTo(RoomOnScreen(*window_)));
 
     paneArea_.emplace(*window_);
