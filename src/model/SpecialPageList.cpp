@@ -47,6 +47,24 @@ OSStatus SpecialPageList::remove(const SpecialPage* page)
     return noErr;
 }
 
+void SpecialPageList::remove(const ChosenPages& pages)
+{
+    for (PageSequence::Page& page : pages_.takeAll()) {
+        if (!pages.contains(page.get()))
+            pages_.append(std::move(page));
+    }
+}
+
+SpecialPages SpecialPageList::pages() const
+{
+    SpecialPages pages;
+    pages.reserve(count());
+    for (PageSequence::Place place = pages_.placeOf(0); const SpecialPage* page = pages_.at(place);
+         place = pages_.next(place))
+        pages.push_back(page);
+    return pages;
+}
+
 OSStatus SpecialPageList::update(const SpecialPage* page, const SpecialPages& newPages)
 {
     const auto index = pages_.indexOf(page);
@@ -65,8 +83,7 @@ std::optional<Array> SpecialPageList::asTicket() const
         return std::nullopt;
     Array ticket;
     ticket.reserve(count());
-    for (PageSequence::Place place = pages_.placeOf(0); const SpecialPage* page = pages_.at(place);
-         place = pages_.next(place))
+    for (const SpecialPage* page : pages())
         ticket.emplace_back(page->asTicket());
     return ticket;
 }
@@ -123,6 +140,28 @@ void InsertList::demote(const SpecialPage* insert)
         return;
     const std::size_t index = *pages_.indexOf(insert);
     pages_.swap(index, index + 1);
+}
+
+void InsertList::promote(const ChosenPages& inserts)
+{
+    SpecialPages order = pages();
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        if (!inserts.contains(order[i]) || order[i - 1]->startPage() == 0)
+            continue;
+        pages_.swap(i, i - 1);
+        std::swap(order[i], order[i - 1]);
+    }
+}
+
+void InsertList::demote(const ChosenPages& inserts)
+{
+    SpecialPages order = pages();
+    for (std::size_t i = order.size(); i-- > 1;) {
+        if (!inserts.contains(order[i - 1]) || order[i]->startPage() == 0)
+            continue;
+        pages_.swap(i, i - 1);
+        std::swap(order[i], order[i - 1]);
+    }
 }
 
 OSStatus ExceptionPageList::add(const SpecialPages& exceptions)

@@ -5,7 +5,9 @@
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
 #include "host/job/SavedSettings.h"
+#include "host/job/TicketTransport.h"
 #include "host/server/DocumentSource.h"
+#include "platform/values/PropertyList.h"
 #include "toolkit/windows/InterfaceFile.h"
 #include "toolkit/windows/ModalLoop.h"
 #include "toolkit/windows/WindowSummary.h"
@@ -54,6 +56,9 @@ PrintDialog::PrintDialog(DialogStart start)
                .found = [this](const DialogPrinter& printer) { usePrinter(printer); }})
 {
     AddToSession(tickets_, session_);
+    session_.canCarry = [](const Dictionary& printSettings) {
+        return EncodeTicket(WritePropertyList(printSettings)).problem.isEmpty();
+    };
 }
 
 PrintDialog::~PrintDialog()
