@@ -5,6 +5,11 @@
 #include "panels/image_options/ImageOptionsPanel.h"
 #include "panels/paper_output/JobTypeSetups.h"
 #include "panels/paper_output/PaperOutputPanel.h"
+#include "panels/special_pages/SpecialPagesPanel.h"
+#include "panels/special_pages/editors/CoversHandler.h"
+#include "panels/special_pages/editors/ExceptionsHandler.h"
+#include "panels/special_pages/editors/ImageShiftDialog.h"
+#include "panels/special_pages/editors/InsertsHandler.h"
 #include "panels/special_pages/paper/AdvancedStockDialog.h"
 #include "panels/special_pages/paper/CustomStockSizeDialog.h"
 #include "panels/special_pages/paper/PreCutTabStockSetup.h"
@@ -54,6 +59,17 @@ const std::vector<SInt32> kBookletLayout{booklet::kLayoutOffRadio, booklet::kLay
                                          booklet::kGutterField,    booklet::kGutterRange,   booklet::kCreepLabel,
                                          booklet::kCreepField,     booklet::kCreepRange,    booklet::kIllustration};
 
+std::vector<SInt32> CoverControls(SInt32 column)
+{
+    std::vector<SInt32> numbers{editors::kJobPicture, editors::kJobSummary, editors::kDefaultsButton,
+                                covers::kOptionPicture, covers::kOptionPopup};
+    for (const covers::Control number :
+         {covers::kColumn, covers::kSidesPicture, covers::kSidesPopup, covers::kPaperPicture, covers::kPaperButton,
+          covers::kPaperSummary, covers::kTrayPopup, covers::kTrayHint})
+        numbers.push_back(number + column);
+    return numbers;
+}
+
 // A panel or dialog that comes adds its line.
 const ExpectedControls kExpectedControls[] = {
     {"PDE_Shell",
@@ -80,6 +96,36 @@ const ExpectedControls kExpectedControls[] = {
       paper_output::kPunchPopup,       paper_output::kFinishingPicture, paper_output::kFinishingMenuButton,
       paper_output::kFinishingSummary, paper_output::kDestinationLabel, paper_output::kDestinationPopup,
       paper_output::kQualityPicture,   paper_output::kQualityPopup}},
+    {"SpecialPages",
+     "SpecialPages",
+     special_pages::kSignature,
+     {special_pages::kList, special_pages::kAddCoversButton, special_pages::kAddInsertsButton,
+      special_pages::kAddExceptionsButton, special_pages::kEditButton, special_pages::kDeleteButton,
+      special_pages::kDeleteAllButton, special_pages::kUndoButton, special_pages::kMoveUpButton,
+      special_pages::kMoveDownButton, special_pages::kHint}},
+    {"SpecialPages", "Covers", covers::kSignature, CoverControls(0)},
+    {"SpecialPages", "Covers", covers::kSignature, CoverControls(covers::kBack)},
+    {"SpecialPages",
+     "Inserts",
+     inserts::kSignature,
+     {editors::kPageLabel, editors::kPageField, editors::kPageHint, editors::kPaperPicture, editors::kPaperSummary,
+      editors::kPaperButton, editors::kJobPicture, editors::kJobSummary, editors::kDefaultsButton,
+      inserts::kOptionPicture, inserts::kOptionPopup, inserts::kQuantityField, inserts::kQuantityHint}},
+    {"SpecialPages",
+     "Office Exceptions",
+     exceptions::kSignature,
+     {editors::kPageLabel, editors::kPageField, editors::kPageHint, editors::kPaperPicture, editors::kPaperSummary,
+      editors::kPaperButton, editors::kJobPicture, editors::kJobSummary, editors::kDefaultsButton, exceptions::kTabs,
+      exceptions::kPaperPane, exceptions::kImagePane, exceptions::kTwoSidedPicture, exceptions::kTwoSidedPopup,
+      exceptions::kShiftPicture, exceptions::kShiftSummary, exceptions::kShiftButton}},
+    {"SpecialPages",
+     "ImageShift",
+     imageshift::kSignature,
+     {imageshift::kScene, imageshift::kShiftCheckBox, imageshift::kAlikeCheckBox, imageshift::kHorizontalLabel,
+      imageshift::kVerticalLabel, imageshift::kSide1Label, imageshift::kSide2Label, imageshift::kHorizontal1,
+      imageshift::kVertical1, imageshift::kHorizontal2, imageshift::kVertical2, imageshift::kLimits,
+      imageshift::kDirections, imageshift::kUnitsLabel, imageshift::kUnitsPopup, imageshift::kSceneSide1,
+      imageshift::kSceneSide2}},
     {"About",
      "About",
      about::kSignature,
@@ -186,6 +232,7 @@ bool IsInput(const QWidget& widget)
     const bool isPartOfAnother = qobject_cast<const QDialogButtonBox*>(widget.parentWidget()) ||
                                  qobject_cast<const QComboBox*>(widget.parentWidget()) ||
                                  qobject_cast<const QAbstractSpinBox*>(widget.parentWidget()) ||
+                                 qobject_cast<const QAbstractItemView*>(widget.parentWidget()) ||
                                  qobject_cast<const QTabBar*>(widget.parentWidget());
     return !isPartOfAnother &&
            (qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QLineEdit*>(&widget) ||
@@ -275,7 +322,7 @@ TEST_P(InterfaceFileTest, FocusGoesInReadingOrder)
     show();
     const QWidget* previous = nullptr;
     for (const QWidget* widget = root->nextInFocusChain(); widget != root.get(); widget = widget->nextInFocusChain()) {
-        if (!IsInput(*widget) || widget->window() != root.get())
+        if (!IsInput(*widget) || widget->window() != root.get() || !widget->isVisible()) // a pane behind another
             continue;
         if (previous) {
             const QRect before = PlaceOf(*previous), here = PlaceOf(*widget);

@@ -53,6 +53,17 @@ void ShowTab(const _ExceptionsEventHandlerData& editor)
     UpdateTabControl(FindControlAs<TabControl>(&editor.window, {kSignature, kTabs}), panes);
 }
 
+void KeepRoomForBothTabs(const _ExceptionsEventHandlerData& editor)
+{
+    for (const SInt32 number : {kPaperPane, kImagePane}) {
+        if (QWidget* pane = editor.control(number)) {
+            QSizePolicy policy = pane->sizePolicy();
+            policy.setRetainSizeWhenHidden(true);
+            pane->setSizePolicy(policy);
+        }
+    }
+}
+
 void ShowPlex(const _ExceptionsEventHandlerData& editor)
 {
     const SInt32 plex = editor.exception.plex();
@@ -112,6 +123,7 @@ void InitializeExceptions(_ExceptionsEventHandlerData& editor, const Stock* jobS
     editor.paper.mode = editor.mode;
     editor.paper.context = JobContext::ExceptionPage;
     editors::InitializePaperButton(editor.paper, editor.window, kSignature);
+    KeepRoomForBothTabs(editor);
     ShowTab(editor);
     if (!isEdit)
         return DefaultExceptions(editor);
