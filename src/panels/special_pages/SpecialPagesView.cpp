@@ -13,7 +13,7 @@
 namespace kesta::special_pages {
 namespace {
 
-constexpr int kAttributesWidth = 450; // points
+constexpr int kAttributesWidth = 430; // points; in a window of usual width the column takes 450
 constexpr Control kContextCommands[] = {kEditButton, kDeleteButton, kDeleteAllButton,
                                         kUndoButton, kMoveUpButton, kMoveDownButton};
 
