@@ -345,8 +345,8 @@ TEST_P(InterfaceFileTest, LongTextsAreNotCutOff)
         const auto* label = qobject_cast<QLabel*>(widget);
         const auto* button = qobject_cast<QAbstractButton*>(widget);
         const QString text = label ? label->text() : button ? button->text() : QString();
-        if (text.isEmpty() || qobject_cast<PopupButton*>(widget)) // pop-ups elide
-            continue;
+        if (text.isEmpty() || qobject_cast<PopupButton*>(widget) || !widget->isVisibleTo(root.get()))
+            continue; // pop-ups elide; a pane behind another has no place yet
         SetControlText(widget, text + text.left(text.size() / 2 + 1));
         texts.push_back(widget);
     }

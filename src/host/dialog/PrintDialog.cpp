@@ -159,6 +159,9 @@ EventResult PrintDialog::handleHit(const HitEvent& hit)
     case kPrinterChoice:
         choosePrinter(hit.value);
         return EventResult::Handled;
+    case kPerSheetChoice: // panels that it concerns look at the ticket
+        WriteTickets(fields_->settings(), tickets_.printSettings, tickets_.pageFormat);
+        return EventResult::NotHandled;
     case kTryAgainButton:
         startPrinters();
         return EventResult::Handled;

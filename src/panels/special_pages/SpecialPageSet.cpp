@@ -100,7 +100,7 @@ SpecialPages RowsOf(const SpecialPageSet& set)
 
 OSStatus WriteTicket(SpecialPageSet& set, Ticket& settings)
 {
-    const TicketWriter writer(settings, kSpecialPagesClient);
+    const TicketWriter writer(settings, kKestaClient);
     WriteList(writer, key::SpecialPagesInsertList, set.inserts);
     WriteList(writer, key::SpecialPagesExceptionList, set.exceptions);
     set.holdsUnwrittenBackCover = GoesWithoutBackCover(settings, set.frontCover, set.backCover);

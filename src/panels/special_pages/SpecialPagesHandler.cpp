@@ -10,6 +10,8 @@
 #include "toolkit/controls/Controls.h"
 #include "toolkit/windows/ModalLoop.h"
 
+#include <QTimer>
+
 namespace kesta::special_pages {
 namespace {
 
@@ -149,6 +151,16 @@ EventResult HandleListKey(_SpecialPagesContext& panel, const KeyEvent& key)
     }
 }
 
+// The dialog's own fields decide, too, what may be added: looked at once they are in the ticket.
+EventResult FollowJob(_SpecialPagesContext& panel)
+{
+    QTimer::singleShot(0, panel.view, [&panel] {
+        if (_specialPagesContext == &panel) // the dialog may have been closed by then
+            UpdateSpecialPagesUI(panel);
+    });
+    return EventResult::NotHandled;
+}
+
 } // namespace
 
 void InstallSpecialPagesEventHandler(_SpecialPagesContext& panel)
@@ -159,6 +171,8 @@ void InstallSpecialPagesEventHandler(_SpecialPagesContext& panel)
             return chosen.control.number == kList ? PressButton(panel, kEditButton) : EventResult::NotHandled;
         },
         [&panel](const KeyEvent& key) { return HandleListKey(panel, key); });
+    panel.windowHandler =
+        InstallEventHandler(*panel.pane->window(), [&panel](const HitEvent&) { return FollowJob(panel); });
 }
 
 EventResult SpecialPagesEventHandler(_SpecialPagesContext& panel, const HitEvent& hit)

@@ -40,7 +40,7 @@ struct _SpecialPagesContext {
     UndoState undo;
     std::optional<Stock> jobStock;
     SpecialPages rows; // what the list shows
-    EventHandler handler;
+    EventHandler handler, windowHandler;
 };
 
 // The panel of the dialog that is open; null without one.

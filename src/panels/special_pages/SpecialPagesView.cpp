@@ -54,6 +54,16 @@ const char* HintKey(const _SpecialPagesContext& panel, const Ticket& settings)
     return IsNUpOn(settings) ? "No Special Pages With N-Up" : "";
 }
 
+// A command that can't go on leaves the keyboard with the list.
+void EnableCommand(const _SpecialPagesContext& panel, Control number, bool enabled)
+{
+    QWidget* button = Find(panel, number);
+    ListView* list = ListOf(panel);
+    if (button && list && !enabled && button->hasFocus())
+        list->setFocus();
+    SetControlEnabled(button, enabled);
+}
+
 } // namespace
 
 ListView* ListOf(const _SpecialPagesContext& panel)
@@ -123,12 +133,12 @@ void UpdateSpecialPagesSummary(_SpecialPagesContext& panel)
 void UpdateSpecialPagesCommandButtons(const _SpecialPagesContext& panel)
 {
     const CommandStates states = StatesOf(panel.pages, SelectedPages(panel), panel.undo.canUndo());
-    SetControlEnabled(Find(panel, kEditButton), states.edit);
-    SetControlEnabled(Find(panel, kDeleteButton), states.remove);
-    SetControlEnabled(Find(panel, kDeleteAllButton), states.removeAll);
-    SetControlEnabled(Find(panel, kUndoButton), states.undo);
-    SetControlEnabled(Find(panel, kMoveUpButton), states.moveUp);
-    SetControlEnabled(Find(panel, kMoveDownButton), states.moveDown);
+    EnableCommand(panel, kEditButton, states.edit);
+    EnableCommand(panel, kDeleteButton, states.remove);
+    EnableCommand(panel, kDeleteAllButton, states.removeAll);
+    EnableCommand(panel, kUndoButton, states.undo);
+    EnableCommand(panel, kMoveUpButton, states.moveUp);
+    EnableCommand(panel, kMoveDownButton, states.moveDown);
 }
 
 void UpdateSpecialPagesUI(const _SpecialPagesContext& panel)

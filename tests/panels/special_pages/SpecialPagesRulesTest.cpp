@@ -68,7 +68,6 @@ protected:
 
     const Bundle bundle = test::BundleWithAllTexts();
     const test::CurrentPrinter printer;
-    const test::WithAccessories fitted{{"Option2", "DClass_BK"}};
     Ticket settings;
     SpecialPageSet set;
 };
@@ -121,6 +120,7 @@ TEST_F(SpecialPagesTest, ASummaryNamesWhatIsSet)
     EXPECT_EQ(summary(insert), paper + u"Teal; Sets"_s);
     stock.setSource(3);
     EXPECT_EQ(summary(insert) + u"; "_s, start);
+    const test::WithAccessories fitted{{"Option2", "DClass_BK"}};
     stock.setSource(kStockSourcePostPrintInserter);
     EXPECT_EQ(summary(insert), start + u"Tray 8 Inserter Value"_s);
 }

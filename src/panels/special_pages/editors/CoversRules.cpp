@@ -80,7 +80,7 @@ bool GoesWithoutBackCover(const Ticket& settings, const CoverSlot& front, const 
 OSStatus SyncCovers(Ticket& settings, SyncDirection direction, CoverSlot& front, CoverSlot& back)
 {
     if (direction == SyncDirection::ControlsToTickets) {
-        const TicketWriter writer(settings, kSpecialPagesClient);
+        const TicketWriter writer(settings, kKestaClient);
         const Cover* written = GoesWithoutBackCover(settings, front, back) ? nullptr : back.get();
         WriteCover(writer, key::SpecialPagesFrontCover, front.get());
         return WriteCover(writer, key::SpecialPagesBackCover, written);
@@ -92,7 +92,7 @@ OSStatus SyncCovers(Ticket& settings, SyncDirection direction, CoverSlot& front,
 
 OSStatus WriteEditedCovers(Ticket& settings, const Covers& covers)
 {
-    const TicketWriter writer(settings, kSpecialPagesClient);
+    const TicketWriter writer(settings, kKestaClient);
     OSStatus status = noErr;
     if (covers.front || covers.back)
         status = WriteCover(writer, key::SpecialPagesFrontCover, covers.front.get());
