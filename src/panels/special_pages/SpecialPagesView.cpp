@@ -59,7 +59,7 @@ void EnableCommand(const _SpecialPagesContext& panel, Control number, bool enabl
 {
     QWidget* button = Find(panel, number);
     ListView* list = ListOf(panel);
-    if (button && list && !enabled && button->hasFocus())
+    if (button && list && !enabled && button->window()->focusWidget() == button)
         list->setFocus();
     SetControlEnabled(button, enabled);
 }

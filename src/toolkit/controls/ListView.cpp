@@ -64,7 +64,10 @@ public:
     }
     Qt::ItemFlags flags(const QModelIndex& index) const override
     {
-        return QAbstractTableModel::flags(index) | (canDrag ? Qt::ItemIsDragEnabled : Qt::NoItemFlags);
+        if (!canDrag)
+            return QAbstractTableModel::flags(index);
+        return index.isValid() ? QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled
+                               : Qt::ItemIsDropEnabled; // between rows
     }
     Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
     // Which row it is says the selection; what is in it is no affair of other programs.

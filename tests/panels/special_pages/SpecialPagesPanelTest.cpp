@@ -21,6 +21,7 @@
 
 #include <QAccessible>
 #include <QElapsedTimer>
+#include <QMenu>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -155,6 +156,27 @@ TEST_F(SpecialPagesPanelTest, TheKeyboardReachesEverythingInTheList)
               "Sheets In List InsertSummaryQuantity 1"_s);
 }
 
+TEST_F(SpecialPagesPanelTest, TheContextMenuHoldsWhatCanBeDone)
+{
+    open();
+    add(kAddInsertsButton, u"1-3"_s);
+    list().selectRowsAsUser({1});
+    Q_EMIT list().customContextMenuRequested(QPoint());
+    auto* menu = list().findChild<QMenu*>();
+    ASSERT_TRUE(menu);
+    QStringList commands;
+    for (const QAction* action : menu->actions())
+        commands << action->text();
+    EXPECT_EQ(commands, (QStringList{u"Edit Command"_s, u"Delete Command"_s, u"Delete All Command"_s, u"Undo Command"_s,
+                                     u"Move Up Command"_s, u"Move Down Command"_s}));
+    menu->actions().last()->trigger();
+    EXPECT_EQ(rows(), (QStringList{u"1"_s, u"3"_s, u"2"_s}));
+    menu->close();
+    user.then([](QWidget& window) { Press(window, kCommandCancel); });
+    list().selectRowsAsUser({0});
+    Q_EMIT list().doubleClicked(list().model()->index(0, 0));
+}
+
 TEST_F(SpecialPagesPanelTest, TextsThatCantBeTakenKeepTheEditorOpen)
 {
     open();
@@ -172,6 +194,17 @@ TEST_F(SpecialPagesPanelTest, TextsThatCantBeTakenKeepTheEditorOpen)
     EXPECT_EQ(answers.titles,
               (QStringList{u"Invalid Ranges Title"_s, u"Invalid Page Numbers Title"_s, u"PageRangeConflictTitle"_s,
                            u"Invalid Pages Title"_s, u"Page Number Limit Title"_s, u"Too Many Pages Title"_s}));
+    user.then([](QWidget& window) {
+        QWidget* field = FindControl(&window, {exceptions::kSignature, editors::kPageField});
+        TypeIntoField(field, u"1,"_s.repeated(kLongestPageText / 2) + u'1');
+        EXPECT_EQ(FieldText(field).size(), 0) << "refused, not cut";
+        TypeIntoField(field, u"1,"_s.repeated(kLongestPageText / 2));
+        EXPECT_EQ(FieldText(field).size(), kLongestPageText);
+        Press(window, kCommandOK);
+        Press(window, kCommandCancel);
+    });
+    press(kAddExceptionsButton);
+    EXPECT_EQ(answers.titles.last(), u"Too Many Pages Title"_s);
     EXPECT_EQ(rows().size(), 1);
     press(kUndoButton); // of the first one: nothing was saved since
     EXPECT_TRUE(rows().isEmpty());

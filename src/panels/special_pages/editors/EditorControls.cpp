@@ -11,8 +11,21 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <limits>
 
 namespace kesta::editors {
+namespace {
+
+void LimitPageField(QWidget* field)
+{
+    if (auto* line = qobject_cast<QLineEdit*>(field))
+        line->setMaxLength(std::numeric_limits<int>::max()); // of itself it cuts, slowly, what is to be refused whole
+    LimitInputLengthAndCharacters(field, {.minimumLength = 1,
+                                          .maximumLength = kLongestPageText,
+                                          .allowedCharacters = QString::fromLatin1(kPageTextCharacters)});
+}
+
+} // namespace
 
 void ShowJobStock(const Bundle& bundle, const QWidget& window, FourCharCode signature, const Stock* jobStock)
 {
@@ -21,13 +34,12 @@ void ShowJobStock(const Bundle& bundle, const QWidget& window, FourCharCode sign
         picture->setPictures(StockIconPictures(jobStock));
 }
 
-void LimitPageField(QWidget* field)
+void FocusPageField(const QWidget& window, FourCharCode signature)
 {
-    if (auto* line = qobject_cast<QLineEdit*>(field))
-        line->setMaxLength(kLongestPageText); // a line edit of its own would cut what is longer
-    LimitInputLengthAndCharacters(field, {.minimumLength = 1,
-                                          .maximumLength = kLongestPageText,
-                                          .allowedCharacters = QString::fromLatin1(kPageTextCharacters)});
+    if (QLineEdit* field = FindTextField(&window, {signature, kPageField})) {
+        field->setFocus();
+        field->selectAll();
+    }
 }
 
 void EnableOK(const QWidget& window, bool enabled)
@@ -55,8 +67,11 @@ void ShowTicketValue(PopupButton* popup, SInt32 value, const QString& foreignTit
     SetPopupButtonToTicketValue(popup, value);
 }
 
-void InitializePaperButton(_StockMenuCommandEventHandlerData& paper, const QWidget& window, FourCharCode signature)
+void InitializePageEditor(_StockMenuCommandEventHandlerData& paper, const QWidget& window, FourCharCode signature,
+                          const Stock* jobStock)
 {
+    LimitPageField(FindControl(&window, {signature, kPageField}));
+    ShowJobStock(*paper.bundle, window, signature, jobStock);
     paper.summaryView = FindControl(&window, {signature, kPaperSummary});
     paper.iconView = FindControlAs<PictureView>(&window, {signature, kPaperPicture});
     InitializeStockMenuButton(FindControlAs<MenuButton>(&window, {signature, kPaperButton}), paper);

@@ -25,7 +25,7 @@ inline constexpr FourCharCode kDefaultsCommand = "Dflt"_code;
 // The job's paper, for comparison; nothing without one.
 void ShowJobStock(const Bundle& bundle, const QWidget& window, FourCharCode signature, const Stock* jobStock);
 
-void LimitPageField(QWidget* field);
+void FocusPageField(const QWidget& window, FourCharCode signature); // its text selected
 void EnableOK(const QWidget& window, bool enabled);
 
 // Says why the pages can't be taken, then lets the user go on in the field.
@@ -34,8 +34,9 @@ void RefusePages(const Bundle& bundle, QWidget* field, OSStatus status);
 // Selects the item of that value; where the menu has none, one that tells it and can't be chosen anew.
 void ShowTicketValue(PopupButton* popup, SInt32 value, const QString& foreignTitle);
 
-// The paper button of an editor whose record has one stock.
-void InitializePaperButton(_StockMenuCommandEventHandlerData& paper, const QWidget& window, FourCharCode signature);
+// The page field, the paper button and the job's paper of an editor of pages with one stock.
+void InitializePageEditor(_StockMenuCommandEventHandlerData& paper, const QWidget& window, FourCharCode signature,
+                          const Stock* jobStock);
 
 // Whether a command has chosen paper with tabs, which asks for more.
 bool ChoseTabStock(const CommandEvent& command, const Stock& stock);

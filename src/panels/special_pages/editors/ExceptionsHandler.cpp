@@ -116,13 +116,11 @@ void InitializeExceptions(_ExceptionsEventHandlerData& editor, const Stock* jobS
     const bool isEdit = editor.mode == DialogMode::Edit;
     SetLocalizedWindowTitle(editor.bundle, isEdit ? "Edit Exceptions Title" : "Add Exceptions Title", &editor.window);
     FillPlexes(editor);
-    editors::LimitPageField(editor.control(editors::kPageField));
-    editors::ShowJobStock(editor.bundle, editor.window, kSignature, jobStock);
-    editor.paper.bundle = &editor.bundle;
-    editor.paper.stock = &editor.exception.stock();
-    editor.paper.mode = editor.mode;
-    editor.paper.context = JobContext::ExceptionPage;
-    editors::InitializePaperButton(editor.paper, editor.window, kSignature);
+    editor.paper = {.bundle = &editor.bundle,
+                    .stock = &editor.exception.stock(),
+                    .mode = editor.mode,
+                    .context = JobContext::ExceptionPage};
+    editors::InitializePageEditor(editor.paper, editor.window, kSignature, jobStock);
     KeepRoomForBothTabs(editor);
     ShowTab(editor);
     if (!isEdit)
@@ -207,8 +205,7 @@ OSStatus RunModalExceptionsDialog(const Bundle& bundle, DialogMode mode, const S
                                        .calls = calls};
     InitializeExceptions(editor, jobStock);
     const EventHandler handler = ExceptionsEventHandler(editor);
-    if (QWidget* field = editor.control(editors::kPageField))
-        field->setFocus();
+    editors::FocusPageField(*window, kSignature);
     result = RunModalDialog(bundle, *window, kHelpPage, [&] { return AcceptExceptions(editor); });
     FinalizeStockMenuButton(editor.paper);
     return noErr;

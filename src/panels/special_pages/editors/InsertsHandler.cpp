@@ -72,13 +72,9 @@ void InitializeInserts(_InsertsEventHandlerData& editor, const Stock* jobStock)
     PopulatePopupButtonFromMap(editor.bundle, editor.options(), _InsertOptionMap, JobContext::Insert);
     if (SpinField* quantity = editor.quantity())
         quantity->setLimits(1, kMostSheets);
-    editors::LimitPageField(editor.control(editors::kPageField));
-    editors::ShowJobStock(editor.bundle, editor.window, kSignature, jobStock);
-    editor.paper.bundle = &editor.bundle;
-    editor.paper.stock = &editor.insert.stock();
-    editor.paper.mode = editor.mode;
-    editor.paper.context = JobContext::Insert;
-    editors::InitializePaperButton(editor.paper, editor.window, kSignature);
+    editor.paper = {
+        .bundle = &editor.bundle, .stock = &editor.insert.stock(), .mode = editor.mode, .context = JobContext::Insert};
+    editors::InitializePageEditor(editor.paper, editor.window, kSignature, jobStock);
     if (!isEdit)
         return DefaultInserts(editor);
     editor.window.setAccessibleDescription(CreateInsertAttributesDescription(editor.bundle, editor.insert));
@@ -147,8 +143,9 @@ OSStatus RunModalInsertsDialog(const Bundle& bundle, DialogMode mode, const Stoc
                                     .calls = calls};
     InitializeInserts(editor, jobStock);
     const EventHandler handler = InsertsEventHandler(editor);
-    if (QWidget* first = editor.control(editor.option() == kBeforePage1 ? SInt32{kOptionPopup} : editors::kPageField))
-        first->setFocus();
+    editors::FocusPageField(*window, kSignature);
+    if (PopupButton* options = editor.options(); options && editor.option() == kBeforePage1)
+        options->setFocus();
     result = RunModalDialog(bundle, *window, kHelpPage, [&] { return AcceptInserts(editor); });
     FinalizeStockMenuButton(editor.paper);
     return noErr;
