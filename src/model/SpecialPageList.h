@@ -1,8 +1,10 @@
 #pragma once
 
-#include "model/PageSequence.h"
+#include "model/SpecialPage.h"
 
+#include <memory>
 #include <unordered_set>
+#include <vector>
 
 namespace kesta {
 
@@ -16,7 +18,7 @@ class SpecialPageList {
 public:
     virtual ~SpecialPageList() = default;
 
-    std::size_t count() const { return pages_.count(); }
+    std::size_t count() const { return pages_.size(); }
     virtual SpecialPage* pageAtIndex(CFIndex index) const;      // null out of range
     virtual CFIndex indexOfPage(const SpecialPage* page) const; // of this very page; -1 when absent
 
@@ -28,7 +30,7 @@ public:
     OSStatus remove(const SpecialPage* page); // -1 when absent
     void remove(const ChosenPages& pages);
     SpecialPages pages() const;
-    void clear() { pages_ = {}; }
+    void clear() { pages_.clear(); }
 
     // Puts new pages in the place of one; does nothing when that one is absent, and when the new ones can't be added.
     OSStatus update(const SpecialPage* page, const SpecialPages& newPages);
@@ -36,13 +38,15 @@ public:
     std::optional<Array> asTicket() const; // nothing for an empty list
 
 protected:
+    using Page = std::unique_ptr<SpecialPage>;
+
     SpecialPageList() = default;
-    SpecialPageList(const SpecialPageList&) = default; // clones the pages
+    SpecialPageList(const SpecialPageList& other); // clones the pages
     SpecialPageList(SpecialPageList&&) noexcept = default;
-    SpecialPageList& operator=(const SpecialPageList&) = default;
+    SpecialPageList& operator=(const SpecialPageList& other);
     SpecialPageList& operator=(SpecialPageList&&) noexcept = default;
 
-    PageSequence pages_;
+    std::vector<Page> pages_;
 };
 
 // Inserts by start page, those of the same page in the order of adding, but for those that were moved by hand.
@@ -68,9 +72,6 @@ class ExceptionPageList : public SpecialPageList {
 public:
     OSStatus add(const SpecialPages& exceptions) override;
     std::unique_ptr<SpecialPageList> clone() const override;
-
-private:
-    void place(std::unique_ptr<SpecialPage> exception);
 };
 
 } // namespace kesta

@@ -37,9 +37,12 @@ protected:
     void show(const std::function<void(QWidget&)>& look)
     {
         const PlugInOrError loaded = LoadPlugIn();
-        ASSERT_TRUE(loaded.plugIn) << loaded.error.toStdString();
+        ASSERT_TRUE(loaded.plugIn) << testing::PrintToString(loaded.error);
         ASSERT_FALSE(ChoosePanels(*loaded.plugIn, {u"GetAdvancedPanelInterface"_s}));
-        PrintDialog dialog({.commandLine = options, .texts = &PrintBundle(), .plugIn = loaded, .scripted = true});
+        PrintDialog dialog({.request = DialogRequest(options, PrintBundle()).request,
+                            .texts = &PrintBundle(),
+                            .plugIn = loaded,
+                            .scripted = true});
         ASSERT_FALSE(dialog.prepare());
         const ModalIdleAction before = SetModalIdleAction([&](QWidget& window) {
             SetModalIdleAction({});

@@ -53,6 +53,19 @@ TEST_F(DialogPrintingTest, SendingCanBeStopped)
     EXPECT_FALSE(server.hasJob(1));
 }
 
+// The place of a caller whose document comes later: everything that the print server is to be told.
+TEST_F(DialogPrintingTest, WithoutASenderNothingIsSent)
+{
+    hasSender = false;
+    options.files.clear();
+    EXPECT_EQ(run("type Copies 3\nprint"), 0);
+    EXPECT_EQ(fault, QString());
+    ASSERT_TRUE(outcome.job);
+    EXPECT_EQ(outcome.job->queue, u"Kesta"_s);
+    EXPECT_EQ(FindJobOption(outcome.job->options, "copies"), u"3"_s);
+    EXPECT_FALSE(server.hasJob(1));
+}
+
 TEST_F(DialogPrintingTest, AnotherPrinterGetsAPaneOfItsOwn)
 {
     EXPECT_EQ(run("choose Printer #2\nexpect \"No Description Message\"\nexpect-enabled Help no\nchoose Printer #1\n"

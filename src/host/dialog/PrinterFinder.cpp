@@ -1,6 +1,7 @@
 #include "host/dialog/PrinterFinder.h"
 
 #include "host/dialog/PrintTexts.h"
+#include "platform/plugins/Sentence.h"
 
 #include <algorithm>
 
@@ -83,11 +84,11 @@ void PrinterFinder::reportMissing()
     }
     busy_ = false;
     if (!list_.problem.isEmpty())
-        say(u"No Server Title"_s, list_.problem, true);
+        say(u"No Server Title"_s, Sentence(list_.problem, texts_), true);
     else if (list_.queues.empty() && asked_.isEmpty())
         say(u"No Printers Title"_s, PrintText(texts_, "No Printers Message"), true);
     else
-        say(u"Unknown Printer Title"_s, found_->problem, true);
+        say(u"Unknown Printer Title"_s, Sentence(found_->problem, texts_), true);
 }
 
 void PrinterFinder::fetchPPD()

@@ -3,7 +3,7 @@
 #include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"
 
-namespace kesta::color {
+namespace kesta::color_options {
 namespace {
 
 Dictionary WithChanges(const Dictionary& read, const Dictionary& before, const Dictionary& after)
@@ -41,4 +41,4 @@ void WriteTicket(const ColorOptions& options, Ticket& settings)
         writer.set(key::FullColorOptions, std::move(dictionary));
 }
 
-} // namespace kesta::color
+} // namespace kesta::color_options

@@ -2,6 +2,7 @@
 
 #include "panels/special_pages/SpecialPagesHandler.h"
 #include "panels/special_pages/SpecialPagesSummary.h"
+#include "pde/interface/SummaryPlaces.h"
 #include "platform/plugins/Bundle.h"
 #include "toolkit/controls/Controls.h"
 #include "toolkit/controls/ListView.h"

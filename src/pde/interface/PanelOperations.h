@@ -132,4 +132,11 @@ template <const auto& kOperations> struct PanelSlots {
     static constexpr PanelInterfaceHolder kHolder{&kTable};
 };
 
+// What a panel's exported function does.
+template <const auto& kOperations> KestaStatus GivePanel(const PanelInterfaceHolder** holder)
+{
+    *holder = &PanelSlots<kOperations>::kHolder;
+    return noErr;
+}
+
 } // namespace kesta

@@ -49,6 +49,7 @@ AlertWindow::AlertWindow(const Alert& alert) : pressed_(CancelButtonOf(alert))
 {
     setObjectName(QStringLiteral("Alert"));
     setWindowFlag(Qt::Dialog);
+    setWindowTitle(alert.title);
     setAccessibleName(alert.title);
     setAccessibleDescription(alert.message);
     auto* layout = new QGridLayout(this);

@@ -16,11 +16,11 @@ constexpr char kPlace[] = "summaryPlace";
 constexpr char kDefault[] = "summaryDefault";
 constexpr char kPhrases[] = "summaryPhrases";
 
-void Mark(QWidget* control, SummaryPlace place, const QVariant& shownByDefault)
+void Mark(QWidget* control, SInt32 place, const QVariant& shownByDefault)
 {
     if (!control)
         return;
-    control->setProperty(kPlace, static_cast<SInt32>(place));
+    control->setProperty(kPlace, place);
     control->setProperty(kDefault, shownByDefault);
 }
 
@@ -45,17 +45,17 @@ QStringList FactsOf(const SummaryTextView& view)
 
 } // namespace
 
-void ShowInSummary(PopupButton* popup, SummaryPlace place, SInt32 defaultValue)
+void ShowInSummary(PopupButton* popup, SInt32 place, SInt32 defaultValue)
 {
     Mark(popup, place, defaultValue);
 }
 
-void ShowInSummary(QWidget* summaryTextView, SummaryPlace place, const QString& defaultText)
+void ShowInSummary(QWidget* summaryTextView, SInt32 place, const QString& defaultText)
 {
     Mark(summaryTextView, place, defaultText);
 }
 
-void SetSummaryPhrases(QWidget& control, SummaryPlace place, const QStringList& phrases)
+void SetSummaryPhrases(QWidget& control, SInt32 place, const QStringList& phrases)
 {
     Mark(&control, place, {});
     control.setProperty(kPhrases, phrases);

@@ -10,11 +10,13 @@ enum class ModalResult : SInt32;
 
 namespace covers {
 
-// The numbers of the controls in SpecialPages/Covers, beside those that all editors have. Those of the back cover are
-// kBack higher.
+// The numbers of the controls in SpecialPages/Covers. Those of the back cover are kBack higher than the front one's.
 inline constexpr FourCharCode kSignature = "Cvrs"_code;
 inline constexpr SInt32 kBack = 100;
 enum Control : SInt32 {
+    kJobPicture = 7, // these three as in the other editors
+    kJobSummary = 8,
+    kDefaultsButton = 9,
     kOptionPicture = 20,
     kOptionPopup = 21,
     kColumn = 30,
@@ -25,6 +27,14 @@ enum Control : SInt32 {
     kPaperSummary = 35,
     kTrayPopup = 36,
     kTrayHint = 37,
+    kBackColumn = 130,
+    kBackSidesPicture = 131,
+    kBackSidesPopup = 132,
+    kBackPaperPicture = 133,
+    kBackPaperButton = 134,
+    kBackPaperSummary = 135,
+    kBackTrayPopup = 136,
+    kBackTrayHint = 137,
 };
 
 } // namespace covers

@@ -7,8 +7,10 @@ namespace kesta {
 
 enum class ModalResult : SInt32;
 
-// The numbers that the controls of all three editors share; each has a signature of its own.
 namespace editors {
+
+// The numbers of the controls in SpecialPages/Inserts and SpecialPages/Office Exceptions. Each has a signature of its
+// own; the covers editor has the last three, too.
 enum Control : SInt32 {
     kPageLabel = 1,
     kPageField = 2,

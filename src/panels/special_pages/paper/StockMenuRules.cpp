@@ -2,21 +2,11 @@
 
 #include "platform/plugins/Bundle.h"
 #include "printer/InstallableOptions.h"
-#include "printer/PPDUtilities.h"
 
 #include <algorithm>
 
 namespace kesta {
 namespace {
-
-void Populate(Menu& menu, const Bundle& bundle, PPDKeyword keyword, FourCharCode command, JobContext context)
-{
-    menu.items.clear(); // also without a PPD
-    PPDPopulateMenuWithChoices(menu, PPDGetCurrent(), keyword, command, Conflicting::Keep);
-    if (context != JobContext::Job)
-        menu.items.insert(menu.items.begin(),
-                          {.title = LocalizedString(bundle, "UseJobSetting"), .command = command, .value = kUnset});
-}
 
 void RemoveFirst(Menu& menu, SInt32 value)
 {
@@ -42,9 +32,18 @@ bool HasCommand(const MenuItem& item, FourCharCode command)
 
 } // namespace
 
+void PopulateChoices(Menu& menu, const Bundle& bundle, PPDKeyword keyword, FourCharCode command, JobContext context)
+{
+    menu.items.clear(); // also without a PPD
+    PPDPopulateMenuWithChoices(menu, PPDGetCurrent(), keyword, command, Conflicting::Keep);
+    if (context != JobContext::Job)
+        menu.items.insert(menu.items.begin(),
+                          {.title = LocalizedString(bundle, "UseJobSetting"), .command = command, .value = kUnset});
+}
+
 void PopulateStockSizeMenu(Menu& menu, const Bundle& bundle, JobContext context)
 {
-    Populate(menu, bundle, "PageSize", kStockSizeCommand, context);
+    PopulateChoices(menu, bundle, "PageSize", kStockSizeCommand, context);
     if (context != JobContext::Cover)
         return;
     SInt32 const custom = kStockSizeCustom;
@@ -55,7 +54,7 @@ void PopulateStockSizeMenu(Menu& menu, const Bundle& bundle, JobContext context)
 
 void PopulateStockTypeMenu(Menu& menu, const Bundle& bundle, JobContext context)
 {
-    Populate(menu, bundle, "MediaType", kStockTypeCommand, context);
+    PopulateChoices(menu, bundle, "MediaType", kStockTypeCommand, context);
     if (context == JobContext::Job)
         return;
     RemoveFirst(menu, kStockTypeSystemDefault);
@@ -64,7 +63,7 @@ void PopulateStockTypeMenu(Menu& menu, const Bundle& bundle, JobContext context)
 
 void PopulateStockColorMenu(Menu& menu, const Bundle& bundle, JobContext context)
 {
-    Populate(menu, bundle, "MediaColor", kStockColorCommand, context);
+    PopulateChoices(menu, bundle, "MediaColor", kStockColorCommand, context);
     if (context != JobContext::Job)
         RemoveFirst(menu, kStockColorUnspecified);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Stock.h"
+#include "printer/PPDUtilities.h"
 #include "toolkit/controls/Menu.h"
 
 namespace kesta {
@@ -17,6 +18,7 @@ inline constexpr FourCharCode kStockAdvancedCommand = "Sadv"_code; // in no menu
 
 // Each refills the menu with the current PPD's choices. Those of special pages begin with an item for the job's own
 // setting, of value kUnset.
+void PopulateChoices(Menu& menu, const Bundle& bundle, PPDKeyword keyword, FourCharCode command, JobContext context);
 void PopulateStockSizeMenu(Menu& menu, const Bundle& bundle, JobContext context);
 void PopulateStockTypeMenu(Menu& menu, const Bundle& bundle, JobContext context);
 void PopulateStockColorMenu(Menu& menu, const Bundle& bundle, JobContext context);

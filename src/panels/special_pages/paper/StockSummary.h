@@ -2,8 +2,6 @@
 
 #include "model/Stock.h"
 
-class QWidget;
-
 namespace kesta {
 
 struct Bundle;
@@ -21,8 +19,5 @@ QString GenerateStockSummary(const Bundle& bundle, JobContext context, const Sto
 // The same, a part a line, as a view shows it: empty without a stock, and a word for "nothing chosen" where the summary
 // is empty.
 QString StockSummaryText(const Bundle& bundle, const Stock* stock, JobContext context);
-
-// Shows that text; kMissingArgument without a view.
-OSStatus ShowStockSummary(const Bundle& bundle, QWidget* view, const Stock* stock, JobContext context);
 
 } // namespace kesta

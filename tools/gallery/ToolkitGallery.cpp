@@ -2,8 +2,8 @@
 //     toolkit_gallery OUT_DIR
 // QT_SCALE_FACTOR=2 gives 2x.
 
+#include "gallery/GalleryWindow.h"
 #include "platform/system/Notices.h"
-#include "toolkit/GalleryWindow.h"
 #include "toolkit/controls/Controls.h"
 #include "toolkit/controls/MenuButton.h"
 #include "toolkit/controls/Mnemonics.h"
@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using kesta::test::kGallery;
+using kesta::gallery::kGallery;
 
 bool Save(QWidget& window, const QString& file)
 {
@@ -51,7 +51,7 @@ bool SaveAll(const QDir& folder, const QString& scheme)
     const auto file = [&](const char* name) {
         return folder.filePath(u"%1-%2.png"_s.arg(QLatin1String(name), scheme));
     };
-    const auto window = kesta::test::MakeGalleryWindow();
+    const auto window = kesta::gallery::MakeGalleryWindow();
     kesta::AssignMnemonics(*window);
     window->resize(640, 650);
     window->show();
@@ -59,7 +59,7 @@ bool SaveAll(const QDir& folder, const QString& scheme)
     const bool menuSaved = SaveOpenMenu(*window, file("menu"));
     const bool windowSaved = Save(*window, file("window"));
 
-    const auto controls = kesta::test::MakeGalleryControls();
+    const auto controls = kesta::gallery::MakeGalleryControls();
     controls->resize(640, 620);
     controls->show();
     controls->activateWindow();

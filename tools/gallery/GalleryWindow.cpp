@@ -1,4 +1,4 @@
-#include "toolkit/GalleryWindow.h"
+#include "gallery/GalleryWindow.h"
 
 #include "toolkit/controls/ColorSwatch.h"
 #include "toolkit/controls/HistoryComboBox.h"
@@ -12,7 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace kesta::test {
+namespace kesta::gallery {
 namespace {
 
 template <class Widget> Widget& Get(const QWidget& window, SInt32 number)
@@ -91,7 +91,7 @@ Bundle GalleryBundle()
     texts.set("Digits", "4 to 10 digits");
     texts.set("Empty", "Add covers, inserts or exceptions to fill this list.");
     texts.set("Line", "25 copies, pages 1-4, 7 · Secure Print · Blue, hole punched · Two-sided · 2 staples, 3 holes");
-    return {.resourcesPath = u"" TEST_INTERFACE ""_s, .strings = Dictionary{{"Localizable", texts}}};
+    return {.resourcesPath = u"" GALLERY_INTERFACE ""_s, .strings = Dictionary{{"Localizable", texts}}};
 }
 
 std::unique_ptr<QWidget> MakeGalleryWindow()
@@ -133,4 +133,4 @@ std::unique_ptr<QWidget> MakeGalleryControls()
     return window;
 }
 
-} // namespace kesta::test
+} // namespace kesta::gallery

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-namespace kesta::test {
+namespace kesta::gallery {
 
 inline constexpr FourCharCode kGallery = "Glry"_code;
 
@@ -17,4 +17,4 @@ Bundle GalleryBundle();
 std::unique_ptr<QWidget> MakeGalleryWindow();
 std::unique_ptr<QWidget> MakeGalleryControls();
 
-} // namespace kesta::test
+} // namespace kesta::gallery

@@ -12,6 +12,7 @@
 #include "panels/special_pages/paper/StockMenu.h"
 #include "panels/special_pages/paper/StockTypeSetupDialog.h"
 #include "platform/plugins/Bundle.h"
+#include "printer/FinishingKinds.h"
 #include "printer/InstallableOptions.h"
 #include "printer/PPDUtilities.h"
 #include "product/InstalledFeatures.h"
@@ -119,11 +120,9 @@ void AddSizesAndSeparators(Gallery& gallery)
 
 void AddBooklets(Gallery& gallery)
 {
-    _BookletCreationParams params{
-        .fold = kBookletFoldAndStaple, .layout = kBookletLayoutOn, .drawOutlines = kDrawPageBorders, .creep = 5};
-    const auto run = [&params](const Bundle& bundle, ModalResult&) {
-        params.bundle = &bundle;
-        RunModalBookletOptionsDialog(params);
+    Booklet booklet{.fold = kFoldBiStaple, .layout = kBookletLayoutOn, .drawOutlines = kDrawPageBorders, .creep = 5};
+    const auto run = [&booklet](const Bundle& bundle, ModalResult&) {
+        RunModalBookletOptionsDialog(bundle, booklet);
         return noErr;
     };
     {
