@@ -97,6 +97,20 @@ OSStatus SpecialPageList::remove(const SpecialPage* page)
     return std::erase_if(pages_, [page](const Page& one) { return one.get() == page; }) > 0 ? noErr : -1;
 }
 
+void SpecialPageList::remove(const ChosenPages& pages)
+{
+    std::erase_if(pages_, [&](const Page& one) { return pages.contains(one.get()); });
+}
+
+SpecialPages SpecialPageList::pages() const
+{
+    SpecialPages pages;
+    pages.reserve(count());
+    for (const Page& page : pages_)
+        pages.push_back(page.get());
+    return pages;
+}
+
 OSStatus SpecialPageList::update(const SpecialPage* page, const SpecialPages& newPages)
 {
     const auto found = std::ranges::find(pages_, page, &Page::get);
@@ -175,6 +189,22 @@ void InsertList::demote(const SpecialPage* insert)
         return;
     const auto index = static_cast<std::size_t>(indexOfPage(insert));
     pages_[index].swap(pages_[index + 1]);
+}
+
+void InsertList::promote(const ChosenPages& inserts)
+{
+    for (std::size_t i = 1; i < pages_.size(); ++i) {
+        if (inserts.contains(pages_[i].get()) && pages_[i - 1]->startPage() != 0)
+            pages_[i].swap(pages_[i - 1]);
+    }
+}
+
+void InsertList::demote(const ChosenPages& inserts)
+{
+    for (std::size_t i = pages_.size(); i-- > 1;) {
+        if (inserts.contains(pages_[i - 1].get()) && pages_[i]->startPage() != 0)
+            pages_[i].swap(pages_[i - 1]);
+    }
 }
 
 OSStatus ExceptionPageList::add(const SpecialPages& exceptions)

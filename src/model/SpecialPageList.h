@@ -3,12 +3,15 @@
 #include "model/SpecialPage.h"
 
 #include <memory>
+#include <unordered_set>
 #include <vector>
 
 namespace kesta {
 
 // Pages to add: copied, not kept.
 using SpecialPages = std::vector<const SpecialPage*>;
+// Pages chosen among those of a list, which itself does not matter.
+using ChosenPages = std::unordered_set<const SpecialPage*>;
 
 // A list owns its pages. What decides a page's place in it (start and end page) is changed by update only.
 class SpecialPageList {
@@ -25,6 +28,8 @@ public:
     virtual std::unique_ptr<SpecialPageList> clone() const = 0;
 
     OSStatus remove(const SpecialPage* page); // -1 when absent
+    void remove(const ChosenPages& pages);
+    SpecialPages pages() const;
     void clear() { pages_.clear(); }
 
     // Puts new pages in the place of one; does nothing when that one is absent, and when the new ones can't be added.
@@ -55,6 +60,10 @@ public:
     void promote(const SpecialPage* insert);
     bool canDemote(const SpecialPage* insert) const;
     void demote(const SpecialPage* insert);
+
+    // The same for several, in time linear in the list: those higher up first, those further down first.
+    void promote(const ChosenPages& inserts);
+    void demote(const ChosenPages& inserts);
 };
 
 // Exception pages by start page, of which no two have a page in common: a new one takes its pages from those that had

@@ -5,6 +5,8 @@
 #include "host/dialog/DialogSummary.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
+#include "host/job/TicketTransport.h"
+#include "platform/values/PropertyList.h"
 #include "toolkit/windows/FitToScreen.h"
 #include "toolkit/windows/InterfaceFile.h"
 #include "toolkit/windows/ModalLoop.h"
@@ -53,6 +55,9 @@ PrintDialog::PrintDialog(DialogStart start)
                .found = [this](const DialogPrinter& printer) { usePrinter(printer); }})
 {
     AddToSession(tickets_, session_);
+    session_.canCarry = [](const Dictionary& printSettings) {
+        return !EncodeTicket(WritePropertyList(printSettings)).options.empty();
+    };
 }
 
 PrintDialog::~PrintDialog()
@@ -143,6 +148,9 @@ EventResult PrintDialog::handleHit(const HitEvent& hit)
     case kPrinterChoice:
         choosePrinter(hit.value);
         return EventResult::Handled;
+    case kPerSheetChoice: // panels that it concerns look at the ticket
+        WriteTickets(fields_->settings(), tickets_.printSettings, tickets_.pageFormat);
+        return EventResult::NotHandled;
     case kTryAgainButton:
         startPrinters();
         return EventResult::Handled;
