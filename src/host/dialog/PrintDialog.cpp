@@ -3,7 +3,7 @@
 #include "host/commandline/DialogOptions.h"
 #include "host/dialog/DialogSummary.h"
 #include "host/dialog/PrintDialogControls.h"
-#include "host/dialog/PrintTexts.h"
+#include "platform/plugins/Bundle.h"
 #include "toolkit/windows/InterfaceFile.h"
 #include "toolkit/windows/ModalLoop.h"
 #include "toolkit/windows/WindowSummary.h"
@@ -77,8 +77,8 @@ void PrintDialog::setUpWindow()
 {
     const Bundle& texts = *start_.texts;
     const QString job = jobName();
-    window_->setWindowTitle(job.isEmpty() ? PrintText(texts, "Window Title No Document")
-                                          : PrintText(texts, "Window Title").arg(job));
+    window_->setWindowTitle(job.isEmpty() ? LocalizedString(texts, "Window Title No Document")
+                                          : LocalizedString(texts, "Window Title").arg(job));
     QSize size = kUsualSize;
     if (const QScreen* screen = window_->screen())
         size = size.boundedTo(screen->availableSize());
@@ -93,7 +93,7 @@ void PrintDialog::setUpWindow()
         [this](const CommandEvent& command) { return handleCommand(command); });
     AddPanelShortcuts(*window_);
     if (!start_.request.ppdPath.isEmpty()) { // nothing is submitted
-        SetControlText(FindControl(window_.get(), {kPrintSignature, kPrintButton}), PrintText(texts, "Save"));
+        SetControlText(FindControl(window_.get(), {kPrintSignature, kPrintButton}), LocalizedString(texts, "Save"));
         SetControlVisible(FindControl(window_.get(), {kPrintSignature, kSaveSettingsButton}), false);
     }
 }
