@@ -39,7 +39,7 @@ const std::vector<Rule>& Rules()
         {"weblink",
          {"platform", "toolkit", "pde/ticket", "pde/interface", "pde/menus", "pde/forms", "printer", "product"}},
         {"panels/special_pages/paper", {"<panel>"}},
-        {"panels/special_pages", {"<panel>", "panels/special_pages/paper"}},
+        {"panels/special_pages", {"<panel>", "panels/special_pages/paper", "panels/special_pages/editors"}},
         {"panels/special_pages/editors", {"<panel>", "panels/special_pages/paper"}},
         {"panels/booklet_watermark/fonts", {"platform"}},
         {"panels/booklet_watermark/booklet", {"<panel>", "panels/special_pages/paper"}},

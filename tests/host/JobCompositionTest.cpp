@@ -2,6 +2,7 @@
 
 #include "host/Words.h"
 #include "host/job/TicketTransport.h"
+#include "platform/values/PropertyList.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +17,7 @@ JobSources Sources()
             .ppdChoices = {{"Duplex", "DuplexTumble"}, {"KSFold", "C"}},
             .commandLine = {{u"ksfold"_s, u"Z"_s}, {u"copies"_s, u"2"_s}, {u"landscape"_s, u"true"_s}},
             .fields = {},
-            .ticket = "<plist/>"};
+            .ticket = {{"com.kesta.print.Density", true}}};
 }
 
 TEST(JobCompositionTest, LaterSourcesPrevail)
@@ -27,7 +28,7 @@ TEST(JobCompositionTest, LaterSourcesPrevail)
     EXPECT_EQ(FindJobOption(options, "KSFold"), u"Z"_s) << "-o prevails over settings";
     EXPECT_EQ(FindJobOption(options, "copies"), u"2"_s);
     EXPECT_EQ(FindJobOption(options, "job-sheets"), u"none"_s);
-    EXPECT_EQ(DecodeTicket(options).propertyList, "<plist/>");
+    EXPECT_EQ(DecodeTicket(options).propertyList, WritePropertyList(sources.ticket));
     EXPECT_EQ(options.size(), 6u) << "no name twice";
 
     sources.fields = {
@@ -51,6 +52,14 @@ TEST(JobCompositionTest, RefusesWhatWouldArriveDamaged)
     JobSources forged = Sources();
     forged.commandLine.push_back({u"COM.kesta.print.ticket.1"_s, u"x"_s});
     EXPECT_TRUE(test::OnConsole(ComposeJobOptions(forged).problem).contains(u"COM.kesta.print.ticket.1"_s));
+
+    forged.commandLine.back().name = QLatin1StringView(kTicketSealedOption);
+    EXPECT_EQ(ComposeJobOptions(forged).problem.key, u"Option Made Here"_s);
+    JobSources damaged = Sources();
+    damaged.ticket = {};
+    damaged.reader.publicKeys = {"kk1-short"};
+    EXPECT_EQ(ComposeJobOptions(damaged).problem.key, u"Ticket Key Unusable"_s)
+        << "also where there is nothing to seal";
 
     JobSources cut = Sources();
     cut.ppdChoices.set("Owner", QString(u"a\rb"_s));

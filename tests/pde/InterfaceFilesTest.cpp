@@ -77,6 +77,7 @@ bool IsInput(const QWidget& widget)
     const bool isPartOfAnother = qobject_cast<const QDialogButtonBox*>(widget.parentWidget()) ||
                                  qobject_cast<const QComboBox*>(widget.parentWidget()) ||
                                  qobject_cast<const QAbstractSpinBox*>(widget.parentWidget()) ||
+                                 qobject_cast<const QAbstractItemView*>(widget.parentWidget()) ||
                                  qobject_cast<const QTabBar*>(widget.parentWidget());
     return !isPartOfAnother &&
            (qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QLineEdit*>(&widget) ||
@@ -166,7 +167,7 @@ TEST_P(InterfaceFileTest, FocusGoesInReadingOrder)
     show();
     const QWidget* previous = nullptr;
     for (const QWidget* widget = root->nextInFocusChain(); widget != root.get(); widget = widget->nextInFocusChain()) {
-        if (!IsInput(*widget) || widget->window() != root.get())
+        if (!IsInput(*widget) || widget->window() != root.get() || !widget->isVisible()) // a pane behind another
             continue;
         if (previous) {
             const QRect before = PlaceOf(*previous), here = PlaceOf(*widget);
@@ -189,8 +190,8 @@ TEST_P(InterfaceFileTest, LongTextsAreNotCutOff)
         const auto* label = qobject_cast<QLabel*>(widget);
         const auto* button = qobject_cast<QAbstractButton*>(widget);
         const QString text = label ? label->text() : button ? button->text() : QString();
-        if (text.isEmpty() || qobject_cast<PopupButton*>(widget)) // pop-ups elide
-            continue;
+        if (text.isEmpty() || qobject_cast<PopupButton*>(widget) || !widget->isVisibleTo(root.get()))
+            continue; // pop-ups elide; a pane behind another has no place yet
         SetControlText(widget, text + text.left(text.size() / 2 + 1));
         texts.push_back(widget);
     }

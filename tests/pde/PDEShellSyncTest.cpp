@@ -1,6 +1,5 @@
 #include "model/JobType.h"
 #include "pde/ShellFixture.h"
-#include "model/JobType.h"
 #include "pde/interface/JobTypeCheck.h"
 #include "pde/interface/TicketKeys.h"
 #include "support/Recorders.h"

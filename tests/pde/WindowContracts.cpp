@@ -44,7 +44,7 @@ void TakeNumbers(const QString& text, WindowContract& contract)
 std::vector<WindowContract> WindowContracts(const QString& sources)
 {
     static const QRegularExpression says(u"// The numbers? of the controls? in ([^.,]+/[^.]+)[.,]"_s);
-    static const QRegularExpression window(u"\\w+/\\w+"_s);
+    static const QRegularExpression window(u"\\w+/\\w+(?: [A-Z]\\w*)*"_s);
     std::vector<WindowContract> contracts;
     QDirIterator headers(sources, {u"*.h"_s}, QDir::Files, QDirIterator::Subdirectories);
     while (headers.hasNext()) {

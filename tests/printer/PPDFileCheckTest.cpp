@@ -55,6 +55,8 @@ TEST(PPDFileCheck, DescriptionsThatWouldKeepTheReaderBusyAreNamed)
     EXPECT_EQ(Problem(PPDVariant().append(QByteArray(5'000'000, 'x'))), QStringLiteral("PPD Large: 4"));
     EXPECT_EQ(Problem(PPDVariant().append(QByteArray("*A: \"\0\"\n", 8))), QStringLiteral("PPD Not Text"));
     EXPECT_EQ(Problem(PPDVariant().truncate(0)), QStringLiteral("PPD Of Another Kind"));
+    for (const char* opened : {"*OpenUI *O/O: PickOne\n", "*JCLOpenUI *O/O: PickOne\r\n", "*OpenGroup: G/G\n"})
+        EXPECT_EQ(Problem(PPDVariant().append(opened)), QStringLiteral("PPD Breaks Off")) << opened;
 }
 
 TEST(PPDFileCheck, WhatIsNoFileIsNotOpened)
@@ -116,8 +118,8 @@ TEST(PPDFileCheck, WhatTheLibraryRefusesIsSaidWithItsLine)
     const test::CurrentPrinter printer(ppd);
     EXPECT_EQ(PPDGetCurrent(), nullptr);
     const std::string messages = testing::internal::GetCapturedStderr();
-    EXPECT_NE(messages.find("can't be used: "), std::string::npos) << messages;
-    EXPECT_NE(messages.find(", line 5."), std::string::npos) << messages;
+    EXPECT_NE(messages.find("PPD Refused: "), std::string::npos) << messages;
+    EXPECT_NE(messages.find(".ppd, 5, "), std::string::npos) << messages;
 }
 
 // What is cut off within an option or a group is refused, although libcups would open it; cut off between them, the

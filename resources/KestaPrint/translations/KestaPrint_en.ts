@@ -449,7 +449,59 @@ Go back and change one of them.</translation>
     </message>
     <message>
         <source>Ticket Too Large</source>
-        <translation>The job’s settings take %1 KB on the way to the printer, and at most %2 KB can travel. Use fewer special pages, watermarks or recipients.</translation>
+        <translation>The job’s settings take %1 KB on the way to the printer, and at most %2 KB can travel. %3</translation>
+    </message>
+    <message>
+        <source>Leave Out Recipients</source>
+        <translation>Most of it is the list of fax recipients. Leave some of them out, or print in two jobs.</translation>
+    </message>
+    <message>
+        <source>Leave Out Exception Pages</source>
+        <translation>Most of it are exception pages. Leave some of them out, or print in two jobs.</translation>
+    </message>
+    <message>
+        <source>Leave Out Inserts</source>
+        <translation>Most of it are inserts. Leave some of them out, or print in two jobs.</translation>
+    </message>
+    <message>
+        <source>Leave Out Cover Sheet Texts</source>
+        <translation>Most of it are the texts of the fax cover sheet. Shorten them.</translation>
+    </message>
+    <message>
+        <source>Leave Out Anything</source>
+        <translation>Leave out some special pages, recipients or a watermark, or print in two jobs.</translation>
+    </message>
+    <message>
+        <source>Ticket Key Unusable</source>
+        <translation>The key that the printer’s description has for passcodes (KSTicketKey) can’t be used: %1. Nothing was sent. Ask your administrator for a new key.</translation>
+    </message>
+    <message>
+        <source>Ticket Key Unknown</source>
+        <translation>The job has a passcode, a dialing prefix or a credit-card code, and whether the printer has a key to keep it secret is not known: %1</translation>
+    </message>
+    <message>
+        <source>Ticket Keys Differ</source>
+        <translation>there are several</translation>
+    </message>
+    <message>
+        <source>Ticket Key Empty</source>
+        <translation>it is empty</translation>
+    </message>
+    <message>
+        <source>Ticket Key Damaged</source>
+        <translation>it is damaged</translation>
+    </message>
+    <message>
+        <source>Ticket Key Of Unknown Kind</source>
+        <translation>it is of a kind that this program does not know</translation>
+    </message>
+    <message>
+        <source>Ticket Key No Encryption</source>
+        <translation>this computer can’t encrypt</translation>
+    </message>
+    <message>
+        <source>Ticket Secret Too Long</source>
+        <translation>The passcode, dialing prefix or credit-card code is too long to be sealed.</translation>
     </message>
     <message>
         <source>Settings Unusable</source>
@@ -514,6 +566,10 @@ Go back and change one of them.</translation>
     <message>
         <source>PPD Breaks Off</source>
         <translation>it breaks off in the middle</translation>
+    </message>
+    <message>
+        <source>PPD Key Without Value</source>
+        <translation>its line *KSTicketKey has no value</translation>
     </message>
     <message>
         <source>No Such File</source>

@@ -12,7 +12,6 @@
 
 #include "platform/printsystem/JobSettings.h"
 #include "platform/system/SafeFile.h"
-#include "platform/values/PropertyList.h"
 
 using namespace Qt::StringLiterals;
 
@@ -165,13 +164,12 @@ JobFields FieldsOf(const Run& run)
 Failure Send(Run& run)
 {
     const Ticket& settings = run.tickets.printSettings;
-    const bool hasTicket = settings.values().count() > 0;
-    const ComposedOptions composed =
-        ComposeJobOptions({.queueDefaults = run.queue.defaults,
-                           .ppdChoices = settings.ppdDict(),
-                           .commandLine = run.commandLine.presets.options,
-                           .fields = FieldsOf(run),
-                           .ticket = hasTicket ? WritePropertyList(settings.values()) : QByteArray()});
+    const ComposedOptions composed = ComposeJobOptions({.queueDefaults = run.queue.defaults,
+                                                        .ppdChoices = settings.ppdDict(),
+                                                        .commandLine = run.commandLine.presets.options,
+                                                        .fields = FieldsOf(run),
+                                                        .ticket = settings.values(),
+                                                        .reader = run.facts.ticketReader});
     if (!composed.problem.isEmpty())
         return composed.problem;
     const PrintJob job{.queue = run.queue.queue.name,

@@ -12,7 +12,6 @@
 #include "platform/system/FileChooser.h"
 #include "platform/system/Notices.h"
 #include "platform/system/SafeFile.h"
-#include "platform/values/PropertyList.h"
 #include "toolkit/windows/InterfaceFile.h"
 
 using namespace Qt::StringLiterals;
@@ -171,6 +170,14 @@ bool PrintDialog::saveAfterPrint()
     return start_.scripted;
 }
 
+TicketReader PrintDialog::ticketReader() const
+{
+    TicketReader reader = facts_.ticketReader;
+    if (!printer_->ppd.hasNone)
+        reader.problem = facts_.problem;
+    return reader;
+}
+
 // Nothing when it can't be told to the print server; the user knows why then.
 std::optional<AcceptedJob> PrintDialog::composeJob()
 {
@@ -186,7 +193,8 @@ std::optional<AcceptedJob> PrintDialog::composeJob()
                                       .pageRanges = settings.pageRanges,
                                       .orientation = settings.orientation,
                                       .pagesPerSheet = settings.pagesPerSheet},
-                           .ticket = WritePropertyList(tickets_.printSettings.values())});
+                           .ticket = tickets_.printSettings.values(),
+                           .reader = ticketReader()});
     if (!composed.problem.isEmpty()) {
         failedToPrint(composed.problem);
         return std::nullopt;

@@ -1,9 +1,13 @@
 #include "host/dialog/PrintDialog.h"
 
 #include "host/commandline/DialogOptions.h"
+#include "host/dialog/DialogButtons.h"
 #include "host/dialog/DialogSummary.h"
 #include "host/dialog/PrintDialogControls.h"
+#include "host/job/TicketTransport.h"
 #include "platform/plugins/Bundle.h"
+#include "platform/values/PropertyList.h"
+#include "toolkit/windows/FitToScreen.h"
 #include "toolkit/windows/InterfaceFile.h"
 #include "toolkit/windows/ModalLoop.h"
 #include "toolkit/windows/WindowSummary.h"
@@ -13,7 +17,6 @@
 #include <QEvent>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 
 #include <algorithm>
@@ -52,6 +55,9 @@ PrintDialog::PrintDialog(DialogStart start)
                .found = [this](const DialogPrinter& printer) { usePrinter(printer); }})
 {
     AddToSession(tickets_, session_);
+    session_.canCarry = [](const Dictionary& printSettings) {
+        return !EncodeTicket(WritePropertyList(printSettings)).options.empty();
+    };
 }
 
 PrintDialog::~PrintDialog()
@@ -79,10 +85,8 @@ void PrintDialog::setUpWindow()
     const QString job = jobName();
     window_->setWindowTitle(job.isEmpty() ? LocalizedString(texts, "Window Title No Document")
                                           : LocalizedString(texts, "Window Title").arg(job));
-    QSize size = kUsualSize;
-    if (const QScreen* screen = window_->screen())
-        size = size.boundedTo(screen->availableSize());
-    window_->resize(size);
+    OrderButtons(*window_);
+    window_->resize(kUsualSize.boundedTo(RoomOnScreen(*window_)));
 
     paneArea_.emplace(*window_);
     fields_.emplace(*window_, texts);
@@ -110,6 +114,8 @@ void PrintDialog::showFields()
 
 DialogOutcome PrintDialog::run()
 {
+    if (!start_.scripted) // a script begins where every other begins
+        memory_ = RecallDialog();
     showFields();
     startPrinters();
     qApp->installEventFilter(this);
@@ -120,6 +126,8 @@ DialogOutcome PrintDialog::run()
     RunModalLoop(*window_);
     qApp->removeEventFilter(this);
     sending_.reset();
+    if (!start_.scripted)
+        rememberDialog();
     pane_.reset(); // Cancel: nothing more goes to the tickets
     if (!end_)     // the window was closed
         close(hasFailed_ ? DialogEnd::Failed : DialogEnd::Cancelled);
@@ -140,6 +148,9 @@ EventResult PrintDialog::handleHit(const HitEvent& hit)
     case kPrinterChoice:
         choosePrinter(hit.value);
         return EventResult::Handled;
+    case kPerSheetChoice: // panels that it concerns look at the ticket
+        WriteTickets(fields_->settings(), tickets_.printSettings, tickets_.pageFormat);
+        return EventResult::NotHandled;
     case kTryAgainButton:
         startPrinters();
         return EventResult::Handled;

@@ -4,6 +4,7 @@
 #include "platform/plugins/Sentence.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -19,7 +20,7 @@ void PrinterFinder::say(const QString& titleKey, const QString& text, bool canTr
     listener_.word({.title = LocalizedString(texts_, titleKey), .text = text, .canTryAgain = canTryAgain});
 }
 
-void PrinterFinder::start(const QString& wanted)
+void PrinterFinder::start(const QString& wanted, const QString& usual)
 {
     busy_ = true;
     hasList_ = false;
@@ -31,7 +32,8 @@ void PrinterFinder::start(const QString& wanted)
         listener_.listChanged();
         arrived();
     }));
-    find(wanted);
+    find(wanted.isEmpty() ? usual : wanted);
+    usual_ = wanted.isEmpty() ? usual : QString();
 }
 
 void PrinterFinder::choose(int position)
@@ -78,6 +80,10 @@ void PrinterFinder::arrived()
 
 void PrinterFinder::reportMissing()
 {
+    if (!usual_.isEmpty() && asked_ == std::exchange(usual_, {})) { // gone since
+        find({});
+        return;
+    }
     if (asked_.isEmpty() && !list_.queues.empty()) { // no default printer: the first one will do
         choose(1);
         return;

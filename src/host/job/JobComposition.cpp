@@ -1,6 +1,6 @@
 #include "host/job/JobComposition.h"
 
-#include "host/job/TicketTransport.h"
+#include "host/job/SealedTicket.h"
 
 using namespace Qt::StringLiterals;
 
@@ -82,9 +82,11 @@ ComposedOptions ComposeJobOptions(const JobSources& sources)
     if (fault)
         return {{}, *fault};
     AddFields(composed.options, sources.fields);
-    if (sources.ticket.isEmpty())
+    if (const auto problem = TicketReaderProblem(sources.reader))
+        return {{}, *problem};
+    if (sources.ticket.count() == 0)
         return composed;
-    const EncodedTicket ticket = EncodeTicket(sources.ticket);
+    const EncodedTicket ticket = EncodeJobTicket(sources.ticket, sources.reader);
     if (!ticket.problem.isEmpty())
         return {{}, ticket.problem};
     composed.options.insert(composed.options.end(), ticket.options.begin(), ticket.options.end());

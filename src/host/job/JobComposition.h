@@ -2,6 +2,7 @@
 
 #include "host/job/HostTickets.h"
 #include "host/job/JobOptions.h"
+#include "host/job/SealedTicket.h"
 
 #include "platform/values/Value.h"
 
@@ -23,7 +24,8 @@ struct JobSources {
     Dictionary ppdChoices = {};    // of the print-settings ticket: option keyword to choice
     JobOptions commandLine = {};   // -o
     JobFields fields = {};         // the dialog's fields, or -n and -P
-    QByteArray ticket = {};        // property list of the print-settings ticket; empty: none travels
+    Dictionary ticket = {};        // entries of the print-settings ticket; empty: none travels
+    TicketReader reader = {};      // of the ticket, at the queue's print server
 };
 
 struct ComposedOptions {

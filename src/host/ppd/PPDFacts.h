@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/job/HostTickets.h"
+#include "host/job/SealedTicket.h"
 
 #include "platform/values/Message.h"
 
@@ -16,6 +17,7 @@ struct PPDFacts {
     std::optional<PaperRect> paper = {};               // of the chosen page size
     QString duplexChoice = {};                         // the default choice of the option "Duplex"; empty without one
     std::map<QString, std::set<QString>> choices = {}; // option keyword to its choice keywords
+    TicketReader ticketReader = {};                    // of the queue's print server
     Message problem = {}; // empty, or why the file can't be read; then there is nothing else
 
     bool offers(const QString& keyword, const QString& choice) const;

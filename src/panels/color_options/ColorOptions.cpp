@@ -32,7 +32,7 @@ void ReadTicket(ColorOptions& options, const Ticket& settings)
 
 void WriteTicket(const ColorOptions& options, Ticket& settings)
 {
-    const TicketWriter writer(settings, kColorClient);
+    const TicketWriter writer(settings, kKestaClient);
     Dictionary dictionary =
         WithChanges(options.asRead, FullColorOptions(options.asRead).asTicket(), options.record.asTicket());
     if (dictionary.count() == 0)

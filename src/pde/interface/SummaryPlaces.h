@@ -10,6 +10,7 @@ struct SummaryPlace {
     static constexpr SInt32 Paper = 2;
     static constexpr SInt32 Sides = 3;
     static constexpr SInt32 Finishing = 4;
+    static constexpr SInt32 OtherPages = 5;
 };
 
 } // namespace kesta

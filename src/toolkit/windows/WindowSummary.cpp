@@ -14,6 +14,7 @@ namespace {
 
 constexpr char kPlace[] = "summaryPlace";
 constexpr char kDefault[] = "summaryDefault";
+constexpr char kPhrases[] = "summaryPhrases";
 
 void Mark(QWidget* control, SInt32 place, const QVariant& shownByDefault)
 {
@@ -54,6 +55,12 @@ void ShowInSummary(QWidget* summaryTextView, SInt32 place, const QString& defaul
     Mark(summaryTextView, place, defaultText);
 }
 
+void SetSummaryPhrases(QWidget& control, SInt32 place, const QStringList& phrases)
+{
+    Mark(&control, place, {});
+    control.setProperty(kPhrases, phrases);
+}
+
 QStringList SummaryFacts(const QString& summary)
 {
     QStringList facts;
@@ -67,22 +74,26 @@ QStringList SummaryFacts(const QString& summary)
 
 QStringList WindowSummary(const QWidget& window)
 {
-    std::map<SInt32, QStringList> found;
+    std::map<SInt32, QStringList> found, phrasesOf;
     for (const QWidget* control : window.findChildren<QWidget*>()) {
         const QVariant place = control->property(kPlace);
         if (!place.isValid() || IsHiddenItself(*control))
             continue;
-        if (const auto* popup = qobject_cast<const PopupButton*>(control))
+        if (const QVariant phrases = control->property(kPhrases); phrases.isValid())
+            phrasesOf[place.toInt()] += phrases.toStringList();
+        else if (const auto* popup = qobject_cast<const PopupButton*>(control))
             found[place.toInt()] += FactsOf(*popup);
         else if (const auto* view = qobject_cast<const SummaryTextView*>(control))
             found[place.toInt()] += FactsOf(*view);
     }
-    QStringList phrases;
     for (const auto& [place, facts] : found) {
         if (!facts.isEmpty())
-            phrases << facts.join(u", "_s);
+            phrasesOf[place].prepend(facts.join(u", "_s));
     }
-    return phrases;
+    QStringList summary;
+    for (const auto& [place, phrases] : phrasesOf)
+        summary += phrases;
+    return summary;
 }
 
 } // namespace kesta

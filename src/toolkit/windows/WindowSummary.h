@@ -16,6 +16,9 @@ class PopupButton;
 void ShowInSummary(PopupButton* popup, SInt32 place, SInt32 defaultValue);
 void ShowInSummary(QWidget* summaryTextView, SInt32 place, const QString& defaultText);
 
+// From now on the summary has these phrases for the control, each by itself, until it is given others.
+void SetSummaryPhrases(QWidget& control, SInt32 place, const QStringList& phrases);
+
 // What those controls show now, a phrase a place. Controls that their panel has hidden are left out, those of a panel
 // that is not in front are not. Never what a person types into a field.
 QStringList WindowSummary(const QWidget& window);

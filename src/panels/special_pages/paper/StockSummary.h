@@ -6,6 +6,11 @@ namespace kesta {
 
 struct Bundle;
 
+// The paper's size, colour and kind in words, set or not; nothing where no text can be had.
+std::optional<QString> StockSizeText(const Stock& stock);
+std::optional<QString> StockColorText(const Stock& stock);
+std::optional<QString> StockTypeText(const Bundle& bundle, const Stock& stock);
+
 // The paper in words, its parts joined by the separator; a part whose text can't be had is left out. Job summaries
 // never name a size, and name colour and type even when these are unset. Of paper from a tray of its own only the
 // post-print inserter is named.
