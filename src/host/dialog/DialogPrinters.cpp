@@ -1,9 +1,9 @@
 // The chosen printer and its pane.
 
-#include "host/dialog/DialogButtons.h"
 #include "host/dialog/PrintDialog.h"
 
 #include "host/commandline/DialogOptions.h"
+#include "host/dialog/DialogButtons.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "platform/plugins/Bundle.h"
 #include "platform/plugins/Sentence.h"
