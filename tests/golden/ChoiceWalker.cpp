@@ -250,7 +250,7 @@ ChoiceEffect ChoiceWalker::effect(std::map<QString, QString> shown)
     const Ticket& settings = dialog_.tickets.printSettings;
     AddEntries(settings.values(), {}, effect.ticket);
     const host::ComposedOptions composed = host::ComposeJobOptions({.ppdChoices = settings.ppdDict()});
-    EXPECT_EQ(composed.problem, QString());
+    EXPECT_TRUE(composed.problem.isEmpty());
     for (const host::JobOption& option : composed.options)
         effect.job[option.name] = option.value;
     return effect;

@@ -80,5 +80,23 @@ TEST_F(DialogPrintingTest, AnotherPrinterGetsAPaneOfItsOwn)
     EXPECT_TRUE(server.job(1));
 }
 
+TEST_F(DialogPrintingTest, BeginsWithThePrinterOfTheLastJob)
+{
+    scripted = false;
+    EXPECT_EQ(run("choose Printer #2\nexpect-enabled Help no\nprint"), 0);
+    EXPECT_EQ(
+        run("expect-enabled Help no\nexpect-value Printer #2\nchoose Printer #1\nexpect-enabled Help yes\ncancel"), 0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_EQ(run("expect-value Printer #2\ncancel"), 0) << "nothing was printed on the other one";
+    EXPECT_EQ(fault, QString());
+    RememberDialog({.printer = u"Gone"_s, .panel = 0});
+    EXPECT_EQ(run("expect-value Printer #1\nexpect-enabled Help yes\ncancel"), 0) << "the default one";
+    EXPECT_EQ(fault, QString());
+    scripted = true;
+    RememberDialog({.printer = u"Gone"_s, .panel = 0});
+    EXPECT_EQ(run("expect-value Printer #1\ncancel"), 0) << "nor is a script's beginning anybody's";
+    EXPECT_EQ(fault, QString());
+}
+
 } // namespace
 } // namespace kesta::host

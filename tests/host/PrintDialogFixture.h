@@ -34,7 +34,7 @@ protected:
                             .texts = &PrintBundle(),
                             .plugIn = {plugIn, Verbatim(u"The plug-in is missing."_s)},
                             .send = hasSender ? DialogSender(options, PrintBundle()) : SendFunction(),
-                            .scripted = true});
+                            .scripted = scripted});
         problem = OnConsole(why.isEmpty() ? dialog.prepare().value_or(Message()) : why);
         if (!problem.isEmpty())
             return 1;
@@ -72,6 +72,7 @@ protected:
     FakePlugIn fake;
     std::optional<PlugIn> plugIn = FakePlugIn::door();
     CommandLine options;
+    bool scripted = true;
     bool hasSender = true;
     DialogOutcome outcome;
     QString problem;

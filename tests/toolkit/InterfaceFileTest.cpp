@@ -211,7 +211,7 @@ TEST_F(GalleryTest, ReturnAndEscapePressTheWindowsButtons)
     });
     test::ModalUser user;
     user.then([&](QWidget& front) {
-        get<QWidget>(window, 101).setFocus();
+        get<QWidget>(window, 2).setFocus();
         test::PressKeyInWindow(front, Qt::Key_Return);
         window->findChild<QPushButton*>(u"help"_s)->setFocus();
         test::PressKeyInWindow(front, Qt::Key_Return);

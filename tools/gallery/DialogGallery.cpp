@@ -12,6 +12,7 @@
 #include "panels/special_pages/paper/StockMenu.h"
 #include "panels/special_pages/paper/StockTypeSetupDialog.h"
 #include "platform/plugins/Bundle.h"
+#include "platform/plugins/Sentence.h"
 #include "printer/FinishingKinds.h"
 #include "printer/InstallableOptions.h"
 #include "printer/PPDUtilities.h"
@@ -184,7 +185,7 @@ int main(int argc, char** argv)
     }
     const kesta::BundleOrError loaded = kesta::LoadBundleAt(QString::fromLocal8Bit(argv[1]));
     if (!loaded.bundle) {
-        std::fprintf(stderr, "%s\n", qUtf8Printable(loaded.error));
+        std::fprintf(stderr, "%s\n", qUtf8Printable(kesta::Sentence(loaded.error, kesta::HostTexts())));
         return 1;
     }
     QApplication::setLayoutDirection(QLocale(kesta::TextsLanguage(*loaded.bundle)).textDirection());

@@ -1,14 +1,17 @@
 // The chosen printer and its pane.
 
+#include "host/dialog/DialogButtons.h"
 #include "host/dialog/PrintDialog.h"
 
 #include "host/commandline/DialogOptions.h"
 #include "host/dialog/PrintDialogControls.h"
-#include "host/dialog/PrintTexts.h"
+#include "platform/plugins/Bundle.h"
 #include "platform/plugins/Sentence.h"
 #include "toolkit/windows/InterfaceFile.h"
 
 #include <QFileInfo>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -23,7 +26,7 @@ void PrintDialog::startPrinters()
 {
     const JobRequest& request = start_.request;
     if (request.ppdPath.isEmpty()) {
-        finder_.start(request.queue);
+        finder_.start(request.queue, memory_.printer);
         enableButtons();
         return;
     }
@@ -33,6 +36,21 @@ void PrintDialog::startPrinters()
     printer.ppd.path = request.ppdPath;
     usePrinter(printer);
     fillPrinterChoice();
+}
+
+// Of this window's first pane: another printer's shows the panel that the plug-in has in front.
+void PrintDialog::recallPanel()
+{
+    if (pane_ && memory_.panel > 0)
+        ShowPanel(paneArea_->host(), std::exchange(memory_.panel, 0));
+}
+
+void PrintDialog::rememberDialog() const
+{
+    const bool hasPrinted = end_ == DialogEnd::Accepted && printer_ && printer_->isQueue();
+    const Queue queue = hasPrinted ? printer_->queue : Queue();
+    RememberDialog({.printer = queue.instance.isEmpty() ? queue.name : queue.name + u'/' + queue.instance,
+                    .panel = pane_ ? ShownPanel(paneArea_->host()) : 0});
 }
 
 void PrintDialog::fillPrinterChoice()
@@ -48,6 +66,7 @@ void PrintDialog::fillPrinterChoice()
     }
     for (const Queue& queue : finder_.queues())
         menu.items.push_back({.title = PrinterTitle(queue, *start_.texts)});
+    choice->setEnabled(!menu.items.empty()); // nothing to choose from while printers are looked for
     choice->setMenu(std::move(menu));
     if (position)
         choice->setValue(position);
@@ -99,14 +118,12 @@ void PrintDialog::openPane()
     paneStatus_ = pane_ ? pane_->status() : noErr;
     if (paneStatus_ != noErr)
         pane_.reset();
+    recallPanel();
     if (pane_)
         paneArea_->showPane();
     else
         paneArea_->showMessage(whyNoPane());
-    std::vector<QWidget*> below;
-    for (const PrintControl button : {kHelpButton, kSaveSettingsButton, kCancelButton, kPrintButton})
-        below.push_back(FindControl(window_.get(), {kPrintSignature, button}));
-    paneArea_->placeInFocusOrder(below);
+    paneArea_->placeInFocusOrder(ButtonsInOrder(*window_));
     enableButtons();
     updateSummary();
 }
@@ -121,21 +138,21 @@ void PrintDialog::enableButtons()
 PaneMessage PrintDialog::whyNoPane() const
 {
     const Bundle& texts = *start_.texts;
-    const QString stillWorks = start_.request.ppdPath.isEmpty() ? PrintText(texts, "Printing Still Works")
-                                                                : PrintText(texts, "Saving Still Works");
+    const QString stillWorks = start_.request.ppdPath.isEmpty() ? LocalizedString(texts, "Printing Still Works")
+                                                                : LocalizedString(texts, "Saving Still Works");
     if (!start_.plugIn.plugIn)
-        return {PrintText(texts, "No Plug-in Title"),
-                PrintText(texts, "No Plug-in Message").arg(Sentence(start_.plugIn.error, texts), stillWorks)};
+        return {LocalizedString(texts, "No Plug-in Title"),
+                LocalizedString(texts, "No Plug-in Message").arg(Sentence(start_.plugIn.error, texts), stillWorks)};
     const QString name = PrinterTitle(printer_->queue, texts);
     const QString& maker = facts_.manufacturer;
     const QString message =
         !facts_.problem.isEmpty()
-            ? PrintText(texts, "No Description Message").arg(Sentence(facts_.problem, texts), stillWorks)
+            ? LocalizedString(texts, "No Description Message").arg(Sentence(facts_.problem, texts), stillWorks)
         : maker == QLatin1StringView(kMaker)
-            ? PrintText(texts, "Pane Failed Message").arg(name, QString::number(paneStatus_), stillWorks)
-        : maker.isEmpty() ? PrintText(texts, "No Maker Message").arg(name, stillWorks)
-                          : PrintText(texts, "Other Maker Message").arg(name, maker, stillWorks);
-    return {PrintText(texts, "Plain Options Title"), message};
+            ? LocalizedString(texts, "Pane Failed Message").arg(name, QString::number(paneStatus_), stillWorks)
+        : maker.isEmpty() ? LocalizedString(texts, "No Maker Message").arg(name, stillWorks)
+                          : LocalizedString(texts, "Other Maker Message").arg(name, maker, stillWorks);
+    return {LocalizedString(texts, "Plain Options Title"), message};
 }
 
 void PrintDialog::closePane()

@@ -1,11 +1,13 @@
 #include "host/dialog/PrintDialog.h"
 
 #include "host/commandline/DialogOptions.h"
+#include "host/dialog/DialogButtons.h"
 #include "host/dialog/DialogSummary.h"
 #include "host/dialog/PrintDialogControls.h"
-#include "host/dialog/PrintTexts.h"
 #include "host/job/TicketTransport.h"
+#include "platform/plugins/Bundle.h"
 #include "platform/values/PropertyList.h"
+#include "toolkit/windows/FitToScreen.h"
 #include "toolkit/windows/InterfaceFile.h"
 #include "toolkit/windows/ModalLoop.h"
 #include "toolkit/windows/WindowSummary.h"
@@ -15,7 +17,6 @@
 #include <QEvent>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 
 #include <algorithm>
@@ -82,12 +83,10 @@ void PrintDialog::setUpWindow()
 {
     const Bundle& texts = *start_.texts;
     const QString job = jobName();
-    window_->setWindowTitle(job.isEmpty() ? PrintText(texts, "Window Title No Document")
-                                          : PrintText(texts, "Window Title").arg(job));
-    QSize size = kUsualSize;
-    if (const QScreen* screen = window_->screen())
-        size = size.boundedTo(screen->availableSize());
-    window_->resize(size);
+    window_->setWindowTitle(job.isEmpty() ? LocalizedString(texts, "Window Title No Document")
+                                          : LocalizedString(texts, "Window Title").arg(job));
+    OrderButtons(*window_);
+    window_->resize(kUsualSize.boundedTo(RoomOnScreen(*window_)));
 
     paneArea_.emplace(*window_);
     fields_.emplace(*window_, texts);
@@ -98,7 +97,7 @@ void PrintDialog::setUpWindow()
         [this](const CommandEvent& command) { return handleCommand(command); });
     AddPanelShortcuts(*window_);
     if (!start_.request.ppdPath.isEmpty()) { // nothing is submitted
-        SetControlText(FindControl(window_.get(), {kPrintSignature, kPrintButton}), PrintText(texts, "Save"));
+        SetControlText(FindControl(window_.get(), {kPrintSignature, kPrintButton}), LocalizedString(texts, "Save"));
         SetControlVisible(FindControl(window_.get(), {kPrintSignature, kSaveSettingsButton}), false);
     }
 }
@@ -115,6 +114,8 @@ void PrintDialog::showFields()
 
 DialogOutcome PrintDialog::run()
 {
+    if (!start_.scripted) // a script begins where every other begins
+        memory_ = RecallDialog();
     showFields();
     startPrinters();
     qApp->installEventFilter(this);
@@ -125,6 +126,8 @@ DialogOutcome PrintDialog::run()
     RunModalLoop(*window_);
     qApp->removeEventFilter(this);
     sending_.reset();
+    if (!start_.scripted)
+        rememberDialog();
     pane_.reset(); // Cancel: nothing more goes to the tickets
     if (!end_)     // the window was closed
         close(hasFailed_ ? DialogEnd::Failed : DialogEnd::Cancelled);

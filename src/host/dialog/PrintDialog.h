@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/dialog/DialogFields.h"
+#include "host/dialog/DialogMemory.h"
 #include "host/dialog/ElidedText.h"
 #include "host/dialog/PaneArea.h"
 #include "host/dialog/PrinterFinder.h"
@@ -75,6 +76,8 @@ private:
     void choosePrinter(int position);
     void presetFromPrinter();
     void openPane();
+    void recallPanel();
+    void rememberDialog() const;
     void closePane(); // what the pane shows goes to the tickets first
     void enableButtons();
     PaneMessage whyNoPane() const;
@@ -107,6 +110,7 @@ private:
     PrinterFinder finder_;
     std::optional<DialogPrinter> printer_;
     PPDFacts facts_; // of the printer
+    DialogMemory memory_;
     std::optional<Pane> pane_;
     OSStatus paneStatus_ = noErr; // of the last attempt to open one
     std::optional<BackgroundTask> sending_;

@@ -26,7 +26,9 @@ void FollowPaper(_PaperOutputContext& panel)
 
 void FollowJobType(_PaperOutputContext& panel)
 {
-    if (EnableDisableJobTypeSetupButton(panel))
+    const PopupButton* popup = FindPopupButton(panel.pane, {kSignature, kJobTypePopup});
+    const bool isPicked = !popup || !popup->isGoneThrough(); // on the way to another one nobody wants its setup
+    if (EnableDisableJobTypeSetupButton(panel) && isPicked)
         ClickControl(FindHere(panel, kJobTypeSetupButton));
 }
 

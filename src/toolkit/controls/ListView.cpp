@@ -364,7 +364,7 @@ void ListView::paintEvent(QPaintEvent* event)
     if (model_->rowCount() > 0 || emptyText_.isEmpty())
         return;
     QPainter painter(viewport());
-    painter.setPen(ColorsOf(palette()).text2);
+    painter.setPen(ColorsOf(palette()).placeholder);
     constexpr int kInset = 16; // points
     const QRect room = viewport()->rect().adjusted(kInset, kInset, -kInset, -kInset);
     painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, emptyText_);

@@ -112,6 +112,10 @@ void InitializeStockMenuButton(MenuButton* button, _StockMenuCommandEventHandler
     PopulateStockMenu(menu, *data.bundle, data.context);
     button->setMenu(std::move(menu));
     InstallHandlers(*button, data);
+    data.handlers.push_back(InstallEventHandler(*button, [&data](const MenuEnableItemsEvent&) {
+        data.button->changeItems([&data](Menu& shown) { MarkStock(shown, data.stock); });
+        return EventResult::NotHandled;
+    }));
 }
 
 void InitializeStockSizeMenuButton(PopupButton* popup, _StockMenuCommandEventHandlerData& data)

@@ -25,6 +25,30 @@ MenuItem SubmenuItem(const Bundle& bundle, const char* key, PopulateFunction pop
         .title = LocalizedString(bundle, key), .enabled = !submenu.items.empty(), .submenu = std::move(submenu.items)};
 }
 
+bool IsOfStock(const MenuItem& item, const Stock& stock)
+{
+    switch (item.command) {
+    case kStockSizeCommand:
+        return item.value == stock.size();
+    case kStockColorCommand:
+        return item.value == stock.color();
+    case kStockTypeCommand:
+        return item.value == stock.type();
+    case kStockSourceCommand:
+        return item.value == stock.source();
+    default:
+        return false;
+    }
+}
+
+void MarkItems(std::vector<MenuItem>& items, const Stock* stock)
+{
+    for (MenuItem& item : items) {
+        item.checked = stock && IsOfStock(item, *stock);
+        MarkItems(item.submenu, stock);
+    }
+}
+
 bool HasCommand(const MenuItem& item, FourCharCode command)
 {
     return item.submenu.empty() ? item.command == command : item.submenu.front().command == command;
@@ -90,6 +114,11 @@ void EnableStockCommand(Menu& menu, FourCharCode command, bool enabled)
         if (HasCommand(item, command))
             item.enabled = enabled;
     }
+}
+
+void MarkStock(Menu& menu, const Stock* stock)
+{
+    MarkItems(menu.items, stock);
 }
 
 void ForgetStockName(Stock& stock)
