@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panels/booklet_watermark/fonts/FontLookup.h"
+#include "platform/values/Types.h"
 
 #include <memory>
 
@@ -52,5 +53,8 @@ private:
     unsigned glyphCount_ = 0;
     Sendability sendability_ = Sendability::NotOutlines;
 };
+
+// A table's bytes; empty when the font has none of that name.
+QByteArray FontTable(hb_face_t* face, FourCharCode tag);
 
 } // namespace kesta::booklet_watermark

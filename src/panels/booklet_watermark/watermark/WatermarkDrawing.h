@@ -28,7 +28,7 @@ struct WatermarkNotes {
 // Draws a watermark, centred on the page; in opaque colour, density is the caller's: cairo_push_group() before,
 // cairo_pop_group_to_source() and cairo_paint_with_alpha() after.
 //
-// The context's user space is the page's: points from the lower left corner, y upwards (BeginPage). A text is drawn
+// The context's user space is the page's: points from the lower left corner, y upwards (WritePDFPage). A text is drawn
 // about its origin and its record gets the glyphs and the origin; when there is a store file, the record is then saved
 // into it. With neither text nor file name, or a picture that can't be had, nothing is drawn.
 WatermarkNotes DrawWatermark(cairo_t* context, const QRectF& page, _WatermarkData& record,

@@ -1,0 +1,89 @@
+#include "panels/booklet_watermark/fonts/FontProgram.h"
+
+#include "panels/booklet_watermark/fonts/GlyphNames.h"
+#include "panels/booklet_watermark/fonts/TrueTypeSubset.h"
+#include "panels/booklet_watermark/fonts/Type1.h"
+#include "panels/booklet_watermark/fonts/Type42Writer.h"
+
+#include <algorithm>
+#include <map>
+#include <string>
+
+namespace kesta::booklet_watermark {
+namespace {
+
+constexpr QLatin1String kPrefix("KS-"), kSuffix("-KS");
+
+// Names of glyphs by their number; no two fonts' glyphs of one number need be the same.
+std::vector<std::string> NumberedNames(std::size_t count)
+{
+    std::vector<std::string> names(count);
+    for (std::size_t glyph = 0; glyph < count; ++glyph)
+        names[glyph] = "g" + std::to_string(glyph);
+    return names;
+}
+
+Encoding EncodingOf(const std::vector<std::uint16_t>& glyphs, const std::vector<std::string_view>& names)
+{
+    Encoding encoding;
+    encoding.fill(kNotdef);
+    for (std::size_t code = 0; code < std::min(encoding.size(), glyphs.size()); ++code)
+        encoding[code] = names[glyphs[code]];
+    return encoding;
+}
+
+QByteArray AsType42(const Typeface& typeface, std::span<const PlacedGlyph> glyphs, const QByteArray& fontName)
+{
+    const std::optional<TrueTypeSubset> subset = MakeTrueTypeSubset(typeface, glyphs);
+    std::optional<TrueTypeFont> truetype = subset ? ReadTrueTypeFont(subset->font) : std::nullopt;
+    if (!truetype)
+        return {};
+    const std::vector<std::string> names = NumberedNames(truetype->glyphCount);
+    truetype->names.assign(names.begin(), names.end());
+    truetype->names.front() = kNotdef;
+    truetype->hasNames = true;
+    QByteArray program;
+    const bool isWhole =
+        AppendType42(subset->font, *truetype, EncodingOf(subset->glyphs, truetype->names), fontName, program);
+    return isWhole ? program : QByteArray();
+}
+
+QByteArray AsType1(const Typeface& typeface, std::span<const PlacedGlyph> glyphs, const QByteArray& fontName)
+{
+    std::map<PlacedGlyph, std::uint16_t> numbers;
+    std::vector<PlacedGlyph> distinct;
+    std::vector<std::uint16_t> inLine;
+    for (const PlacedGlyph& glyph : glyphs) {
+        const auto [known, isNew] = numbers.try_emplace(glyph, static_cast<std::uint16_t>(distinct.size()));
+        if (isNew)
+            distinct.push_back(glyph);
+        inLine.push_back(known->second);
+    }
+    const std::vector<std::string> texts = NumberedNames(distinct.size());
+    const std::vector<std::string_view> names(texts.begin(), texts.end());
+    return MakeType1(typeface, distinct, names, EncodingOf(inLine, names), fontName).value_or(QByteArray());
+}
+
+} // namespace
+
+QString SubsetFontName(const QString& postScriptName)
+{
+    return kPrefix + postScriptName + kSuffix;
+}
+
+bool IsSubsetFontName(const QString& name)
+{
+    return name.size() > kPrefix.size() + kSuffix.size() && name.startsWith(kPrefix) && name.endsWith(kSuffix);
+}
+
+QByteArray MakeFontProgram(const Typeface& typeface, std::span<const PlacedGlyph> glyphs)
+{
+    const bool isTrueType = typeface.sendability() == Sendability::AsTrueType;
+    if (glyphs.empty() || (!isTrueType && typeface.sendability() != Sendability::AsOutlines))
+        return {};
+    const QByteArray name = PlainName(SubsetFontName(typeface.file().postScriptName).toUtf8());
+    const QByteArray program = isTrueType ? AsType42(typeface, glyphs, name) : QByteArray();
+    return program.isEmpty() ? AsType1(typeface, glyphs, name) : program;
+}
+
+} // namespace kesta::booklet_watermark
