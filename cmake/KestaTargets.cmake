@@ -19,9 +19,18 @@ if(KESTA_COVERAGE)
   add_link_options(--coverage)
 endif()
 
-# One layer: a static library of sources, compiled against the layers that it may include.
-# The platform and the toolkit are not linked here: a program takes them from kesta-support, or, when it has no
-# windows, from kesta-platform-only.
+# One part of libkesta-support, see src/CMakeLists.txt: objects, so that each has its place in the library, and parts may
+# come in any order.
+function(kesta_support_part name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
+  add_library(${name} OBJECT ${ARG_SOURCES})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(${name} PUBLIC ${ARG_USES})
+endfunction()
+
+# One layer above it: a static library of sources, compiled against the layers that it may include. It does not name
+# the parts of libkesta-support: a program takes them all from kesta-support, or, when it has no windows, from
+# kesta-support-only.
 function(kesta_layer name)
   cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})

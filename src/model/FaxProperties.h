@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pde/interface/TicketKeys.h"
+
 // The keys of a fax job's dictionaries.
 namespace kesta {
 
@@ -23,8 +25,8 @@ inline constexpr char kFaxSendSpeedProperty[] = "SendSpeed";                 // 
 inline constexpr char kFaxResolutionProperty[] = "Resolution";               // 1 standard, 2 fine, 3 superfine
 inline constexpr char kFaxNewJobResolutionProperty[] = "NewJobResolution";   // reserved: neither written nor read
 inline constexpr char kFaxSendTimeProperty[] = "SendTime"; // 64-bit seconds since 1904, local time; of a delayed send
-inline constexpr char kFaxDialingPrefixProperty[] = "DialingPrefix";             // text, when one is used
-inline constexpr char kFaxCreditCardProperty[] = "CreditCard";                   // text, when one is used
+inline constexpr auto& kFaxDialingPrefixProperty = key::FaxDialingPrefix;        // text, when one is used
+inline constexpr auto& kFaxCreditCardProperty = key::FaxCreditCard;              // text, when one is used
 inline constexpr char kFaxCoverSheetProperty[] = "CoverSheet";                   // boolean
 inline constexpr char kFaxCoverSheetNotesProperty[] = "CoverSheetNotes";         // text
 inline constexpr char kFaxPromptDuplicateProperty[] = "PromptDuplicate";         // boolean

@@ -1,5 +1,6 @@
 #include "model/InvertImage.h"
 
+#include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"
 
 namespace kesta {
@@ -14,16 +15,16 @@ bool ReadFlag(const Dictionary& ticket, const char* key)
 
 void InvertImageSetOptionsFromTicket(II_Options& options, const Dictionary& ticket)
 {
-    options.negativeImage = ReadFlag(ticket, "NegativeImage");
-    options.mirrorImage = ReadFlag(ticket, "MirrorImage");
+    options.negativeImage = ReadFlag(ticket, key::InvertNegativeImage);
+    options.mirrorImage = ReadFlag(ticket, key::InvertMirrorImage);
     options.valid = true;
 }
 
 Dictionary InvertImageCreateTicketFromOptions(const II_Options& options)
 {
     Dictionary ticket;
-    WriteTicketValue(ticket, "NegativeImage", options.negativeImage ? 1 : 0);
-    WriteTicketValue(ticket, "MirrorImage", options.mirrorImage ? 1 : 0);
+    WriteTicketValue(ticket, key::InvertNegativeImage, options.negativeImage ? 1 : 0);
+    WriteTicketValue(ticket, key::InvertMirrorImage, options.mirrorImage ? 1 : 0);
     return ticket;
 }
 

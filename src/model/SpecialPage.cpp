@@ -1,5 +1,6 @@
 #include "model/SpecialPage.h"
 
+#include "pde/interface/TicketKeys.h"
 #include "pde/ticket/RecordFields.h"
 #include "pde/ticket/TicketUtilities.h"
 
@@ -10,7 +11,6 @@ constexpr char kStockKey[] = "Stock";
 constexpr char kStartPageKey[] = "StartPage";
 constexpr char kSidesImagedKey[] = "SidesImaged";
 constexpr char kQuantityKey[] = "Quantity";
-constexpr char kImageShiftKey[] = "com.kesta.print.ImageShiftOptionsPage";
 
 using E = ExceptionPageFields;
 
@@ -83,7 +83,7 @@ std::unique_ptr<SpecialPage> Insert::clone() const
 ExceptionPage::ExceptionPage(const Dictionary& ticket) : SpecialPage(ticket)
 {
     ReadFields(fields_, kExceptionFields, ticket);
-    if (const Dictionary* shift = ticket.dictionary(kImageShiftKey))
+    if (const Dictionary* shift = ticket.dictionary(key::ImageShiftOptionsPage))
         ImageShiftSetOptionsFromTicket(imageShift_, *shift);
 }
 
@@ -92,7 +92,7 @@ Dictionary ExceptionPage::asTicket() const
     Dictionary ticket = SpecialPage::asTicket();
     WriteFields(fields_, kExceptionFields, ticket);
     if (auto shift = ImageShiftCreateTicketFromOptions(&imageShift_, JobContext::ImageShift))
-        ticket.set(kImageShiftKey, *std::move(shift));
+        ticket.set(key::ImageShiftOptionsPage, *std::move(shift));
     return ticket;
 }
 

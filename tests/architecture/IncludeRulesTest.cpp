@@ -28,6 +28,9 @@ TEST(IncludeRules, TellsAForbiddenArrowFromAnAllowedOne)
                 ElementsAre(HasSubstr("to panels/special_pages")));
     EXPECT_THAT(ForbiddenIncludes("host/server/A.cpp", "#include \"host/dialog/PrintDialog.h\"\n"),
                 ElementsAre(HasSubstr("to host/dialog")));
+    EXPECT_THAT(ForbiddenIncludes("host/job/A.cpp", "#include \"pde/interface/TicketKeys.h\"\n"), IsEmpty());
+    EXPECT_THAT(ForbiddenIncludes("host/job/A.cpp", "#include \"pde/interface/PanelOperations.h\"\n"),
+                ElementsAre(HasSubstr("to pde/interface")));
     EXPECT_THAT(ForbiddenIncludes("host/misc/A.cpp", ""), ElementsAre(HasSubstr("in no folder")));
     EXPECT_THAT(ForbiddenIncludes("platform/A.cpp", ""), ElementsAre(HasSubstr("in no folder")));
 }

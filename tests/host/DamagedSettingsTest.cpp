@@ -3,6 +3,7 @@
 #include "host/FileContent.h"
 #include "host/ProgramFixture.h"
 
+#include "pde/interface/TicketKeys.h"
 #include "platform/values/PropertyList.h"
 
 #include <QDir>
@@ -15,6 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+namespace key = kesta::key;
 using kesta::Array;
 using kesta::Date;
 using kesta::Dictionary;
@@ -34,6 +36,14 @@ QStringList InSources(const QString& pattern, const QStringList& files)
             found << match.next().captured(1);
     }
     return found;
+}
+
+QStringList Texts(std::initializer_list<const char*> texts)
+{
+    QStringList list;
+    for (const char* text : texts)
+        list << QString::fromLatin1(text);
+    return list;
 }
 
 Dictionary Under(const QStringList& keys, const Value& value)
@@ -91,20 +101,16 @@ protected:
     }
 
     // Numbers that no control shows, or whose pop-up keeps its choice: they come out as they came in.
-    const QStringList carried{u"com.kesta.print.AdvancedBookletLayoutOrderStr"_s,
-                              u"com.kesta.print.BannerPage"_s,
-                              u"com.kesta.print.FinishingBindValue"_s,
-                              u"com.kesta.print.FinishingOffset"_s,
-                              u"com.kesta.print.FinishingOffsetEnableSubset"_s,
-                              u"com.kesta.print.FinishingOptions"_s,
-                              u"com.kesta.print.FinishingSlipSheet"_s};
-    const QStringList keys =
-        InSources(u"\"(com\\.[^\"]+)\""_s, {u"pde/interface/TicketKeys.h"_s, u"host/job/HostTickets.h"_s});
+    const QStringList carried =
+        Texts({key::AdvancedBookletLayoutOrder, key::BannerPage, key::FinishingBindValue, key::FinishingOffset,
+               key::FinishingOffsetEnableSubset, key::FinishingOptions, key::FinishingSlipSheet});
+    const QStringList keys = InSources(u"\"(com\\.[^\"]+)\""_s,
+                                       {u"pde/interface/TicketKeys.h"_s, u"platform/printsystem/PrintSystemKeys.h"_s});
     const QStringList fields =
         InSources(u"\\{\"([A-Za-z0-9]+)\", +&"_s, {u"model/Stock.cpp"_s, u"model/FullColorTicket.cpp"_s}) +
-        QStringList{u"JobType"_s,          u"MediaType"_s,           u"UseJobName"_s,
-                    u"SaveDisposition"_s,  u"DelayedPrintTime"_s,    u"SavedJobName"_s,
-                    u"SavedJobLocation"_s, u"SecurePrintPassword"_s, u"MirrorImage"_s};
+        Texts({key::JobTypeNumber, key::JobTypeMediaType, key::JobTypeUseJobName, key::JobTypeSaveDisposition,
+               key::JobTypeDelayedPrintTime, key::JobTypeSavedJobName, key::JobTypeSavedJobLocation,
+               key::JobTypeSecurePrintPassword, key::InvertMirrorImage});
 };
 
 TEST_F(DamagedSettingsTest, WrongKindsAndRangesUnderEveryKeyCountAsNothing)

@@ -1,5 +1,6 @@
 #include "host/job/HostTickets.h"
 #include "host/job/PageRanges.h"
+#include "platform/printsystem/PrintSystemKeys.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>
@@ -75,17 +76,17 @@ TEST(HostTickets, EveryFieldComesBack)
     WriteTickets(settings, printSettings, pageFormat);
 
     EXPECT_TRUE(ReadTickets(printSettings, pageFormat) == settings);
-    EXPECT_TRUE(printSettings.values() == (Dictionary{{key::JobName, u"Report"_s},
-                                                      {key::Copies, Number::Index(25)},
-                                                      {key::LayoutNUp, true},
+    EXPECT_TRUE(printSettings.values() == (Dictionary{{key::PMJobName, u"Report"_s},
+                                                      {key::PMCopies, Number::Index(25)},
+                                                      {key::PMLayoutNUp, true},
                                                       {key::PagesPerSheet, Number::Index(6)},
                                                       {key::PageRanges, u"1-4,7"_s}}));
-    EXPECT_TRUE(pageFormat.values() == (Dictionary{{key::Orientation, Number::Index(4)}}));
-    EXPECT_EQ(printSettings.client(key::LayoutNUp), QString::fromLatin1(kHostClient));
+    EXPECT_TRUE(pageFormat.values() == (Dictionary{{key::PMOrientation, Number::Index(4)}}));
+    EXPECT_EQ(printSettings.client(key::PMLayoutNUp), QString::fromLatin1(kHostClient));
 
     WriteTickets({}, printSettings, pageFormat);
     EXPECT_TRUE(ReadTickets(printSettings, pageFormat) == HostSettings{});
-    EXPECT_EQ(printSettings.values().boolean(key::LayoutNUp), false);
+    EXPECT_EQ(printSettings.values().boolean(key::PMLayoutNUp), false);
     EXPECT_FALSE(printSettings.values().find(key::PageRanges));
 }
 
@@ -95,16 +96,16 @@ TEST(HostTickets, ForeignValuesGiveDefaults)
     Ticket pageFormat;
     EXPECT_TRUE(ReadTickets(printSettings, pageFormat) == HostSettings{});
 
-    printSettings.set("x", key::JobName, true);
-    printSettings.set("x", key::Copies, Number::Index(-3));
+    printSettings.set("x", key::PMJobName, true);
+    printSettings.set("x", key::PMCopies, Number::Index(-3));
     printSettings.set("x", key::PagesPerSheet, Number::Index(3));
     printSettings.set("x", key::PageRanges, "seven");
-    pageFormat.set("x", key::Orientation, Number::Index(5));
+    pageFormat.set("x", key::PMOrientation, Number::Index(5));
     EXPECT_TRUE(ReadTickets(printSettings, pageFormat) == HostSettings{});
 
-    printSettings.set("x", key::Copies, Number::SInt64(1LL << 40));
+    printSettings.set("x", key::PMCopies, Number::SInt64(1LL << 40));
     EXPECT_EQ(ReadTickets(printSettings, pageFormat).copies, 1);
-    printSettings.set("x", key::Copies, Number::Index(1'000'000));
+    printSettings.set("x", key::PMCopies, Number::Index(1'000'000));
     EXPECT_EQ(ReadTickets(printSettings, pageFormat).copies, 1);
 }
 
@@ -116,12 +117,12 @@ TEST(HostTickets, PaperAndSides)
     EXPECT_FALSE(ReadPaperRect(pageFormat));
     WritePaperRect(a4, pageFormat);
     EXPECT_TRUE(ReadPaperRect(pageFormat) == a4);
-    pageFormat.set("x", key::UnadjustedPaperRect, Array{Number::Index(1)});
+    pageFormat.set("x", key::PMUnadjustedPaperRect, Array{Number::Index(1)});
     EXPECT_FALSE(ReadPaperRect(pageFormat));
 
     WriteInitialDuplexing(DuplexingOfChoice("DuplexTumble"), printSettings);
     WriteInitialDuplexing(DuplexingOfChoice("DuplexNoTumble"), printSettings); // the first stays
-    EXPECT_TRUE(*printSettings.values().find(key::Duplexing) == Value(Number::Index(3)));
+    EXPECT_TRUE(*printSettings.values().find(key::PMDuplexing) == Value(Number::Index(3)));
     EXPECT_EQ(DuplexingOfChoice("None"), 1);
 }
 

@@ -1,6 +1,7 @@
 #include "host/PrivateServer.h"
 #include "host/job/JobOptions.h"
 
+#include "pde/interface/TicketKeys.h"
 #include "platform/printsystem/JobSettings.h"
 #include "platform/values/PropertyList.h"
 
@@ -108,9 +109,8 @@ TEST_F(PrintingTest, TheDocumentArrivesWithExactlyTheseOptions)
 TEST_F(PrintingTest, SecretsTravelToThePrinterAndStayInNoFile)
 {
     Ticket& ticket = tickets.printSettings;
-    ticket.set("K", "com.kesta.print.JobType",
-               Dictionary{{"JobType", Number::Index(1)}, {"SecurePrintPassword", "4711"}});
-    ticket.set("K", "com.kesta.print.FaxOptions", Dictionary{{"DialingPrefix", "0"}, {"CreditCard", "5500"}});
+    ticket.set("K", key::JobType, Dictionary{{"JobType", Number::Index(1)}, {"SecurePrintPassword", "4711"}});
+    ticket.set("K", key::FaxOptions, Dictionary{{"SendSpeed", "2"}, {"DialingPrefix", "0"}, {"CreditCard", "5500"}});
     const QString saved = directory.filePath(u"saved.plist"_s);
     ASSERT_EQ(print({u"--settings"_s, save(), u"--save-settings"_s, saved, QLatin1StringView(SAMPLE)}).status, 0);
 
@@ -119,10 +119,11 @@ TEST_F(PrintingTest, SecretsTravelToThePrinterAndStayInNoFile)
         return RunProgram(KESTA_TICKET, {u"get"_s, key}, job.options).output;
     };
     EXPECT_EQ(arrived(u"com.kesta.print.JobType/SecurePrintPassword"_s), "4711\n");
+    EXPECT_EQ(arrived(u"com.kesta.print.FaxOptions/DialingPrefix"_s), "0\n");
     EXPECT_EQ(arrived(u"com.kesta.print.FaxOptions/CreditCard"_s), "5500\n");
 
-    ticket.set("K", "com.kesta.print.JobType", Dictionary{{"JobType", Number::Index(1)}});
-    ticket.set("K", "com.kesta.print.FaxOptions", Dictionary{{"DialingPrefix", "0"}});
+    ticket.set("K", key::JobType, Dictionary{{"JobType", Number::Index(1)}});
+    ticket.set("K", key::FaxOptions, Dictionary{{"SendSpeed", "2"}});
     EXPECT_EQ(ReadAll(saved), WriteJobSettings(tickets)) << "all but the secrets";
 }
 

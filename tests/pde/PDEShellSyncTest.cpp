@@ -47,6 +47,10 @@ TEST_F(PDEShellSyncTest, WritingAddsTheKeysOfTheJob)
     EXPECT_EQ(ticket.client(key::ControllerFamily), u"K");
     EXPECT_EQ(PPDCopyCurrentChoice(ticket, "KSTColor"), std::nullopt);
 
+    system.user = system.computer = std::nullopt;
+    ticket.set("another", key::ClientIPAddress, "locked", Ticket::Lock::Locked);
+    EXPECT_EQ(write(), kTicketEntryLocked) << "the last write";
+
     session().data.clear();
     EXPECT_EQ(write(), kNoSuchTicket);
 }

@@ -241,6 +241,10 @@ TEST(SelectItemOfTabControl, ShowsOnePaneOfTheList)
     constexpr SInt32 kTooMany[] = {1000, 7};
     selectItemOfTabControl(tabs, 5, kTooMany);
     EXPECT_TRUE(first.isHidden());
+
+    selectItemOfTabControl(tabs, 1, kPanes);
+    selectItemOfTabControl(tabs, 0, kPanes);
+    EXPECT_TRUE(first.isHidden() && second.isHidden());
 }
 
 } // namespace

@@ -19,6 +19,9 @@ TEST(XMLEntities, Unescapes)
     const Case cases[] = {
         {u"&#65;&#x42;"_s, u"AB"_s},
         {u"&#x1f600;"_s, u"\U0001F600"_s},
+        {u"&#xD83D;&#xde00;"_s, u"\U0001F600"_s}, // up to U+FFFF each is one unit
+        {u"&#57343;"_s, QString(QChar(0xDFFF))},
+        {u"a&#0;b"_s, QStringView(u"a\0b", 3).toString()},
         {u"&lt;a b=&quot;&apos;&amp;&gt;"_s, u"<a b=\"'&>"_s},
         {u"&amp;lt;"_s, u"&lt;"_s}, // what was unescaped is not looked at again
         {u"a&foo;b"_s, u"a&foo;b"_s},
@@ -38,9 +41,9 @@ TEST(XMLEntities, Unescapes)
 
 TEST(XMLEntities, WhatIsNoCharacterStaysAsItWasWritten)
 {
-    for (const QString& text : {u"&#0;"_s, u"&#x0;"_s, u"&#;"_s, u"&#x;"_s, u"&#xD800;"_s, u"&#57343;"_s,
-                                u"&#x110000;"_s, u"&#4294967361;"_s /* 2^32 + 65 */, u"&#18446744073709551681;"_s,
-                                u"&#6a;"_s, u"&#X41;"_s, u"&#xG;"_s, u"&#-65;"_s, u"&# 65;"_s})
+    for (const QString& text :
+         {u"&#;"_s, u"&#x;"_s, u"&#x110000;"_s, u"&#4294967361;"_s /* 2^32 + 65 */, u"&#18446744073709551681;"_s,
+          u"&#6a;"_s, u"&#X41;"_s, u"&#xG;"_s, u"&#-65;"_s, u"&# 65;"_s})
         EXPECT_EQ(XMLCreateStringByUnescapingEntities(text), text);
     EXPECT_EQ(XMLCreateStringByUnescapingEntities(u"&#x10FFFF;&#xFFFF;"), QString::fromUcs4(U"\U0010FFFF\xFFFF", 2));
 }

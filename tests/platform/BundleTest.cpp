@@ -2,6 +2,7 @@
 #include "platform/plugins/HelpBook.h"
 
 #include "platform/SampleBundle.h"
+#include "platform/system/SafeFile.h"
 #include "support/Recorders.h"
 #include "support/TestTexts.h"
 
@@ -88,6 +89,21 @@ TEST(Bundle, WhatCannotBeLoadedSaysWhy)
     EXPECT_EQ(FunctionNamed(*bundle, "SampleAnswer"), nullptr);
     EXPECT_TRUE(LoadCode(*bundle).value().contains(u"/Contents/Linux/Made.so")) << LoadCode(*bundle)->toStdString();
     EXPECT_EQ(LocalizedString(*bundle, "Both"), QStringLiteral("STRING NOT FOUND"));
+}
+
+TEST(Bundle, ACutOffPlugInIsNamedAndNotLoaded)
+{
+    const FileContent whole = ReadFile(QStringLiteral(SAMPLE_PLUGIN "/Contents/Linux/Sample.so"), 100'000'000);
+    ASSERT_TRUE(whole.bytes);
+    for (const int size : {0, 100, 2000, 5000, 9000, 12'000}) {
+        const BundleFolder folder;
+        const QByteArray identifier = QByteArray("com.kesta.test.cut") + QByteArray::number(size);
+        folder.writeInfo("<key>CFBundleIdentifier</key><string>" + identifier + "</string>");
+        folder.write(QStringLiteral("Contents/Linux/Made.so"), whole.bytes->first(size));
+        const Bundle* bundle = LoadBundleAt(folder.path).bundle;
+        ASSERT_TRUE(bundle);
+        EXPECT_TRUE(LoadCode(*bundle).value_or(QString()).contains(u"Made.so")) << size;
+    }
 }
 
 TEST(Bundle, TextsFallBackToWiderLanguagesAndToEnglish)

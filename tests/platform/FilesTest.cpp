@@ -1,6 +1,7 @@
 #include "platform/system/Directories.h"
 #include "platform/system/SafeFile.h"
 #include "platform/system/UserPreferences.h"
+#include "support/EventfulClock.h"
 #include "support/SmallDisk.h"
 #include "support/TestTexts.h"
 
@@ -10,8 +11,16 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <array>
 #include <cerrno>
+#include <cstddef>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
+#include <sys/ptrace.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace kesta {
@@ -67,6 +76,156 @@ TEST_F(FilesTest, AFullDiskLeavesTheFileAsItWas)
     EXPECT_FALSE(QFile::exists(other));
 }
 
+// From here on the program's file system reserves no room.
+void RefuseToReserve()
+{
+    std::array<sock_filter, 4> rules{{
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_fallocate, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EOPNOTSUPP),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+    }};
+    sock_fprog filter{rules.size(), rules.data()};
+    if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0 || prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) != 0)
+        _exit(2);
+}
+
+TEST_F(FilesTest, GrowWhereTheFileSystemReservesNoRoom)
+{
+    ASSERT_FALSE(WriteFileInPlace(path, "old"));
+    const QByteArray large(200'000, 'x');
+    EXPECT_EXIT(
+        {
+            RefuseToReserve();
+            _exit(WriteFileInPlace(path, large) ? 1 : 0);
+        },
+        testing::ExitedWithCode(0), "");
+    EXPECT_EQ(Content(path), large);
+    EXPECT_EXIT(
+        {
+            RefuseToReserve();
+            const test::SmallDisk disk(300'000);
+            _exit(WriteFileInPlace(path, QByteArray(400'000, 'y')) ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
+    EXPECT_EQ(Content(path), large);
+}
+
+// Writes in a program of its own, which is killed at its n-th stop at a system call. Whether it came to its end.
+bool WriteUntilKilled(const QString& path, const QByteArray& bytes, int stops)
+{
+    const pid_t writer = fork();
+    if (writer == 0) {
+        ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+        raise(SIGSTOP);
+        WriteFile(path, bytes);
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(writer, &status, 0);
+    for (int stop = 0; WIFSTOPPED(status) && stop < stops; ++stop) {
+        ptrace(PTRACE_SYSCALL, writer, nullptr, nullptr);
+        waitpid(writer, &status, 0);
+    }
+    if (WIFEXITED(status))
+        return true;
+    kill(writer, SIGKILL);
+    waitpid(writer, &status, 0);
+    return false;
+}
+
+TEST_F(FilesTest, AKillAtAnySystemCallLeavesTheOldOrTheNewContent)
+{
+    const QByteArray oldContent(3000, 'o'), newContent(150'000, 'n');
+    int stops = 0, sawNew = 0;
+    for (bool ended = false; !ended; ++stops) {
+        ASSERT_FALSE(WriteFile(path, oldContent));
+        ended = WriteUntilKilled(path, newContent, stops);
+        const QByteArray content = Content(path);
+        ASSERT_TRUE(content == oldContent || content == newContent) << stops << ": " << content.size() << " bytes";
+        sawNew += content == newContent ? 1 : 0;
+        // What was written aside has a name only when it is whole.
+        for (const QFileInfo& left : QDir(folder.path()).entryInfoList(QDir::Files | QDir::Hidden)) {
+            ASSERT_TRUE(left.filePath() == path || left.size() == newContent.size()) << stops;
+            if (left.filePath() != path)
+                QFile::remove(left.filePath());
+        }
+    }
+    EXPECT_GT(stops, 20);
+    EXPECT_GT(sawNew, 1); // killed after the renaming, too
+}
+
+TEST_F(FilesTest, KeepWhatTheOldFileWas)
+{
+    ASSERT_FALSE(WriteFile(path, "old"));
+    ASSERT_EQ(chmod(QFile::encodeName(path).constData(), 0640), 0);
+    if (getuid() == 0) {
+        ASSERT_EQ(chown(QFile::encodeName(path).constData(), 12, 34), 0);
+    }
+    const QString link = folder.filePath(QStringLiteral("link"));
+    ASSERT_TRUE(QFile::link(path, link));
+    EXPECT_FALSE(WriteFile(link, "new"));
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(Content(path), "new");
+    struct stat status = {};
+    ASSERT_EQ(stat(QFile::encodeName(path).constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0640u);
+    EXPECT_EQ(status.st_uid, getuid() == 0 ? 12u : getuid());
+
+    const QString twin = folder.filePath(QStringLiteral("twin"));
+    ASSERT_EQ(::link(QFile::encodeName(path).constData(), QFile::encodeName(twin).constData()), 0);
+    EXPECT_FALSE(WriteFile(path, "both"));
+    EXPECT_EQ(Content(twin), "both");
+
+    const QString endless = folder.filePath(QStringLiteral("endless"));
+    ASSERT_TRUE(QFile::link(endless, endless));
+    EXPECT_EQ(WriteFile(endless, "x").value().code, ELOOP);
+}
+
+TEST_F(FilesTest, AFileThatIsBeingWrittenIsNotDamaged)
+{
+    const auto isWhole = [](const QByteArray& bytes) { return bytes.endsWith('.'); };
+    ASSERT_FALSE(WriteFile(path, "half"));
+    {
+        test::EventfulClock clock;
+        EXPECT_EQ(ReadFileAtRest(path, 100, isWhole).error.code, EILSEQ);
+        EXPECT_EQ(clock.waited, 200);
+    }
+    {
+        test::EventfulClock clock;
+        clock.meanwhile = [&] {
+            if (clock.waited == 150) {
+                EXPECT_FALSE(WriteFileInPlace(path, "half and the rest."));
+            }
+        };
+        EXPECT_EQ(ReadFileAtRest(path, 100, isWhole).bytes, "half and the rest.");
+    }
+    ASSERT_FALSE(WriteFile(path, "half"));
+    {
+        test::EventfulClock clock;
+        clock.meanwhile = [&] { EXPECT_FALSE(WriteFileInPlace(path, QByteArray::number(clock.waited))); };
+        EXPECT_EQ(ReadFileAtRest(path, 100, isWhole).error.code, EBUSY);
+    }
+}
+
+TEST_F(FilesTest, PreferencesThatCannotBeReadNowAreLeftAlone)
+{
+    ASSERT_TRUE(WriteUserPreferences("x.plist", Dictionary{{"good", true}}));
+    const QString file = folder.filePath(QStringLiteral("kesta-print/x.plist"));
+    const QByteArray content = Content(file);
+    testing::internal::CaptureStderr();
+    {
+        rlimit before{};
+        getrlimit(RLIMIT_NOFILE, &before);
+        const rlimit none{0, before.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &none);
+        EXPECT_EQ(CopyUserPreferences("x.plist"), std::nullopt);
+        setrlimit(RLIMIT_NOFILE, &before);
+    }
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("Too many open files"), std::string::npos);
+    EXPECT_EQ(Content(file), content);
+}
+
 TEST_F(FilesTest, SecretsAreTheirOwnersAlone)
 {
     const mode_t umaskBefore = umask(022);
@@ -108,6 +267,7 @@ TEST_F(FilesTest, DamagedPreferencesAreKeptAside)
 {
     const QString file = folder.filePath(QStringLiteral("kesta-print/x.plist"));
     ASSERT_TRUE(WriteUserPreferences("x.plist", Dictionary()));
+    const test::EventfulClock clock;
     for (const char* damaged : {"<plist><dict>", "<plist><array/></plist>"}) {
         ASSERT_FALSE(WriteFile(file, damaged));
         testing::internal::CaptureStderr();

@@ -1,12 +1,18 @@
+#include "pde/ticket/TicketUtilities.h"
 #include "platform/plugins/Bundle.h"
 #include "platform/plugins/PlugIn.h"
 #include "plugin/PaneLifecycle.h"
+#include "printer/InstallableOptions.h"
+#include "printer/PPDUtilities.h"
 #include "product/PanelInterfaces.h"
 #include "support/User.h"
 
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 #include <string_view>
@@ -119,6 +125,48 @@ TEST_F(PlugInBundleTest, EveryPanelOfTheTableIsExported)
     ASSERT_TRUE(find);
     EXPECT_EQ(find(&problem), noErr) << problem;
     EXPECT_EQ(FunctionNamed(*bundle, "KestaPDEProlog"), nullptr) << "not an entry";
+}
+
+// This program links the library that the plug-ins link, and asks it what the panes' printer is.
+TEST_F(PlugInBundleTest, TheHostSeesTheSessionAndThePrinterOfTheOpenPane)
+{
+    FakeDialog dialog;
+    const auto look = [&](const PanelInterface&, KestaContextRef) {
+        EXPECT_EQ(GetCurrentPrintSession(), &dialog.session);
+        EXPECT_EQ(getInstallableOptionValue("Option2"), u"DClass_BK"_s);
+        EXPECT_EQ(PPDCopyManufacturer(PPDGetCurrent()), u"Kesta"_s);
+        return noErr;
+    };
+    EXPECT_EQ(test::RunPane(factory, dialog, look), noErr);
+    EXPECT_EQ(GetCurrentPrintSession(), nullptr);
+    EXPECT_EQ(getInstallableOptionValue("Option2"), std::nullopt);
+}
+
+// What a program or library keeps in memory of its own: names of its variables, those within functions included.
+QSet<QString> VariablesOf(const QString& file)
+{
+    QProcess nm;
+    nm.start(u"nm"_s, {u"--defined-only"_s, file});
+    EXPECT_TRUE(nm.waitForFinished()) << nm.errorString().toStdString();
+    static const QRegularExpression variable(u"^[0-9a-f]+ [bB] (_ZZ?N5kesta.*)$"_s,
+                                             QRegularExpression::MultilineOption);
+    QSet<QString> names;
+    for (const QRegularExpressionMatch& match :
+         variable.globalMatch(QString::fromLocal8Bit(nm.readAllStandardOutput())))
+        names << match.captured(1);
+    return names;
+}
+
+TEST_F(PlugInBundleTest, NoPlugInHasAStateOfItsOwnThatItIsToShare)
+{
+    const QSet<QString> shared = VariablesOf(u"" KESTA_SUPPORT ""_s);
+    EXPECT_GT(shared.size(), 10);
+    for (const QString& plugIn : {u"" KESTA_PLUGIN "/Contents/Linux/KestaFeatures.so"_s,
+                                  u"" KESTA_COLOR_PLUGIN "/Contents/Linux/ColorOptions.so"_s}) {
+        const QSet<QString> own = VariablesOf(plugIn);
+        EXPECT_FALSE(own.isEmpty());
+        EXPECT_EQ((own & shared).values(), QStringList()) << plugIn.toStdString();
+    }
 }
 
 } // namespace

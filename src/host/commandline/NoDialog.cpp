@@ -143,13 +143,13 @@ JobFields FieldsOf(const Run& run)
         return ticket.values().find(key) && !FindJobOption(line.options, option);
     };
     JobFields fields;
-    if (line.copies || counts(settings, key::Copies, "copies"))
+    if (line.copies || counts(settings, key::PMCopies, "copies"))
         fields.copies = values.copies;
     if (!line.pageRanges.isEmpty() || counts(settings, key::PageRanges, "page-ranges"))
         fields.pageRanges = values.pageRanges;
     if (counts(settings, key::PagesPerSheet, "number-up"))
         fields.pagesPerSheet = values.pagesPerSheet;
-    if (counts(run.tickets.pageFormat, key::Orientation, "orientation-requested") &&
+    if (counts(run.tickets.pageFormat, key::PMOrientation, "orientation-requested") &&
         !FindJobOption(line.options, "landscape"))
         fields.orientation = values.orientation;
     return fields;

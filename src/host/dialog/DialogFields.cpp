@@ -18,7 +18,6 @@ using namespace Qt::StringLiterals;
 namespace kesta::host {
 namespace {
 
-constexpr char kHistoryFile[] = "com.kesta.print.inputhistory.plist";
 constexpr char kPagesHistory[] = "pageRanges";
 constexpr SInt32 kAllPages = 0;
 
@@ -65,7 +64,7 @@ DialogFields::DialogFields(QWidget& window, const Bundle& texts) : window_(&wind
         perSheet->setMenu(PerSheetMenu());
     if (auto* pages = Control<HistoryComboBox>(window_, kPagesField)) {
         pages->setFixedEntries({{PrintText(texts, "All Pages"), kAllPages}});
-        if (const std::optional<Dictionary> preferences = CopyUserPreferences(kHistoryFile))
+        if (const std::optional<Dictionary> preferences = CopyUserPreferences(kInputHistoryFile))
             pages->setHistory(TypedValueHistory(*preferences, kPagesHistory));
         pages->setFixedValue(kAllPages);
     }
@@ -136,11 +135,11 @@ bool DialogFields::checkPages()
 void DialogFields::rememberPages() const
 {
     const QString typed = typedPages();
-    std::optional<Dictionary> preferences = typed.isEmpty() ? std::nullopt : CopyUserPreferences(kHistoryFile);
+    std::optional<Dictionary> preferences = typed.isEmpty() ? std::nullopt : CopyUserPreferences(kInputHistoryFile);
     if (!preferences)
         return;
     RememberTypedValue(*preferences, kPagesHistory, typed);
-    WriteUserPreferences(kHistoryFile, *preferences);
+    WriteUserPreferences(kInputHistoryFile, *preferences);
 }
 
 } // namespace kesta::host

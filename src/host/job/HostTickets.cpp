@@ -1,6 +1,7 @@
 #include "host/job/HostTickets.h"
 
 #include "host/job/PageRanges.h"
+#include "platform/printsystem/PrintSystemKeys.h"
 
 #include <algorithm>
 
@@ -36,28 +37,28 @@ QString ReadPageRanges(const Ticket& printSettings)
 
 void WriteTickets(const HostSettings& settings, Ticket& printSettings, Ticket& pageFormat)
 {
-    printSettings.set(kHostClient, key::JobName, settings.jobName);
-    SetNumber(printSettings, key::Copies, settings.copies);
-    printSettings.set(kHostClient, key::LayoutNUp, settings.pagesPerSheet > 1);
+    printSettings.set(kHostClient, key::PMJobName, settings.jobName);
+    SetNumber(printSettings, key::PMCopies, settings.copies);
+    printSettings.set(kHostClient, key::PMLayoutNUp, settings.pagesPerSheet > 1);
     SetNumber(printSettings, key::PagesPerSheet, settings.pagesPerSheet);
     if (settings.pageRanges.isEmpty())
         printSettings.remove(kHostClient, key::PageRanges);
     else
         printSettings.set(kHostClient, key::PageRanges, settings.pageRanges);
-    SetNumber(pageFormat, key::Orientation, static_cast<SInt32>(settings.orientation));
+    SetNumber(pageFormat, key::PMOrientation, static_cast<SInt32>(settings.orientation));
 }
 
 HostSettings ReadTickets(const Ticket& printSettings, const Ticket& pageFormat)
 {
-    HostSettings settings{.jobName = StringAt(printSettings, key::JobName),
+    HostSettings settings{.jobName = StringAt(printSettings, key::PMJobName),
                           .pageRanges = ReadPageRanges(printSettings)};
-    const SInt32 copies = NumberAt(printSettings, key::Copies).value_or(1);
+    const SInt32 copies = NumberAt(printSettings, key::PMCopies).value_or(1);
     if (copies >= 1 && copies <= kMostCopies)
         settings.copies = copies;
     const SInt32 pages = NumberAt(printSettings, key::PagesPerSheet).value_or(1);
     if (std::ranges::find(kPagesPerSheet, pages) != kPagesPerSheet.end())
         settings.pagesPerSheet = pages;
-    const SInt32 orientation = NumberAt(pageFormat, key::Orientation).value_or(1);
+    const SInt32 orientation = NumberAt(pageFormat, key::PMOrientation).value_or(1);
     if (orientation >= 1 && orientation <= 4)
         settings.orientation = static_cast<Orientation>(orientation);
     return settings;
@@ -68,12 +69,12 @@ void WritePaperRect(const PaperRect& paper, Ticket& pageFormat)
     Array edges;
     for (const double edge : {paper.top, paper.left, paper.bottom, paper.right})
         edges.emplace_back(Number::Float64(edge));
-    pageFormat.set(kHostClient, key::UnadjustedPaperRect, std::move(edges));
+    pageFormat.set(kHostClient, key::PMUnadjustedPaperRect, std::move(edges));
 }
 
 std::optional<PaperRect> ReadPaperRect(const Ticket& pageFormat)
 {
-    const Array* edges = pageFormat.values().array(key::UnadjustedPaperRect);
+    const Array* edges = pageFormat.values().array(key::PMUnadjustedPaperRect);
     if (!edges || edges->size() != 4)
         return std::nullopt;
     std::array<double, 4> read{};
@@ -89,8 +90,8 @@ std::optional<PaperRect> ReadPaperRect(const Ticket& pageFormat)
 
 void WriteInitialDuplexing(SInt32 duplexing, Ticket& printSettings)
 {
-    if (!printSettings.values().find(key::Duplexing))
-        SetNumber(printSettings, key::Duplexing, duplexing);
+    if (!printSettings.values().find(key::PMDuplexing))
+        SetNumber(printSettings, key::PMDuplexing, duplexing);
 }
 
 SInt32 DuplexingOfChoice(QAnyStringView choice)

@@ -9,22 +9,6 @@
 
 namespace kesta::host {
 
-// The print system's own keys, which the dialog writes and the panels read. A released key never changes its meaning.
-inline constexpr char kHostClient[] = "com.kesta.print.host";
-
-namespace key {
-
-inline constexpr char JobName[] = "com.apple.print.JobInfo.PMJobName";                            // string
-inline constexpr char Copies[] = "com.apple.print.PrintSettings.PMCopies";                        // number, from 1
-inline constexpr char LayoutNUp[] = "com.apple.print.PrintSettings.PMLayoutNUp";                  // boolean
-inline constexpr char Duplexing[] = "com.apple.print.PrintSettings.PMDuplexing";                  // number, 1..3
-inline constexpr char PagesPerSheet[] = "com.kesta.print.host.PagesPerSheet";                     // number
-inline constexpr char PageRanges[] = "com.kesta.print.host.PageRanges";                           // "1-4,7"
-inline constexpr char Orientation[] = "com.apple.print.PageFormat.PMOrientation";                 // number, 1..4
-inline constexpr char UnadjustedPaperRect[] = "com.apple.print.PageFormat.PMUnadjustedPaperRect"; // 4 reals
-
-} // namespace key
-
 enum class Orientation : SInt32 { Portrait = 1, Landscape = 2, ReversePortrait = 3, ReverseLandscape = 4 };
 
 inline constexpr SInt32 kMostCopies = 9999;

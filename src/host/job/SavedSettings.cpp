@@ -1,5 +1,6 @@
 #include "host/job/SavedSettings.h"
 
+#include "pde/interface/TicketKeys.h"
 #include "platform/system/SafeFile.h"
 
 namespace kesta::host {

@@ -2,18 +2,9 @@
 
 #include "platform/printsystem/JobSettings.h"
 
-#include <array>
-
 namespace kesta::host {
 
-// What a job needs on its way to the printer and nobody may find in a file afterwards: the passcode of a secure print
-// job and the credit-card code of a fax call.
-inline constexpr auto kJobSecrets = std::to_array<NestedEntry>({
-    {"com.kesta.print.JobType", "SecurePrintPassword"},
-    {"com.kesta.print.FaxOptions", "CreditCard"},
-});
-
-// The job settings as a file that the user keeps: all of them but the secrets.
+// The job settings as a file that the user keeps: all of them but kJobSecrets.
 QByteArray WriteSavedSettings(const JobTickets& tickets);
 
 // The file's settings replace everything in the tickets; nothing on success. Otherwise one line that names the file and

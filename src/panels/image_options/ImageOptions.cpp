@@ -10,8 +10,6 @@ using namespace Qt::StringLiterals;
 namespace kesta::image_options {
 namespace {
 
-constexpr char kInvertClient[] = "X";
-
 // By quality, from 1.
 constexpr auto kQualityPictures = std::to_array<const char*>({
     "ImageOptions_ImgQual_TonerSaver.gif",
@@ -46,7 +44,7 @@ void WriteInvertImage(ImageOptions& options, const InvertControls& controls, Tic
 {
     options.invert.negativeImage |= controls.negative;
     options.invert.mirrorImage |= controls.mirror;
-    TicketWriter(settings, kInvertClient)
+    TicketWriter(settings, kPlaceholderClient)
         .set(key::InvertImageOptions, InvertImageCreateTicketFromOptions(options.invert));
 }
 

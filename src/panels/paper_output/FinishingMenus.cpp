@@ -1,63 +1,52 @@
 #include "panels/paper_output/FinishingMenus.h"
 
-#include "panels/paper_output/PaperOutputOptions.h"
 #include "platform/plugins/Bundle.h"
+#include "printer/FinishingKinds.h"
 #include "printer/InstallableOptions.h"
 
 #include <algorithm>
-#include <array>
-#include <span>
 
 namespace kesta::paper_output {
 namespace {
 
-struct FinishingRow {
-    const char* feature; // offered only where this is installed
-    const char* key;     // null: the feature's own name
-    SInt32 value;
-    FourCharCode command;
-};
-using FinishingRows = std::span<const FinishingRow>;
+constexpr char kNoneInPopup[] = "None";
 
-constexpr auto kStaples = std::to_array<FinishingRow>({
-    {"SingleStapleKey", nullptr, kSingleStaple, kStapleOnce},
-    {"DualStapleKey", nullptr, kDualStaple, kStapleTwice},
-    {"MultipleStapleKey", nullptr, kMultipleStaple, kStapleFourTimes},
-});
-// A unit that makes whatever holes it can takes the place of all others.
-constexpr auto kAnyHoles = std::to_array<FinishingRow>({
-    {"GenericPunchKey", nullptr, kPunchAny, kHoles},
-});
-constexpr auto kCountedHoles = std::to_array<FinishingRow>({
-    {"DualPunchKey", nullptr, kPunchTwo, kTwoHoles},
-    {"TriplePunchKey", nullptr, kPunchThree, kThreeHoles},
-    {"QuadruplePunchKey", nullptr, kPunchFour, kFourHoles},
-});
-constexpr auto kFoldRows = std::to_array<FinishingRow>({
-    {"CFoldKey", "FoldCFold", kFoldC, kCFold},
-    {"ZFoldKey", "FoldZFold", kFoldZ, kZFold},
-    {"ZFoldHalfSheetKey", "Z Fold Half Sheet", kFoldZHalfSheet, kHalfSheetZFold},
-});
-static_assert(kStaples.size() == 3 && kCountedHoles.size() == 3 && kFoldRows.size() == 3);
-
-bool IsInstalled(const FinishingRow& row)
+bool IsInstalled(const FinishingKind& kind)
 {
-    return getInstalledFeature(row.feature);
+    return kind.feature && getInstalledFeature(kind.feature);
 }
 
-bool AnyInstalled(FinishingRows rows)
+bool AnyInstalled(Finishing finishing)
 {
-    return std::ranges::any_of(rows, IsInstalled);
+    return std::ranges::any_of(KindsOf(finishing), IsInstalled);
 }
 
-FinishingRows Holes()
+bool IsOffered(Finishing finishing, const FinishingKind& kind)
 {
-    return AnyInstalled(kAnyHoles) ? FinishingRows(kAnyHoles) : FinishingRows(kCountedHoles);
+    if (!kind.feature)
+        return kind.command != kNoCommand;
+    // A unit that makes whatever holes it can takes the place of all others.
+    const FinishingKind* anyHoles = FindFinishing(Finishing::Punch, kPunchAny);
+    const bool isHidden = finishing == Finishing::Punch && &kind != anyHoles && IsInstalled(*anyHoles);
+    return IsInstalled(kind) && !isHidden;
 }
 
-void AddItem(Menu& menu, const Bundle& bundle, const char* key, SInt32 value, FourCharCode command)
+// Staples and holes are called what the PPD's accessory is, folds by a text of their own.
+QString Title(const Bundle& bundle, Finishing finishing, const FinishingKind& kind)
 {
-    menu.items.push_back({.title = LocalizedString(bundle, key), .command = command, .value = value});
+    if (finishing == Finishing::Fold || !kind.feature)
+        return LocalizedString(bundle, kind.text);
+    return CopyLocalizedStringForInstalledFeatureFromPlugin(kind.feature, bundle)
+        .value_or(QString::fromLatin1(kStringNotFound));
+}
+
+void AddKinds(Menu& menu, const Bundle& bundle, Finishing finishing)
+{
+    for (const FinishingKind& kind : KindsOf(finishing)) {
+        if (IsOffered(finishing, kind))
+            menu.items.push_back(
+                {.title = Title(bundle, finishing, kind), .command = kind.command, .value = kind.value});
+    }
 }
 
 void AddSeparator(Menu& menu)
@@ -65,75 +54,47 @@ void AddSeparator(Menu& menu)
     menu.items.push_back({.separator = true});
 }
 
-void AddInstalled(Menu& menu, const Bundle& bundle, FinishingRows rows)
+Menu PopupMenu(const Bundle& bundle, Finishing finishing)
 {
-    for (const FinishingRow& row : rows) {
-        if (!IsInstalled(row))
-            continue;
-        const QString title = row.key ? LocalizedString(bundle, row.key)
-                                      : CopyLocalizedStringForInstalledFeatureFromPlugin(row.feature, bundle)
-                                            .value_or(QString::fromLatin1(kStringNotFound));
-        menu.items.push_back({.title = title, .command = row.command, .value = row.value});
-    }
-}
-
-void AddStaples(Menu& menu, const Bundle& bundle, const char* noneKey)
-{
-    AddItem(menu, bundle, noneKey, kNone, kNoStaple);
-    AddInstalled(menu, bundle, kStaples);
-}
-
-void AddHoles(Menu& menu, const Bundle& bundle, const char* noneKey)
-{
-    if (!AnyInstalled(Holes()))
-        return;
-    AddItem(menu, bundle, noneKey, kNone, kNoHoles);
-    AddInstalled(menu, bundle, Holes());
-}
-
-void AddFolds(Menu& menu, const Bundle& bundle)
-{
-    if (!AnyInstalled(kFoldRows))
-        return;
-    AddSeparator(menu);
-    AddItem(menu, bundle, "No Fold", kNone, kNoFold);
-    AddItem(menu, bundle, "BiFoldNoStaple", kFoldBi, kSingleFold);
-    AddInstalled(menu, bundle, kFoldRows);
+    Menu menu;
+    AddKinds(menu, bundle, finishing);
+    menu.items.front().title = LocalizedString(bundle, kNoneInPopup);
+    return menu;
 }
 
 } // namespace
 
 FinishingAccessories GetFinishingAccessories()
 {
-    return {.hasStapler = AnyInstalled(kStaples),
-            .hasPunch = AnyInstalled(Holes()),
+    return {.hasStapler = AnyInstalled(Finishing::Staple),
+            .hasPunch = AnyInstalled(Finishing::Punch),
             .hasFolder = getInstalledFeature("BookletFoldKey")};
 }
 
 Menu FinishingMenu(const Bundle& bundle)
 {
     Menu menu;
-    AddStaples(menu, bundle, "No Staple Value");
+    AddKinds(menu, bundle, Finishing::Staple);
     AddSeparator(menu);
-    AddHoles(menu, bundle, "NoHolePunch");
-    AddFolds(menu, bundle);
+    if (AnyInstalled(Finishing::Punch))
+        AddKinds(menu, bundle, Finishing::Punch);
+    if (AnyInstalled(Finishing::Fold)) {
+        AddSeparator(menu);
+        AddKinds(menu, bundle, Finishing::Fold);
+    }
     AddSeparator(menu);
-    AddItem(menu, bundle, "Booklet Creation...", 0, kBookletCreation);
+    menu.items.push_back({.title = LocalizedString(bundle, "Booklet Creation..."), .command = kBookletCreation});
     return menu;
 }
 
 Menu StapleMenu(const Bundle& bundle)
 {
-    Menu menu;
-    AddStaples(menu, bundle, "None");
-    return menu;
+    return PopupMenu(bundle, Finishing::Staple);
 }
 
 Menu PunchMenu(const Bundle& bundle)
 {
-    Menu menu;
-    AddHoles(menu, bundle, "None");
-    return menu;
+    return AnyInstalled(Finishing::Punch) ? PopupMenu(bundle, Finishing::Punch) : Menu();
 }
 
 } // namespace kesta::paper_output

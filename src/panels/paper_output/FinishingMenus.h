@@ -8,21 +8,7 @@ struct Bundle;
 
 namespace kesta::paper_output {
 
-// The commands of the finishing items.
-inline constexpr FourCharCode kNoStaple = "Stp0"_code;
-inline constexpr FourCharCode kStapleOnce = "Stp1"_code;
-inline constexpr FourCharCode kStapleTwice = "Stp2"_code;
-inline constexpr FourCharCode kStapleFourTimes = "Stp4"_code;
-inline constexpr FourCharCode kNoHoles = "Hpn0"_code;
-inline constexpr FourCharCode kHoles = "HPun"_code;
-inline constexpr FourCharCode kTwoHoles = "Hpn2"_code;
-inline constexpr FourCharCode kThreeHoles = "Hpn3"_code;
-inline constexpr FourCharCode kFourHoles = "Hpn4"_code;
-inline constexpr FourCharCode kNoFold = "Fld0"_code;
-inline constexpr FourCharCode kSingleFold = "Bfld"_code;
-inline constexpr FourCharCode kCFold = "Cfld"_code;
-inline constexpr FourCharCode kZFold = "Zfld"_code;
-inline constexpr FourCharCode kHalfSheetZFold = "Zfol"_code;
+// Commands of the finishing menu that are no kind of finishing (printer/FinishingKinds.h).
 inline constexpr FourCharCode kBookletCreation = "Bkcr"_code;
 inline constexpr FourCharCode kCoilPunch = "Coil"_code;   // in no menu of this product
 inline constexpr FourCharCode kPadPrinting = "PADS"_code; // in no menu of this product

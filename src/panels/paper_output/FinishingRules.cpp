@@ -1,6 +1,7 @@
 #include "panels/paper_output/FinishingRules.h"
 
 #include "pde/interface/TicketKeys.h"
+#include "printer/FinishingKinds.h"
 #include "printer/InstallableOptions.h"
 
 #include <algorithm>
@@ -9,124 +10,64 @@
 namespace kesta::paper_output {
 namespace {
 
-constexpr SInt32 kPunching = 32;        // of punchState
 constexpr SInt32 kDefaultWeight = 80;   // grams a square metre
 constexpr SInt32 kLeastCoilWeight = 80; // for coil punching
 constexpr SInt32 kTooHeavyForCoil = 217;
 
-void ClearStaples(PaperOutputOptions& options)
+struct CommandedFinishing {
+    Finishing finishing;
+    const FinishingKind* kind; // null for a command that is none of finishing
+};
+
+CommandedFinishing FindCommanded(FourCharCode command)
 {
-    options.singleStaple = options.dualStaple = options.multipleStaple = kNone;
+    for (const Finishing finishing : kAllFinishing) {
+        const FinishingKinds kinds = KindsOf(finishing);
+        const auto kind = std::ranges::find(kinds, command, &FinishingKind::command);
+        if (command != kNoCommand && kind != kinds.end())
+            return {finishing, &*kind};
+    }
+    return {};
 }
 
-void ClearPunch(PaperOutputOptions& options)
+auto& FieldOf(auto& options, Finishing finishing)
 {
-    options.punchState = 1;
-    options.punch = kNone;
+    switch (finishing) {
+    case Finishing::Staple:
+        return options.staple;
+    case Finishing::Punch:
+        return options.punch;
+    case Finishing::Fold:
+        break;
+    }
+    return options.booklet.fold;
 }
 
 // Any other finishing ends a booklet fold, and while booklet layout stays on it holds two-sided at long edge.
 void LeaveBooklet(PaperOutputOptions& options)
 {
-    if (options.bookletLayout == kBookletOn)
+    if (options.booklet.isOn())
         options.duplex = kTwoSidedLongEdge;
     if (options.finishingOption == kBookletFoldFinishing) {
         options.finishingOption = kNoFinishing;
-        options.fold = kNone;
+        options.booklet.fold = kNotFinished;
     }
 }
 
-void Staple(PaperOutputOptions& options, SInt32 finishing, SInt32 PaperOutputOptions::*kind, SInt32 staple)
+bool HasFourStaples(const PaperOutputOptions& options)
 {
-    ClearStaples(options);
-    options.finishingOption = finishing;
-    options.*kind = staple;
-    options.fold = kNone;
+    return FindFinishing(Finishing::Staple, options.staple) == FindFinishing(Finishing::Staple, kMultipleStaple);
 }
 
-void Punch(PaperOutputOptions& options, SInt32 punch)
+// One or two staples go with holes; four of them and a fold go alone.
+void EndWhatGoesNotWith(Finishing finishing, PaperOutputOptions& options)
 {
-    options.finishingOption = kPunchFinishing;
-    options.punchState = kPunching;
-    options.fold = kNone;
-    options.multipleStaple = kNone; // one or two staples go with holes
-    options.punch = punch;
-}
-
-void Fold(PaperOutputOptions& options, SInt32 fold)
-{
-    options.finishingOption = kFoldFinishing;
-    ClearStaples(options);
-    ClearPunch(options);
-    options.fold = fold;
-}
-
-// False for a command that is none of finishing.
-bool Finish(PaperOutputOptions& options, FourCharCode command, SInt32 value)
-{
-    switch (command) {
-    case kNoStaple:
-        ClearStaples(options);
-        return true;
-    case kStapleOnce:
-        Staple(options, kSingleStapleFinishing, &PaperOutputOptions::singleStaple, value);
-        return true;
-    case kStapleTwice:
-        Staple(options, kDualStapleFinishing, &PaperOutputOptions::dualStaple, value);
-        return true;
-    case kStapleFourTimes:
-        Staple(options, kMultipleStapleFinishing, &PaperOutputOptions::multipleStaple, kMultipleStaple);
-        ClearPunch(options);
-        return true;
-    case kHoles:
-    case kTwoHoles:
-    case kThreeHoles:
-    case kFourHoles:
-        Punch(options, value);
-        return true;
-    case kNoHoles:
-        ClearPunch(options);
-        return true;
-    case kSingleFold:
-    case kCFold:
-    case kZFold:
-    case kHalfSheetZFold:
-        Fold(options, value);
-        return true;
-    case kNoFold:
-        options.fold = value;
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool IsMarked(const MenuItem& item, const PaperOutputOptions& options)
-{
-    switch (item.command) {
-    case kNoStaple:
-        return ChosenStaple(options) == kNone;
-    case kStapleOnce:
-        return item.value == options.singleStaple;
-    case kStapleTwice:
-        return item.value == options.dualStaple;
-    case kStapleFourTimes:
-        return item.value == options.multipleStaple;
-    case kNoHoles:
-    case kHoles:
-    case kTwoHoles:
-    case kThreeHoles:
-    case kFourHoles:
-        return item.value == options.punch;
-    case kNoFold:
-    case kSingleFold:
-    case kCFold:
-    case kZFold:
-    case kHalfSheetZFold:
-        return item.value == options.fold;
-    default:
-        return false;
-    }
+    if (finishing != Finishing::Fold)
+        options.booklet.fold = kNotFinished;
+    if (finishing == Finishing::Fold || (finishing == Finishing::Punch && HasFourStaples(options)))
+        options.staple = kNotFinished;
+    if (finishing == Finishing::Fold || (finishing == Finishing::Staple && HasFourStaples(options)))
+        options.punch = kNotFinished;
 }
 
 void EnableItem(Menu& menu, FourCharCode command, bool enabled)
@@ -169,67 +110,40 @@ bool ApplySquareFoldRule(PaperOutputOptions& options)
 
 } // namespace
 
-bool JobTypeNeedsSetup(SInt32 jobType)
-{
-    constexpr std::array kTypesWithSetup{3, 4, 5, 6, 7, 9};
-    return std::ranges::find(kTypesWithSetup, jobType) != kTypesWithSetup.end();
-}
-
 void ChooseStaple(PaperOutputOptions& options, SInt32 staple)
 {
-    ClearStaples(options);
-    switch (staple) {
-    case kNone:
-        break;
-    case 5:
-    case 6:
-        options.singleStaple = staple;
-        break;
-    case 10:
-    case 12:
-        options.dualStaple = staple;
-        break;
-    case kMultipleStaple:
-        options.multipleStaple = staple;
-        break;
-    default:
-        options.staplesChosen = false;
-    }
-}
-
-SInt32 ChosenStaple(const PaperOutputOptions& options)
-{
-    if (options.singleStaple != kNone)
-        return options.singleStaple;
-    return options.dualStaple != kNone ? options.dualStaple : options.multipleStaple;
+    options.staple = FindFinishing(Finishing::Staple, staple) ? staple : kNotFinished;
 }
 
 bool IsBooklet(const PaperOutputOptions& options)
 {
-    return options.finishingOption == kBookletFoldFinishing || options.bookletLayout == kBookletOn;
+    return options.finishingOption == kBookletFoldFinishing || options.booklet.isOn();
 }
 
-bool ApplyFinishingCommand(PaperOutputOptions& options, FourCharCode command, SInt32 itemValue)
+bool ApplyFinishingCommand(PaperOutputOptions& options, FourCharCode command)
 {
-    PaperOutputOptions changed = options;
-    LeaveBooklet(changed);
-    if (!Finish(changed, command, itemValue))
+    const auto [finishing, kind] = FindCommanded(command);
+    if (!kind)
         return false;
-    changed.staplesChosen = ChosenStaple(changed) != kNone;
-    options = changed;
+    LeaveBooklet(options);
+    FieldOf(options, finishing) = kind->value;
+    if (kind->value == kNotFinished)
+        return true;
+    options.finishingOption = kind->option;
+    EndWhatGoesNotWith(finishing, options);
     return true;
 }
 
 void ApplyBooklet(PaperOutputOptions& options, std::optional<SInt32> ticketDuplex)
 {
-    if (options.bookletLayout != kBookletOn)
+    if (!options.booklet.isOn())
         options.duplex = options.duplexSaved;
     options.duplexSaved = ticketDuplex.value_or(options.duplexSaved);
 
-    if (options.fold == kFoldBi || options.fold == kFoldBiStaple) {
+    const FinishingKind* fold = FindFinishing(Finishing::Fold, options.booklet.fold);
+    if (fold && fold->booklet.picture) {
         options.finishingOption = kBookletFoldFinishing;
-        ClearStaples(options);
-        ClearPunch(options);
+        options.staple = options.punch = kNotFinished;
         options.bindValue = 1;
     } else if (options.finishingOption == kBookletFoldFinishing) {
         options.finishingOption = kNoFinishing;
@@ -238,7 +152,6 @@ void ApplyBooklet(PaperOutputOptions& options, std::optional<SInt32> ticketDuple
         options.offset = 1;
         options.offsetSubset = options.offsetPagesPerSubset = 0;
     }
-    options.staplesChosen = ChosenStaple(options) != kNone;
 }
 
 bool ApplyPaperRules(PaperOutputOptions& options, Menu& finishing)
@@ -258,15 +171,19 @@ void EnableFinishingItems(Menu& menu, const Ticket& settings)
     const std::optional<bool> booklet = settings.values().boolean(key::BookletLayout);
     if (!booklet)
         return; // the items stay as they are
-    for (const FourCharCode command : {kStapleOnce, kStapleTwice, kStapleFourTimes})
-        EnableItem(menu, command, !*booklet);
+    for (const FinishingKind& kind : kStaples) {
+        if (kind.value != kNotFinished)
+            EnableItem(menu, kind.command, !*booklet);
+    }
 }
 
 void MarkFinishingMenu(Menu& menu, const PaperOutputOptions& options)
 {
     const bool isBooklet = IsBooklet(options);
-    for (MenuItem& item : menu.items)
-        item.checked = isBooklet ? item.command == kBookletCreation : IsMarked(item, options);
+    for (MenuItem& item : menu.items) {
+        const auto [finishing, kind] = FindCommanded(item.command);
+        item.checked = isBooklet ? item.command == kBookletCreation : kind && item.value == FieldOf(options, finishing);
+    }
 }
 
 } // namespace kesta::paper_output

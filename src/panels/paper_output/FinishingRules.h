@@ -5,21 +5,14 @@
 
 namespace kesta::paper_output {
 
-// Whether the job type has a setup: saved job, fax, secure and delayed print, and the two types that only a ticket can
-// bring.
-bool JobTypeNeedsSetup(SInt32 jobType);
-
-// What the user picked in the staple pop-up. A value that no item has leaves the job without staples.
+// What the user picked in the staple pop-up. A value that stands for no staples leaves the job without.
 void ChooseStaple(PaperOutputOptions& options, SInt32 staple);
-
-// The kind of staple that is chosen, or kNone.
-SInt32 ChosenStaple(const PaperOutputOptions& options);
 
 // Whether finishing is a booklet's, which leaves no room for another.
 bool IsBooklet(const PaperOutputOptions& options);
 
 // A command of the staple, punch and fold items. False, and nothing changed, for any other.
-bool ApplyFinishingCommand(PaperOutputOptions& options, FourCharCode command, SInt32 itemValue);
+bool ApplyFinishingCommand(PaperOutputOptions& options, FourCharCode command);
 
 // What follows once the user has chosen fold and booklet anew. The ticket's own two-sided choice, when it has one, is
 // what a later end of the booklet brings back.

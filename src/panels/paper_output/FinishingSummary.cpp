@@ -4,65 +4,23 @@
 #include "panels/special_pages/paper/SeparatorsDialog.h"
 #include "panels/special_pages/paper/StockSummary.h"
 #include "platform/plugins/Bundle.h"
+#include "printer/FinishingKinds.h"
 
 using namespace Qt::StringLiterals;
 
 namespace kesta::paper_output {
 namespace {
 
-const char* BookletFoldKey(SInt32 fold)
+const char* TextOf(Finishing finishing, SInt32 value)
 {
-    switch (fold) {
-    case kFoldBi:
-        return "Booklet Fold";
-    case kFoldBiStaple:
-        return "Booklet FoldStaple";
-    default:
-        return "No Fold";
-    }
+    const FinishingKind* kind = FindFinishing(finishing, value);
+    return kind ? kind->text : KindsOf(finishing).front().text;
 }
 
-const char* StapleKey(const PaperOutputOptions& options)
+const char* BookletText(SInt32 fold)
 {
-    if (options.singleStaple != kNone)
-        return "1 Staple";
-    if (options.dualStaple != kNone)
-        return "2 Staples";
-    if (options.multipleStaple != kNone)
-        return "4 Staples";
-    return "No Staple Value";
-}
-
-const char* PunchKey(SInt32 punch)
-{
-    switch (punch) {
-    case kPunchAny:
-        return "HolePunch";
-    case kPunchTwo:
-        return "2 Hole Punch";
-    case kPunchThree:
-        return "3 Hole Punch";
-    case kPunchFour:
-        return "4 Hole Punch";
-    default:
-        return "NoHolePunch";
-    }
-}
-
-const char* FoldKey(SInt32 fold)
-{
-    switch (fold) {
-    case kFoldC:
-        return "FoldCFold";
-    case kFoldZ:
-        return "FoldZFold";
-    case kFoldZHalfSheet:
-        return "Z Fold Half Sheet";
-    case kFoldBi:
-        return "BiFoldNoStaple";
-    default:
-        return "No Fold";
-    }
+    const FinishingKind* kind = FindFinishing(Finishing::Fold, fold);
+    return kind && kind->booklet.text ? kind->booklet.text : TextOf(Finishing::Fold, kNotFinished);
 }
 
 } // namespace
@@ -74,17 +32,17 @@ QString CreateFinishingString(const Bundle& bundle, const PaperOutputOptions& op
     const auto addLine = [&](const char* key) { summary += u"- "_s + LocalizedString(bundle, key) + u'\n'; };
 
     if (IsBooklet(options)) {
-        addLine(BookletFoldKey(options.fold));
-        if (options.bookletLayout == kBookletOn)
+        addLine(BookletText(options.booklet.fold));
+        if (options.booklet.isOn())
             addLine("Booklet Layout");
         return summary;
     }
     if (accessories.hasStapler)
-        addLine(StapleKey(options));
+        addLine(TextOf(Finishing::Staple, options.staple));
     if (accessories.hasPunch)
-        addLine(PunchKey(options.punch));
+        addLine(TextOf(Finishing::Punch, options.punch));
     if (accessories.hasFolder)
-        addLine(FoldKey(options.fold));
+        addLine(TextOf(Finishing::Fold, options.booklet.fold));
     return summary;
 }
 

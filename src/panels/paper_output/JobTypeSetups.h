@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panels/paper_output/JobTypeDetails.h"
+#include "model/JobType.h"
 #include "toolkit/controls/ControlEvent.h"
 
 namespace kesta {
@@ -18,7 +18,7 @@ OSStatus RunModalDelayedPrintSetup(const Bundle& bundle, SInt64& time);
 
 // Asks for name, folder, disposition and protection of a saved job; OK remembers typed names and folders, never the
 // passcode.
-OSStatus RunModalSavedJobDialog(const Bundle& bundle, JobTypeDetails& details);
+OSStatus RunModalSavedJobDialog(const Bundle& bundle, JobType& job);
 
 namespace jobtypes {
 

@@ -24,23 +24,23 @@ void FollowPaper(_PaperOutputContext& panel)
 
 void ChooseJobType(_PaperOutputContext& panel, SInt32 jobType)
 {
-    panel.options.jobType = jobType;
+    panel.options.jobType.number = jobType;
     if (EnableDisableJobTypeSetupButton(panel))
         ClickControl(FindHere(panel, kJobTypeSetupButton));
 }
 
 void SetUpJobType(_PaperOutputContext& panel)
 {
-    JobTypeDetails& details = panel.options.jobTypeDetails;
-    switch (panel.options.jobType) {
+    JobType& job = panel.options.jobType;
+    switch (job.number) {
     case kJobTypeSavedJob:
-        RunModalSavedJobDialog(*panel.bundle, details);
+        RunModalSavedJobDialog(*panel.bundle, job);
         break;
     case kJobTypeSecurePrint:
-        RunModalSecurePrintSetup(*panel.bundle, details.securePasscode);
+        RunModalSecurePrintSetup(*panel.bundle, job.securePasscode);
         break;
     case kJobTypeDelayedPrint:
-        RunModalDelayedPrintSetup(*panel.bundle, details.delayedPrintTime);
+        RunModalDelayedPrintSetup(*panel.bundle, job.delayedPrintTime);
         break;
     }
 }
@@ -48,25 +48,11 @@ void SetUpJobType(_PaperOutputContext& panel)
 void CreateBooklet(_PaperOutputContext& panel)
 {
     PaperOutputOptions& options = panel.options;
-    _BookletCreationParams booklet{.bundle = panel.bundle,
-                                   .fold = options.fold,
-                                   .layout = options.bookletLayout,
-                                   .drawOutlines = options.bookletDrawOutlines,
-                                   .newPaperSize = options.bookletSize,
-                                   .gutter = options.bookletGutter,
-                                   .creep = options.bookletCreep};
-    if (RunModalBookletCreationDialog(booklet) != noErr)
+    if (RunModalBookletCreationDialog(*panel.bundle, options.booklet) != noErr)
         return;
-    options.fold = booklet.fold;
-    options.bookletLayout = booklet.layout;
-    options.bookletDrawOutlines = booklet.drawOutlines;
-    options.bookletSize = booklet.newPaperSize;
-    options.bookletGutter = booklet.gutter;
-    options.bookletCreep = booklet.creep;
-
     std::optional<SInt32> ticketDuplex;
     if (Ticket* settings = GetTicketFromSession(*panel.session, kPMPrintSettingsTicket).ticket) {
-        settings->set(kPrintingManagerClient, key::BookletLayout, options.bookletLayout == kBookletOn);
+        settings->set(kPrintingManagerClient, key::BookletLayout, options.booklet.isOn());
         ticketDuplex = ReadPPDDuplex(*settings, panel.ppd);
     }
     ApplyBooklet(options, ticketDuplex);
@@ -119,8 +105,7 @@ EventResult pdeShellPaperOutputEventHandler(_PaperOutputContext& panel, const Co
         CreateBooklet(panel);
     else if (chosen.command == kSeparatorsCommand)
         ChooseSeparators(panel);
-    else if (ApplyFinishingCommand(panel.options, chosen.command, chosen.ticketValue) &&
-             panel.options.bookletLayout == kBookletOn)
+    else if (ApplyFinishingCommand(panel.options, chosen.command) && panel.options.booklet.isOn())
         ShowTwoSided(panel, kTwoSidedLongEdge);
     ShowPaper(panel); // the paper's own commands have come this way, too
     ShowFinishing(panel);

@@ -10,25 +10,9 @@
 namespace kesta::paper_output {
 namespace {
 
-constexpr SInt32 kHighestJobType = 9;
-
-// The option's only choice without a row in its map: the driver wants it for a single staple on a landscape page.
-constexpr char kLandscapeStaple[] = "SingleLandscape";
-
 std::optional<SInt32> OnlyIf(bool condition, std::optional<SInt32> value)
 {
     return condition ? value : std::nullopt;
-}
-
-std::optional<CFIndex> ReadIndex(const Dictionary& dictionary, const char* key)
-{
-    return CFDictionaryGetNumber<SInt64>(dictionary, key);
-}
-
-std::optional<QString> ReadString(const Dictionary& dictionary, const char* key)
-{
-    const QString* text = dictionary.string(key);
-    return text ? std::optional(*text) : std::nullopt;
 }
 
 void ReadStock(Stock& stock, const Ticket& settings, ppd_file_t* ppd)
@@ -48,60 +32,12 @@ SInt32 ReadPrintQuality(const Ticket& settings)
     return isOffered ? *quality : kStandardQuality;
 }
 
-Dictionary CopyJobTypeDictionary(const Ticket& settings)
-{
-    if (const Dictionary* stored = settings.values().dictionary(key::JobType))
-        return *stored;
-    return {{"MediaType", Number::Index(1)},
-            {"JobType", Number::SInt32(kJobTypeNormal)},
-            {"UseJobName", true},
-            {"SavedJobName", ""}};
-}
-
-void ReadJobType(PaperOutputOptions& options, const Ticket& settings)
-{
-    const Dictionary job = CopyJobTypeDictionary(settings);
-    const SInt32 type = CFDictionaryGetNumber<SInt32>(job, "JobType").value_or(kJobTypeNormal);
-
-    options.jobType = type >= kJobTypeNormal && type <= kHighestJobType ? type : kJobTypeNormal;
-    JobTypeDetails& details = options.jobTypeDetails;
-    details.mediaTypeInJob = ReadIndex(job, "MediaType").value_or(1);
-    details.useJobName = job.boolean("UseJobName").value_or(true);
-    details.savedJobName = ReadString(job, "SavedJobName");
-    details.savedJobLocation = ReadString(job, "SavedJobLocation");
-    details.useDefaultLocation = !details.savedJobLocation;
-    details.securePasscode = ReadString(job, "SecurePrintPassword");
-    details.hasPasscode = details.securePasscode.has_value();
-    details.delayedPrintTime = ReadIndex(job, "DelayedPrintTime").value_or(details.delayedPrintTime);
-    details.saveDisposition = ReadIndex(job, "SaveDisposition").value_or(1);
-    options.jobTypeDict = job;
-}
-
 void ReadFax(PaperOutputOptions& options, const Ticket& settings)
 {
     const Dictionary* faxOptions = settings.values().dictionary(key::FaxOptions);
     const Array* recipients = settings.values().array(key::FaxRecipientList);
     options.faxOptions = faxOptions ? std::optional(*faxOptions) : std::nullopt;
     options.recipientList = recipients ? std::optional<FaxRecipientList>(std::in_place, *recipients) : std::nullopt;
-}
-
-std::optional<SInt32> ReadForcedSize(const Dictionary& settings)
-{
-    const Dictionary* stock = settings.dictionary(key::JobLevelStock);
-    const bool isForced = settings.boolean(key::BookletForceNewSize).value_or(false);
-    return isForced && stock ? CFDictionaryGetNumber<SInt32>(*stock, "Size") : std::nullopt;
-}
-
-void ReadBooklet(PaperOutputOptions& options, const Ticket& settings)
-{
-    options.bookletLayout = settings.values().boolean(key::BookletLayout).value_or(false) ? kBookletOn : kBookletOff;
-    if (options.bookletLayout == kBookletOff)
-        return;
-    options.bookletDrawOutlines =
-        ReadTicketValue(settings, key::BookletDrawOutlines).value_or(options.bookletDrawOutlines);
-    options.bookletSize = ReadForcedSize(settings.values()).value_or(kUnset);
-    options.bookletGutter = ReadTicketValue(settings, key::Gutter).value_or(24);
-    options.bookletCreep = ReadTicketValue(settings, key::Creep).value_or(0);
 }
 
 std::optional<SInt32> ReadDuplexKey(const Ticket& settings, const char* key)
@@ -119,20 +55,17 @@ SInt32 ReadDuplex(const Ticket& settings, ppd_file_t* ppd, SInt32 before)
     return ReadPPDDuplex(settings, ppd).value_or(before);
 }
 
+// The driver wants a choice of its own for some staples on a landscape page, which has no ticket value.
 SInt32 ReadStaple(const Ticket& settings, ppd_file_t* ppd)
 {
-    if (PPDCopyCurrentChoice(settings, "StapleLocation") == QLatin1StringView(kLandscapeStaple))
-        return kSingleStaple;
-    return PPDGetTicketValueForChoiceOrDefault(ppd, settings, "StapleLocation").value_or(kNone);
-}
-
-void ReadStaples(PaperOutputOptions& options, const Ticket& settings, ppd_file_t* ppd)
-{
-    const SInt32 staple = ReadStaple(settings, ppd);
-    const auto among = [staple](SInt32 first, SInt32 last) { return staple >= first && staple <= last; };
-    options.singleStaple = among(5, 8) ? staple : kNone;
-    options.dualStaple = among(10, 13) ? staple : kNone;
-    options.multipleStaple = among(54, 57) ? staple : kNone;
+    const std::optional<QString> choice = PPDCopyCurrentChoice(settings, OptionOf(Finishing::Staple));
+    for (const FinishingKind& kind : kStaples) {
+        if (kind.choiceOnLandscape && choice == QLatin1StringView(kind.choiceOnLandscape))
+            return kind.value;
+    }
+    const std::optional<SInt32> staple =
+        PPDGetTicketValueForChoiceOrDefault(ppd, settings, OptionOf(Finishing::Staple));
+    return staple && FindFinishing(Finishing::Staple, *staple) ? *staple : kNotFinished;
 }
 
 void ReadFinishing(PaperOutputOptions& options, const Ticket& settings, ppd_file_t* ppd)
@@ -143,38 +76,14 @@ void ReadFinishing(PaperOutputOptions& options, const Ticket& settings, ppd_file
     if (options.offsetSubset != 0)
         options.offsetPagesPerSubset = ReadTicketValue(settings, key::FinishingOffsetPagesPerSubset).value_or(1);
     options.slipSheet = ReadTicketValue(settings, key::FinishingSlipSheet).value_or(0);
-    options.fold = PPDGetTicketValueForChoiceOrDefault(ppd, settings, "KSFold").value_or(options.fold);
-    options.punch = PPDGetTicketValueForChoiceOrDefault(ppd, settings, "KSPunch").value_or(options.punch);
-    ReadStaples(options, settings, ppd);
+    SInt32& fold = options.booklet.fold;
+    fold = PPDGetTicketValueForChoiceOrDefault(ppd, settings, OptionOf(Finishing::Fold)).value_or(fold);
+    options.punch =
+        PPDGetTicketValueForChoiceOrDefault(ppd, settings, OptionOf(Finishing::Punch)).value_or(options.punch);
+    options.staple = ReadStaple(settings, ppd);
     options.bindValue = ReadTicketValue(settings, key::FinishingBindValue).value_or(options.bindValue);
-    options.finishingCustom = ReadString(settings.values(), key::FinishingCustom).value_or(QString());
-}
-
-void SetOrRemove(Dictionary& dictionary, const char* key, bool useDefault, const std::optional<QString>& text)
-{
-    if (useDefault)
-        dictionary.remove(key);
-    else if (text)
-        dictionary.set(key, *text);
-}
-
-void WriteJobType(PaperOutputOptions& options, const TicketWriter& settings)
-{
-    const JobTypeDetails& details = options.jobTypeDetails;
-    Dictionary& job = options.jobTypeDict;
-    job.set("MediaType", Number::Index(details.mediaTypeInJob));
-    job.set("UseJobName", details.useJobName);
-    job.set("JobType", Number::SInt32(options.jobType));
-    SetOrRemove(job, "SavedJobName", details.useJobName, details.savedJobName);
-    SetOrRemove(job, "SavedJobLocation", details.useDefaultLocation, details.savedJobLocation);
-    if (details.securePasscode)
-        job.set("SecurePrintPassword", *details.securePasscode);
-    job.set("DelayedPrintTime", Number::SInt64(details.delayedPrintTime));
-    if (options.jobType == kJobTypeSavedJob)
-        job.set("SaveDisposition", Number::Index(details.saveDisposition));
-    else
-        job.remove("SaveDisposition");
-    settings.set(key::JobType, job);
+    const QString* custom = settings.values().string(key::FinishingCustom);
+    options.finishingCustom = custom ? *custom : QString();
 }
 
 void WriteFax(const PaperOutputOptions& options, const TicketWriter& settings)
@@ -185,29 +94,9 @@ void WriteFax(const PaperOutputOptions& options, const TicketWriter& settings)
         settings.set(key::FaxRecipientList, options.recipientList->toTicket());
 }
 
-void WriteBooklet(const PaperOutputOptions& options, const TicketWriter& settings)
-{
-    const bool isOn = options.bookletLayout == kBookletOn;
-    settings.set(key::BookletLayout, isOn);
-    if (!isOn)
-        return;
-    const bool isForced = options.bookletSize != kUnset;
-    Dictionary stock = options.stock.asTicket();
-    if (isForced)
-        stock.set("Size", Number::Index(options.bookletSize));
-    else
-        stock.remove("Size");
-
-    WriteTicketValue(settings, key::BookletDrawOutlines, options.bookletDrawOutlines);
-    settings.set(key::JobLevelStock, std::move(stock));
-    settings.set(key::BookletForceNewSize, isForced);
-    WriteTicketValue(settings, key::Gutter, options.bookletGutter);
-    WriteTicketValue(settings, key::Creep, options.bookletCreep);
-}
-
 void WriteDuplex(PaperOutputOptions& options, const TicketWriter& settings)
 {
-    if (options.bookletLayout == kBookletOn)
+    if (options.booklet.isOn())
         options.duplex = kTwoSidedShortEdge;
     PPDSetChoiceForTicketValue(settings, "Duplex", options.duplex);
     WriteTicketValue(settings, key::FinishingDuplex, options.duplex);
@@ -216,13 +105,11 @@ void WriteDuplex(PaperOutputOptions& options, const TicketWriter& settings)
 
 const char* StapleChoice(const PaperOutputOptions& options)
 {
-    if (options.singleStaple == kSingleStaple && options.orientation == kOrientationLandscape)
-        return kLandscapeStaple;
-    if (options.singleStaple != kNone)
-        return PPDChoiceForTicketValue("StapleLocation", options.singleStaple);
-    if (options.dualStaple != kNone)
-        return PPDChoiceForTicketValue("StapleLocation", options.dualStaple);
-    return PPDChoiceForTicketValue("StapleLocation", options.multipleStaple);
+    const FinishingKind* kind = FindFinishing(Finishing::Staple, options.staple);
+    const bool isLandscape = options.orientation == kOrientationLandscape;
+    if (kind && kind->choiceOnLandscape && isLandscape && options.staple == kind->value)
+        return kind->choiceOnLandscape;
+    return PPDChoiceForTicketValue(OptionOf(Finishing::Staple), options.staple);
 }
 
 void WriteFinishing(const PaperOutputOptions& options, const TicketWriter& settings)
@@ -235,9 +122,9 @@ void WriteFinishing(const PaperOutputOptions& options, const TicketWriter& setti
     if (options.offsetSubset != 0)
         write(key::FinishingOffsetPagesPerSubset, options.offsetPagesPerSubset);
     write(key::FinishingSlipSheet, options.slipSheet);
-    PPDSetChoiceForTicketValue(settings, "KSFold", options.fold);
-    PPDSetChoiceForTicketValue(settings, "KSPunch", options.punch);
-    PPDSetCurrentChoice(settings, "StapleLocation", StapleChoice(options));
+    PPDSetChoiceForTicketValue(settings, OptionOf(Finishing::Fold), options.booklet.fold);
+    PPDSetChoiceForTicketValue(settings, OptionOf(Finishing::Punch), options.punch);
+    PPDSetCurrentChoice(settings, OptionOf(Finishing::Staple), StapleChoice(options));
     write(key::FinishingBindValue, options.bindValue);
     settings.set(key::FinishingCustom, options.finishingCustom);
 }
@@ -255,9 +142,9 @@ void ReadTicket(PaperOutputOptions& options, const Ticket& settings, ppd_file_t*
     options.outputBin = PPDGetTicketValueForChoiceOrDefault(ppd, settings, "OutputBin").value_or(kUnset);
     options.printQuality = ReadPrintQuality(settings);
     SyncSeparatorsFromTicket(&settings, options.separatorCount, options.separatorStock);
-    ReadJobType(options, settings);
+    ReadJobType(options.jobType, settings);
     ReadFax(options, settings);
-    ReadBooklet(options, settings);
+    ReadBooklet(options.booklet, settings);
     options.duplex = ReadDuplex(settings, ppd, options.duplex);
     ReadFinishing(options, settings, ppd);
     if (isSpecialPageConfigured(settings))
@@ -274,10 +161,10 @@ OSStatus WriteTicket(PaperOutputOptions& options, Ticket& ticket, WriteScope sco
     PPDSetChoiceForTicketValue(ticket, "OutputBin", options.outputBin);
     WriteTicketValue(settings, key::FinishingOutputColor, options.printQuality);
     const OSStatus status = SyncSeparatorsToTicket(&ticket, options.separatorCount, options.separatorStock);
-    WriteJobType(options, settings);
+    WriteJobType(options.jobType, settings);
     WriteFax(options, settings);
     if (scope.booklet)
-        WriteBooklet(options, settings);
+        WriteBooklet(options.booklet, settings);
     if (scope.duplex)
         WriteDuplex(options, settings);
     WriteFinishing(options, settings);

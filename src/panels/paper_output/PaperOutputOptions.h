@@ -1,51 +1,21 @@
 #pragma once
 
+#include "model/Booklet.h"
 #include "model/FaxRecipientList.h"
+#include "model/JobType.h"
 #include "model/Stock.h"
-#include "panels/paper_output/JobTypeDetails.h"
+#include "printer/FinishingKinds.h"
 #include "printer/PPDUtilities.h"
 
 namespace kesta::paper_output {
 
 inline constexpr SInt32 kOrientationLandscape = 2;
 
-inline constexpr SInt32 kJobTypeNormal = 1;
-inline constexpr SInt32 kJobTypeSavedJob = 3;
-inline constexpr SInt32 kJobTypeDelayedPrint = 7;
-
 inline constexpr SInt32 kStandardQuality = 201;
 
 inline constexpr SInt32 kOneSided = 1;
 inline constexpr SInt32 kTwoSidedLongEdge = 2;
 inline constexpr SInt32 kTwoSidedShortEdge = 3;
-
-inline constexpr SInt32 kBookletOn = 1;
-inline constexpr SInt32 kBookletOff = 2;
-
-// Values of finishingOption.
-inline constexpr SInt32 kNoFinishing = 0;
-inline constexpr SInt32 kSingleStapleFinishing = 4;
-inline constexpr SInt32 kDualStapleFinishing = 9;
-inline constexpr SInt32 kBookletFoldFinishing = 24;
-inline constexpr SInt32 kPunchFinishing = 30;
-inline constexpr SInt32 kFoldFinishing = 40;
-inline constexpr SInt32 kMultipleStapleFinishing = 53;
-inline constexpr SInt32 kCoilPunchFinishing = 58;
-
-// Values of the staple, punch and fold fields.
-inline constexpr SInt32 kNone = 1;
-inline constexpr SInt32 kSingleStaple = 5;
-inline constexpr SInt32 kDualStaple = 10;
-inline constexpr SInt32 kMultipleStaple = 54;
-inline constexpr SInt32 kPunchAny = 2;
-inline constexpr SInt32 kPunchTwo = 3;
-inline constexpr SInt32 kPunchThree = 4;
-inline constexpr SInt32 kPunchFour = 5;
-inline constexpr SInt32 kFoldC = 19;
-inline constexpr SInt32 kFoldZ = 20;
-inline constexpr SInt32 kFoldZHalfSheet = 36;
-inline constexpr SInt32 kFoldBi = 43;
-inline constexpr SInt32 kFoldBiStaple = 53;
 
 // What the panel edits, as ticket values. The initial values are those before the first Sync.
 struct PaperOutputOptions {
@@ -57,30 +27,19 @@ struct PaperOutputOptions {
     SInt32 outputBin = 1;
     SInt32 printQuality = kStandardQuality;
 
-    SInt32 jobType = kJobTypeNormal;
-    Dictionary jobTypeDict = {}; // as read; entries that are nobody's here pass through
-    JobTypeDetails jobTypeDetails = {};
+    JobType jobType = {};
     std::optional<Dictionary> faxOptions = {};
     std::optional<FaxRecipientList> recipientList = {};
 
-    SInt32 bookletLayout = kBookletOff;
-    SInt32 bookletDrawOutlines = 1;
-    SInt32 bookletSize = kUnset; // a forced paper size
-    SInt32 bookletGutter = 24;   // points
-    SInt32 bookletCreep = 0;     // tenths of a point
+    Booklet booklet = {}; // its fold is that of any job
 
     SInt32 duplex = kOneSided;
     SInt32 duplexPopupValue = kOneSided; // the user's last pick, which the pop-up keeps showing
     SInt32 duplexSaved = kOneSided;      // what a booklet took the place of
 
     SInt32 finishingOption = kNoFinishing;
-    SInt32 singleStaple = kNone; // at most one of the three is another value
-    SInt32 dualStaple = kNone;
-    SInt32 multipleStaple = kNone;
-    bool staplesChosen = false;
-    SInt32 punchState = 1; // 32 while punching
-    SInt32 punch = kNone;
-    SInt32 fold = kNone;
+    SInt32 staple = kNotFinished; // of printer/FinishingKinds.h, as the fold of the booklet
+    SInt32 punch = kNotFinished;
     SInt32 bindValue = 0;
     SInt32 offset = 1;
     SInt32 offsetSubset = 0;

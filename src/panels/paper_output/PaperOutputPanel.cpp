@@ -16,10 +16,10 @@ namespace {
 
 JobTypeCheck CheckOf(const _PaperOutputContext& panel)
 {
-    return {.jobType = [&panel] { return panel.options.jobType; },
+    return {.jobType = [&panel] { return panel.options.jobType.number; },
             .hasPasscode =
                 [&panel] {
-                    const std::optional<QString>& passcode = panel.options.jobTypeDetails.securePasscode;
+                    const std::optional<QString>& passcode = panel.options.jobType.securePasscode;
                     return passcode && !passcode->isEmpty();
                 },
             .hasFaxRecipients =
@@ -34,7 +34,7 @@ JobTypeCheck CheckOf(const _PaperOutputContext& panel)
 void TakeJobName(_PaperOutputContext& panel, const Ticket& settings)
 {
     const QString* name = settings.values().string(key::PMJobName);
-    panel.options.jobTypeDetails.savedJobName = name ? *name : LocalizedString(*panel.bundle, "Unknown");
+    panel.options.jobType.savedJobName = name ? *name : LocalizedString(*panel.bundle, "Unknown");
 }
 
 void ReadSettings(_PaperOutputContext& panel, const Ticket& settings)
@@ -102,7 +102,7 @@ OSStatus Open(_PaperOutputContext& panel)
     }
     BuildView(panel);
     panel.wasOpened = true;
-    if (panel.options.bookletLayout == kBookletOn)
+    if (panel.options.booklet.isOn())
         panel.options.duplex = kTwoSidedLongEdge;
     ShowTwoSided(panel, panel.options.duplex);
     ShowOptions(panel);

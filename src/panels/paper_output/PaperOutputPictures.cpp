@@ -1,5 +1,7 @@
 #include "panels/paper_output/PaperOutputPictures.h"
 
+#include "printer/FinishingKinds.h"
+
 #include <algorithm>
 #include <array>
 #include <span>
@@ -33,18 +35,7 @@ constexpr auto kOutputColors = std::to_array<PictureRow>({
     {1, "OutputColor_BlackandWhite.gif"},
     {2, "OutputColor_Color.gif"},
 });
-constexpr auto kFoldPictures = std::to_array<PictureRow>({
-    {kFoldC, "OfficeFinishing_CFold.gif"},
-    {kFoldZ, "OfficeFinishing_ZFold.gif"},
-    {kFoldZHalfSheet, "ProductionFinishing_ZFold_Half_Left.gif"},
-    {kFoldBi, "OfficeFinishing_Bklt_Fold.gif"},
-    {kFoldBiStaple, "OfficeFinishing_BKlt_Fold&Stple.gif"}, // spelled so
-});
-constexpr auto kBookletLayouts = std::to_array<PictureRow>({
-    {kFoldBi, "OfficeFinishing_Bklt_Fold_Layout.gif"},
-    {kFoldBiStaple, "OfficeFinishing_Bklt_Fold&Stpl_Layout.gif"},
-});
-static_assert(kJobTypes.size() == 8 && kSides.size() == 3 && kFoldPictures.size() == 5);
+static_assert(kJobTypes.size() == 8 && kSides.size() == 3);
 
 QString FileFor(std::span<const PictureRow> rows, SInt32 value)
 {
@@ -52,29 +43,11 @@ QString FileFor(std::span<const PictureRow> rows, SInt32 value)
     return row == rows.end() ? QString() : QString::fromLatin1(row->file);
 }
 
-// How the files name staples and holes; empty without any.
-QString StapleWord(const PaperOutputOptions& options)
+// Of staples and holes a word in the files' names, of folds a file; empty without any.
+QString PictureOf(Finishing finishing, SInt32 value)
 {
-    if (options.singleStaple != kNone)
-        return u"1St"_s;
-    if (options.dualStaple != kNone)
-        return u"2St"_s;
-    return options.multipleStaple != kNone ? u"4St"_s : QString();
-}
-
-QString PunchWord(SInt32 punch)
-{
-    switch (punch) {
-    case kPunchTwo:
-        return u"2Hp"_s;
-    case kPunchAny:
-    case kPunchThree:
-        return u"3Hp"_s;
-    case kPunchFour:
-        return u"4Hp"_s;
-    default:
-        return {};
-    }
+    const FinishingKind* kind = FindFinishing(finishing, value);
+    return kind ? QString::fromLatin1(kind->picture) : QString();
 }
 
 QString OfficeFinishing(const QString& what)
@@ -91,27 +64,30 @@ QString JobTypePicture(SInt32 jobType)
 
 QString TwoSidedPicture(const PaperOutputOptions& options)
 {
-    return FileFor(kSides, options.bookletLayout == kBookletOn ? kTwoSidedLongEdge : options.duplex);
+    return FileFor(kSides, options.booklet.isOn() ? kTwoSidedLongEdge : options.duplex);
 }
 
-QString StaplePicture(const PaperOutputOptions& options)
+QString StaplePicture(SInt32 staple)
 {
-    return OfficeFinishing(StapleWord(options));
+    return OfficeFinishing(PictureOf(Finishing::Staple, staple));
 }
 
 QString PunchPicture(SInt32 punch)
 {
-    return OfficeFinishing(PunchWord(punch));
+    return OfficeFinishing(PictureOf(Finishing::Punch, punch));
 }
 
 QString FinishingPicture(const PaperOutputOptions& options)
 {
-    if (options.bookletLayout == kBookletOn)
-        return FileFor(kBookletLayouts, options.fold);
-    if (options.fold != kNone)
-        return FileFor(kFoldPictures, options.fold);
-    const QString staples = StapleWord(options);
-    const QString holes = PunchWord(options.punch);
+    const SInt32 fold = options.booklet.fold;
+    if (options.booklet.isOn()) {
+        const FinishingKind* kind = FindFinishing(Finishing::Fold, fold);
+        return kind ? QString::fromLatin1(kind->booklet.picture) : QString();
+    }
+    if (fold != kNotFinished)
+        return PictureOf(Finishing::Fold, fold);
+    const QString staples = PictureOf(Finishing::Staple, options.staple);
+    const QString holes = PictureOf(Finishing::Punch, options.punch);
     const bool areBoth = !staples.isEmpty() && !holes.isEmpty();
     return OfficeFinishing(areBoth ? staples + u'&' + holes : staples + holes);
 }

@@ -130,10 +130,10 @@ void AppearInSummary(const _PaperOutputContext& panel)
 {
     PaperOutputOptions plain;
     ReadTicket(plain, Ticket(), panel.ppd);
-    ShowInSummary(Popup(panel, kJobTypePopup), SummaryPlace::JobType, plain.jobType);
+    ShowInSummary(Popup(panel, kJobTypePopup), SummaryPlace::JobType, plain.jobType.number);
     ShowInSummary(FindHere(panel, kPaperSummary), SummaryPlace::Paper, PaperSummary(*panel.bundle, panel.ppd, plain));
     ShowInSummary(Popup(panel, kTwoSidedPopup), SummaryPlace::Sides, plain.duplex);
-    ShowInSummary(Popup(panel, kStaplePopup), SummaryPlace::Finishing, ChosenStaple(plain));
+    ShowInSummary(Popup(panel, kStaplePopup), SummaryPlace::Finishing, plain.staple);
     ShowInSummary(Popup(panel, kPunchPopup), SummaryPlace::Finishing, plain.punch);
     ShowInSummary(FindHere(panel, kFinishingSummary), SummaryPlace::Finishing,
                   CreateFinishingString(*panel.bundle, plain, panel.accessories));
@@ -220,7 +220,7 @@ void RestoreSummaries(_PaperOutputContext& panel)
 
 void ShowOptions(_PaperOutputContext& panel)
 {
-    SetPopupButtonToTicketValue(Popup(panel, kJobTypePopup), panel.options.jobType);
+    SetPopupButtonToTicketValue(Popup(panel, kJobTypePopup), panel.options.jobType.number);
     SetPopupButtonToTicketValue(Popup(panel, kQualityPopup), panel.options.printQuality);
     SetPopupButtonToTicketValue(Popup(panel, kDestinationPopup), panel.options.outputBin);
     EnableDisableJobTypeSetupButton(panel);
@@ -237,7 +237,7 @@ void ShowPaper(const _PaperOutputContext& panel)
 void ShowFinishing(const _PaperOutputContext& panel)
 {
     ChangeFinishingMenus(panel, [&](Menu& menu) { MarkFinishingMenu(menu, panel.options); });
-    SetPopupButtonToTicketValue(Popup(panel, kStaplePopup), ChosenStaple(panel.options));
+    SetPopupButtonToTicketValue(Popup(panel, kStaplePopup), panel.options.staple);
     SetPopupButtonToTicketValue(Popup(panel, kPunchPopup), panel.options.punch);
     const QString summary = CreateFinishingString(*panel.bundle, panel.options, panel.accessories);
     ShowSummary(panel, kFinishingSummary, kFinishingMenuButton, summary.chopped(summary.endsWith(u'\n') ? 1 : 0));
@@ -247,9 +247,9 @@ void ShowFinishing(const _PaperOutputContext& panel)
 void ShowPictures(const _PaperOutputContext& panel)
 {
     const PaperOutputOptions& options = panel.options;
-    ShowPicture(panel, kJobTypePicture, JobTypePicture(options.jobType));
+    ShowPicture(panel, kJobTypePicture, JobTypePicture(options.jobType.number));
     ShowPicture(panel, kTwoSidedPicture, TwoSidedPicture(options));
-    ShowPicture(panel, kStaplePicture, StaplePicture(options));
+    ShowPicture(panel, kStaplePicture, StaplePicture(options.staple));
     ShowPicture(panel, kPunchPicture, PunchPicture(options.punch));
     ShowPicture(panel, kFinishingPicture, FinishingPicture(options));
     ShowPicture(panel, kQualityPicture, OutputColorPicture(options.printQuality));
@@ -257,7 +257,7 @@ void ShowPictures(const _PaperOutputContext& panel)
 
 void ShowTwoSided(const _PaperOutputContext& panel, SInt32 value)
 {
-    const bool isBooklet = panel.options.bookletLayout == kBookletOn;
+    const bool isBooklet = panel.options.booklet.isOn();
     PopupButton* popup = Popup(panel, kTwoSidedPopup);
     SetPopupButtonToTicketValue(popup, isBooklet ? kTwoSidedLongEdge : value);
     SetControlEnabled(popup, !isBooklet);
@@ -267,8 +267,8 @@ void ShowTwoSided(const _PaperOutputContext& panel, SInt32 value)
 
 bool EnableDisableJobTypeSetupButton(const _PaperOutputContext& panel)
 {
-    const bool isFax = panel.options.jobType == kJobTypeFax;
-    const bool enabled = JobTypeNeedsSetup(panel.options.jobType) && !isFax;
+    const bool isFax = panel.options.jobType.number == kJobTypeFax;
+    const bool enabled = JobTypeNeedsSetup(panel.options.jobType.number) && !isFax;
     if (QWidget* button = FindHere(panel, kJobTypeSetupButton)) {
         const QString reason = isFax ? LocalizedString(*panel.bundle, "Fax Setup Unavailable Header") : QString();
         button->setToolTip(reason);

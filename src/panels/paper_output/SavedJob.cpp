@@ -75,35 +75,35 @@ void ShowNameOrEntry(HistoryComboBox& box, bool showsEntry, SettingMap map, cons
         box.setTypedText(name.value_or(QString()));
 }
 
-void RestoreUIValuesFromData(SavedJobDialog& dialog, const JobTypeDetails& details)
+void RestoreUIValuesFromData(SavedJobDialog& dialog, const JobType& job)
 {
-    const auto option = static_cast<std::size_t>(SaveOptionFor(details.saveDisposition));
+    const auto option = static_cast<std::size_t>(SaveOptionFor(job.saveDisposition));
     dialog.button(kSaveRadios[option - 1])->setChecked(true);
-    ShowNameOrEntry(*dialog.jobName, details.useJobName, JobNameMap, details.savedJobName);
-    ShowNameOrEntry(*dialog.folder, details.useDefaultLocation, FolderNameMap, details.savedJobLocation);
-    dialog.button(kSecureCheckBox)->setChecked(details.hasPasscode);
-    dialog.passcode.fill(details.securePasscode.value_or(QString()));
-    dialog.passcode.enable(details.hasPasscode);
+    ShowNameOrEntry(*dialog.jobName, job.useJobName, JobNameMap, job.savedJobName);
+    ShowNameOrEntry(*dialog.folder, job.useDefaultLocation, FolderNameMap, job.savedJobLocation);
+    dialog.button(kSecureCheckBox)->setChecked(job.hasPasscode);
+    dialog.passcode.fill(job.securePasscode.value_or(QString()));
+    dialog.passcode.enable(job.hasPasscode);
     if (auto* picture = FindControlAs<PictureView>(&dialog.window, {kSavedJobSignature, kFormatPicture}))
-        picture->setPicture(QString::fromLatin1(JobFormatPicture(details.mediaTypeInJob)));
+        picture->setPicture(QString::fromLatin1(JobFormatPicture(job.mediaTypeInJob)));
 }
 
-void SaveUIValuesToData(const SavedJobDialog& dialog, JobTypeDetails& details)
+void SaveUIValuesToData(const SavedJobDialog& dialog, JobType& job)
 {
     const bool alsoPrints = dialog.button(kSavePrintRadio)->isChecked();
-    details.saveDisposition = SavedJobSaveOptionRadioMap[alsoPrints ? 1 : 0].value;
+    job.saveDisposition = SavedJobSaveOptionRadioMap[alsoPrints ? 1 : 0].value;
 
-    details.useJobName = dialog.jobName->fixedValue().has_value();
-    if (!details.useJobName)
-        details.savedJobName = dialog.jobName->typedText();
+    job.useJobName = dialog.jobName->fixedValue().has_value();
+    if (!job.useJobName)
+        job.savedJobName = dialog.jobName->typedText();
     const QString folder = dialog.folder->typedText();
-    details.useDefaultLocation = folder.isEmpty(); // it is while the box holds the fixed entry
-    if (!details.useDefaultLocation)
-        details.savedJobLocation = folder;
+    job.useDefaultLocation = folder.isEmpty(); // it is while the box holds the fixed entry
+    if (!job.useDefaultLocation)
+        job.savedJobLocation = folder;
 
-    details.hasPasscode = dialog.isSecure();
-    if (details.hasPasscode)
-        details.securePasscode = dialog.passcode.passcode();
+    job.hasPasscode = dialog.isSecure();
+    if (job.hasPasscode)
+        job.securePasscode = dialog.passcode.passcode();
 }
 
 void SaveHistories(const SavedJobDialog& dialog)
@@ -166,7 +166,7 @@ EventHandler InstallWindowHandler(SavedJobDialog& dialog)
 
 namespace kesta {
 
-OSStatus RunModalSavedJobDialog(const Bundle& bundle, JobTypeDetails& details)
+OSStatus RunModalSavedJobDialog(const Bundle& bundle, JobType& job)
 {
     const std::unique_ptr<QWidget> window = CreateWindowFromNib(bundle, "SavedJob", "withPasscode");
     if (!window)
@@ -176,7 +176,7 @@ OSStatus RunModalSavedJobDialog(const Bundle& bundle, JobTypeDetails& details)
     if (!dialog.isComplete())
         return kInterfaceFileUnreadable;
     BuildControls(dialog);
-    RestoreUIValuesFromData(dialog, details);
+    RestoreUIValuesFromData(dialog, job);
     const EventHandler handlers[] = {InstallWindowHandler(dialog), InstallFixedEntryHandler(*dialog.jobName),
                                      InstallFixedEntryHandler(*dialog.folder)};
     const auto accept = [&] {
@@ -184,7 +184,7 @@ OSStatus RunModalSavedJobDialog(const Bundle& bundle, JobTypeDetails& details)
                                                                                   dialog.passcode.confirmation()));
     };
     if (RunModalDialog(bundle, *window, kSavedJobHelp, accept) == ModalResult::OK) {
-        SaveUIValuesToData(dialog, details);
+        SaveUIValuesToData(dialog, job);
         SaveHistories(dialog);
     }
     return noErr;

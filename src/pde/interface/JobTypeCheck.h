@@ -8,9 +8,6 @@ namespace kesta {
 
 struct Bundle;
 
-inline constexpr SInt32 kJobTypeFax = 5;
-inline constexpr SInt32 kJobTypeSecurePrint = 6;
-
 // What the shell has to know before it lets OK through, answered by the panel in which the user chooses the job type.
 // All functions must be set; they are called on the dialog's thread while the registration lives.
 struct JobTypeCheck {

@@ -19,7 +19,6 @@ struct HistoryItems {
     int insertAfter = 0; // the newest goes after this item (0: to the top), the others follow
     FourCharCode command = kNoCommand;
 };
-inline constexpr char kInputHistoryFile[] = "com.kesta.print.inputhistory.plist";
 // The same, with the history between the rows; each of its items counts once more.
 int PopulatePopupButtonFromMapAndHistory(const Bundle& bundle, PopupButton* popup, SettingMap map, JobContext context,
                                          const HistoryItems& history, FourCharCode command = kNoCommand);

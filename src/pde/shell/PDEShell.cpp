@@ -75,7 +75,7 @@ void selectPanel(SInt32 index, PDEShellContext& shell)
 
 void selectItemOfTabControl(QWidget& tabControl, SInt32 position, std::span<const SInt32> ids)
 {
-    if (ids.empty() || position < 1)
+    if (ids.empty())
         return;
     const std::size_t count = std::min<std::size_t>(ids.front(), ids.size() - 1);
     const auto pane = [&](std::size_t at) {
@@ -85,12 +85,12 @@ void selectItemOfTabControl(QWidget& tabControl, SInt32 position, std::span<cons
         SetControlVisible(control, shown);
         SetControlEnabled(control, shown);
     };
-    const auto chosen = static_cast<std::size_t>(position);
+    const auto chosen = static_cast<std::size_t>(std::max(position, 0)); // 0: none of them
     for (std::size_t at = 1; at <= count; ++at) {
         if (at != chosen)
             show(pane(at), false);
     }
-    if (chosen <= count)
+    if (chosen >= 1 && chosen <= count)
         show(pane(chosen), true);
 }
 

@@ -1,5 +1,6 @@
 #include "pde/shell/PDEShell.h"
 
+#include "model/JobType.h"
 #include "pde/interface/JobTypeCheck.h"
 #include "pde/menus/BundleUtilities.h"
 #include "pde/menus/SystemUtilities.h"

@@ -1,6 +1,6 @@
 #include "pde/shell/PDEShell.h"
 
-#include "pde/interface/JobTypeCheck.h"
+#include "model/JobType.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"
 #include "platform/system/SystemConfiguration.h"
@@ -11,12 +11,9 @@
 namespace kesta::shell {
 namespace {
 
-void WriteOrRemove(const TicketWriter& ticket, const char* key, const std::optional<QString>& text)
+OSStatus WriteOrRemove(const TicketWriter& ticket, const char* key, const std::optional<QString>& text)
 {
-    if (text)
-        ticket.set(key, *text);
-    else
-        ticket.remove(key);
+    return text ? ticket.set(key, *text) : ticket.remove(key);
 }
 
 // The printer's own panel shows nothing beyond this range.
@@ -32,7 +29,8 @@ std::optional<QString> PrimaryIPAddress(const SystemConfiguration& system)
     return addresses.isEmpty() ? std::nullopt : std::optional(addresses.first());
 }
 
-void WriteClientInformation(const TicketWriter& ticket)
+// The status of the last write.
+OSStatus WriteClientInformation(const TicketWriter& ticket)
 {
     const SystemConfiguration& system = GetSystemConfiguration();
     const std::optional<QString> user = system.consoleUser();
@@ -42,11 +40,11 @@ void WriteClientInformation(const TicketWriter& ticket)
 
     WriteOrRemove(ticket, key::ClientUserName, user);
     WriteOrRemove(ticket, key::ClientComputerName, computer);
-    WriteOrRemove(ticket, key::ClientIPAddress, PrimaryIPAddress(system));
+    return WriteOrRemove(ticket, key::ClientIPAddress, PrimaryIPAddress(system));
 }
 
-// The keys of the job that belong to no panel.
-void WriteJobWideKeys(Ticket& settings)
+// The keys of the job that belong to no panel. The status of the last write.
+OSStatus WriteJobWideKeys(Ticket& settings)
 {
     const TicketWriter ticket(settings, kJobWideClient);
 
@@ -55,11 +53,12 @@ void WriteJobWideKeys(Ticket& settings)
     ticket.remove(key::RotateBooklet180Degrees);
     ticket.set(key::ControllerFamily, "Discovery");
     ticket.set(key::ControllerVersion, "5.0");
-    WriteClientInformation(ticket);
+    const OSStatus status = WriteClientInformation(ticket);
 
     const Dictionary* jobType = settings.values().dictionary(key::JobType);
-    if (jobType && CFDictionaryGetNumber<SInt32>(*jobType, "JobType") == kJobTypeFax)
+    if (jobType && CFDictionaryGetNumber<SInt32>(*jobType, key::JobTypeNumber) == kJobTypeFax)
         PPDSetCurrentChoice(settings, "KSTColor", "BW"); // a fax has no colours
+    return status;
 }
 
 } // namespace
@@ -82,9 +81,7 @@ OSStatus Sync(PDEShellContext& shell, PrintSession& session, SyncDirection direc
         return panelStatus;
 
     const auto [settings, status] = GetTicketFromSession(session, kPMPrintSettingsTicket);
-    if (settings)
-        WriteJobWideKeys(*settings);
-    return status;
+    return settings ? WriteJobWideKeys(*settings) : status;
 }
 
 } // namespace kesta::shell

@@ -36,13 +36,14 @@ int DigitValue(QChar digit)
     return 16;
 }
 
-// The character behind "65" or "x41".
+// The character behind "65" or "x41"; half of a surrogate pair counts as one.
 std::optional<char32_t> ReferencedCharacter(QStringView reference)
 {
     const bool hexadecimal = reference.startsWith(u'x');
     const int base = hexadecimal ? 16 : 10;
+    const QStringView digits = reference.sliced(hexadecimal ? 1 : 0);
     char32_t value = 0;
-    for (const QChar digit : reference.sliced(hexadecimal ? 1 : 0)) {
+    for (const QChar digit : digits) {
         const int digitValue = DigitValue(digit);
         if (digitValue >= base)
             return std::nullopt;
@@ -50,7 +51,7 @@ std::optional<char32_t> ReferencedCharacter(QStringView reference)
         if (value > QChar::LastValidCodePoint)
             return std::nullopt; // before it can overflow
     }
-    return value == 0 || QChar::isSurrogate(value) ? std::nullopt : std::optional(value);
+    return digits.isEmpty() ? std::nullopt : std::optional(value);
 }
 
 // What an entity stands for, given without ampersand and semicolon.
@@ -61,7 +62,10 @@ std::optional<QString> Replacement(QStringView entity, const Dictionary& entitie
         return value ? std::optional(*value) : std::nullopt;
     }
     const std::optional<char32_t> character = ReferencedCharacter(entity.sliced(1));
-    return character ? std::optional(QString::fromUcs4(&*character, 1)) : std::nullopt;
+    if (!character)
+        return std::nullopt;
+    return QChar::requiresSurrogates(*character) ? QString::fromUcs4(&*character, 1)
+                                                 : QString(QChar(static_cast<char16_t>(*character)));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "platform/plugins/BundleParts.h"
 
+#include "platform/plugins/SharedObjectFile.h"
 #include "platform/system/SafeFile.h"
 #include "platform/values/PropertyList.h"
 
@@ -108,6 +109,9 @@ QString Catalogues::language() const
 std::optional<QString> BundleCode::load()
 {
     if (handle_ || error_)
+        return error_;
+    error_ = SharedObjectProblem(path_);
+    if (error_)
         return error_;
     handle_ = dlopen(QFile::encodeName(path_).constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     if (!handle_)

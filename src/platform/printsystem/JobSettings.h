@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/printsystem/PrintSession.h"
+#include "platform/printsystem/PrintSystemKeys.h"
 #include "platform/printsystem/Ticket.h"
 
 #include <span>
@@ -18,10 +19,6 @@ void AddToSession(const JobTickets& tickets, PrintSession& session);
 // Job settings as a file holds them: an XML property list of the tickets' entries with their clients, and of the
 // print-settings ticket's PPD choices. What was read from these bytes is written as the same bytes. Locks are a
 // session's own affair and are not saved. The named entries of dictionaries in the print-settings ticket are left out.
-struct NestedEntry {
-    const char* key;   // of the dictionary in the ticket
-    const char* entry; // in the dictionary
-};
 QByteArray WriteJobSettings(const JobTickets& tickets, std::span<const NestedEntry> leftOut = {});
 
 inline constexpr qsizetype kLargestJobSettings = 16 * 1024 * 1024; // bytes of a file

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <ctime>
+#include <thread>
 
 namespace kesta {
 namespace {
@@ -26,6 +27,11 @@ public:
 };
 
 } // namespace
+
+void Clock::wait(SInt64 milliseconds) const
+{
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
 
 Clock* Clock::install(Clock* clock)
 {

@@ -1,7 +1,12 @@
 #include "platform/system/SafeFile.h"
 
-#include <QFile>
+#include "platform/system/Clock.h"
 
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -13,7 +18,13 @@
 namespace kesta {
 namespace {
 
-constexpr qsizetype kPiece = 64 * 1024; // bytes read at once
+constexpr qsizetype kPiece = 64 * 1024; // bytes read or written at once
+constexpr int kMostLinks = 40;
+
+// A file that is not understood is damaged when four more readings in 200 ms find nothing else.
+constexpr SInt64 kBetweenReadings = 50; // milliseconds
+constexpr int kReadingsAtRest = 4;
+constexpr int kMostReadings = 40; // two seconds
 
 // A file descriptor that closes itself.
 class Descriptor {
@@ -42,6 +53,12 @@ private:
     int number_ = -1;
 };
 
+// Of a new file, less the umask.
+mode_t ModeOf(FileAccess access)
+{
+    return access == FileAccess::OwnerOnly ? S_IRUSR | S_IWUSR : DEFFILEMODE;
+}
+
 FileError ErrorOf(const QString& path, int code)
 {
     return {code, QStringLiteral("%1: %2").arg(path, QString::fromLocal8Bit(std::strerror(code)))};
@@ -60,17 +77,33 @@ int WriteAll(int file, const QByteArray& bytes)
     return 0;
 }
 
+// Room for the bytes from begin to end, by writing: for file systems that don't reserve any (some network file systems,
+// memory).
+int Extend(int file, off_t begin, off_t end)
+{
+    static const QByteArray zeros(kPiece, '\0');
+    for (off_t at = begin; at < end;) {
+        const ssize_t written =
+            pwrite(file, zeros.constData(), static_cast<size_t>(std::min<off_t>(kPiece, end - at)), at);
+        if (written < 0 && errno != EINTR)
+            return errno;
+        at += written > 0 ? written : 0;
+    }
+    return 0;
+}
+
 // The room is there before the first byte of the old content goes; without it the file gets its old size back.
 int Reserve(int file, off_t oldSize, off_t size)
 {
     if (size <= oldSize)
         return 0;
     int code = 0;
+    // Not posix_fallocate: where there is nothing to call it reads, which a file opened for writing can't.
     do
-        code = posix_fallocate(file, 0, size);
+        code = fallocate(file, 0, 0, size) == 0 ? 0 : errno;
     while (code == EINTR);
-    if (code == EOPNOTSUPP)
-        return 0;
+    if (code == EOPNOTSUPP || code == ENOSYS)
+        code = Extend(file, oldSize, size);
     if (code != 0 && ftruncate(file, oldSize) != 0)
         return errno;
     return code;
@@ -113,11 +146,141 @@ int ReadUpTo(int file, qsizetype limit, QByteArray& bytes)
     return EFBIG;
 }
 
+// Where the links of a path lead, also when nothing is there yet; nothing for links without end.
+std::optional<QString> EndOfLinks(QString path)
+{
+    for (int links = 0; links < kMostLinks; ++links) {
+        const QFileInfo file(path);
+        if (!file.isSymLink())
+            return path;
+        path = file.symLinkTarget();
+    }
+    return std::nullopt;
+}
+
+int SyncFolder(const QString& folder)
+{
+    Descriptor opened;
+    if (!opened.open(folder, O_RDONLY | O_DIRECTORY))
+        return errno;
+    return fsync(opened) == 0 || errno == EINVAL ? 0 : errno; // EINVAL: a file system that has nothing to sync
+}
+
+// A file without a name, or under the one given where the file system has no files without names.
+class FileAside {
+public:
+    FileAside(const QString& folder, const QString& name, mode_t mode) : name_(name)
+    {
+        if (!file_.open(folder, O_WRONLY | O_TMPFILE, mode) && file_.open(name, O_WRONLY | O_CREAT | O_EXCL, mode))
+            isNamed_ = true;
+    }
+    ~FileAside()
+    {
+        if (isNamed_)
+            QFile::remove(name_);
+    }
+    FileAside(const FileAside&) = delete;
+    FileAside& operator=(const FileAside&) = delete;
+
+    int descriptor() const { return file_; }
+    // 0 or errno.
+    int moveTo(const QString& path)
+    {
+        if (!isNamed_) {
+            const QByteArray unnamed = "/proc/self/fd/" + QByteArray::number(file_);
+            const QByteArray name = QFile::encodeName(name_);
+            if (linkat(AT_FDCWD, unnamed.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) != 0)
+                return errno;
+            isNamed_ = true;
+        }
+        if (const int code = file_.close())
+            return code;
+        if (std::rename(QFile::encodeName(name_).constData(), QFile::encodeName(path).constData()) != 0)
+            return errno;
+        isNamed_ = false;
+        return 0;
+    }
+
+private:
+    QString name_;
+    Descriptor file_;
+    bool isNamed_ = false;
+};
+
+// Gives the file the mode and the owner that the old one has.
+bool Resemble(int file, const struct stat& old, FileAccess access)
+{
+    const mode_t mode = access == FileAccess::OwnerOnly ? S_IRUSR | S_IWUSR : old.st_mode & ALLPERMS;
+    struct stat now = {};
+    if (fstat(file, &now) != 0)
+        return false;
+    const bool sameOwner = now.st_uid == old.st_uid && now.st_gid == old.st_gid;
+    return (sameOwner || fchown(file, old.st_uid, old.st_gid) == 0) && fchmod(file, mode) == 0;
+}
+
+// Nothing when the file can't be written aside, else 0 or errno.
+std::optional<int> WriteAside(const QString& path, const QByteArray& bytes, FileAccess access)
+{
+    struct stat old = {};
+    const bool isThere = stat(QFile::encodeName(path).constData(), &old) == 0;
+    if (!isThere && errno != ENOENT)
+        return errno;
+    if (isThere && (!S_ISREG(old.st_mode) || old.st_nlink > 1))
+        return std::nullopt;
+    if (isThere && ::access(QFile::encodeName(path).constData(), W_OK) != 0)
+        return errno;
+    const QFileInfo file(path);
+    const QString name =
+        QStringLiteral("%1/.%2.%3")
+            .arg(file.path(), file.fileName(), QString::number(QRandomGenerator::system()->generate64(), 36));
+    FileAside aside(file.path(), name, ModeOf(access));
+    if (aside.descriptor() < 0 || (isThere && !Resemble(aside.descriptor(), old, access)))
+        return std::nullopt;
+    if (const int code = WriteAll(aside.descriptor(), bytes))
+        return code;
+    if (fsync(aside.descriptor()) != 0)
+        return errno;
+    if (aside.moveTo(path) != 0)
+        return std::nullopt;
+    return SyncFolder(file.path());
+}
+
+struct Reading {
+    FileContent content;
+    qint64 changed = 0; // nanoseconds since 1970
+
+    bool operator==(const Reading& other) const
+    {
+        return content.bytes == other.content.bytes && content.error.code == other.content.error.code &&
+               changed == other.changed;
+    }
+};
+
+Reading ReadOnce(const QString& path, qsizetype limit)
+{
+    Reading reading{.content = ReadFile(path, limit)};
+    struct stat status = {};
+    if (stat(QFile::encodeName(path).constData(), &status) == 0)
+        reading.changed = qint64{status.st_mtim.tv_sec} * 1000000000 + status.st_mtim.tv_nsec;
+    return reading;
+}
+
 } // namespace
 
 std::optional<FileError> WriteFile(const QString& path, const QByteArray& bytes, FileAccess access)
 {
-    const mode_t mode = access == FileAccess::OwnerOnly ? 0600 : 0666; // less the umask
+    const std::optional<QString> place = EndOfLinks(path);
+    if (!place)
+        return ErrorOf(path, ELOOP);
+    const std::optional<int> code = WriteAside(*place, bytes, access);
+    if (!code)
+        return WriteFileInPlace(path, bytes, access);
+    return *code == 0 ? std::nullopt : std::optional(ErrorOf(path, *code));
+}
+
+std::optional<FileError> WriteFileInPlace(const QString& path, const QByteArray& bytes, FileAccess access)
+{
+    const mode_t mode = ModeOf(access);
     Descriptor file;
     const bool isNew = file.open(path, O_WRONLY | O_CREAT | O_EXCL, mode);
     // Also through a link to a file that is not there yet.
@@ -132,6 +295,23 @@ std::optional<FileError> WriteFile(const QString& path, const QByteArray& bytes,
     if (isNew)
         QFile::remove(path);
     return ErrorOf(path, code);
+}
+
+FileContent ReadFileAtRest(const QString& path, qsizetype limit, const Understands& understands)
+{
+    Reading last = ReadOnce(path, limit);
+    for (int same = 0, readings = 1; readings < kMostReadings; ++readings) {
+        const FileContent& content = last.content;
+        if (content.bytes ? understands(*content.bytes) : content.error.code != EFBIG)
+            return std::move(last.content);
+        if (same == kReadingsAtRest)
+            return content.bytes ? FileContent{std::nullopt, ErrorOf(path, EILSEQ)} : std::move(last.content);
+        GetClock().wait(kBetweenReadings);
+        Reading next = ReadOnce(path, limit);
+        same = next == last ? same + 1 : 0;
+        last = std::move(next);
+    }
+    return {std::nullopt, ErrorOf(path, EBUSY)};
 }
 
 FileContent ReadFile(const QString& path, qsizetype limit)

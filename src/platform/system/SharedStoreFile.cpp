@@ -20,6 +20,8 @@ constexpr char kFolder[] = "/Kesta";
 // Everything that a list may have is read.
 constexpr qsizetype kLargestStoreFile = PropertyListLimits().bytes;
 
+constexpr int kMostTries = 5;
+
 std::optional<mode_t> Mode(const QString& path)
 {
     struct stat status = {};
@@ -59,25 +61,58 @@ bool IsFileName(const QString& name)
     return !name.isEmpty() && !name.startsWith(u'.') && !name.contains(u'/') && !name.contains(QChar());
 }
 
-// Nothing when the file can't be understood.
-std::optional<Dictionary> ReadRoot(const QString& path)
+std::optional<Dictionary> ParseRoot(const QByteArray& bytes, QString& problem)
 {
-    const FileContent content = ReadFile(path, kLargestStoreFile);
-    if (!content.bytes)
-        return std::nullopt;
-    PropertyListResult list = ParsePropertyList(*content.bytes);
+    PropertyListResult list = ParsePropertyList(bytes);
     if (Dictionary* root = list.value ? list.value->dictionary() : nullptr)
         return std::move(*root);
-    const QString problem = list.value ? QStringLiteral("the list is not a dictionary") : list.error;
-    std::fprintf(stderr, "CopyXMLData()::CFPropertyListCreateFromXMLData() error: %s\n", qPrintable(problem));
+    problem = list.value ? QStringLiteral("the list is not a dictionary") : list.error;
     return std::nullopt;
 }
 
-int WriteRoot(const QString& path, const Dictionary& root)
+struct Root {
+    std::optional<Dictionary> content;
+    QByteArray bytes; // of the file, when there is content
+    int error = 0; // errno's, when there is no content: ENOENT; EILSEQ or EFBIG when it is damaged; else it may be good
+};
+
+Root ReadRoot(const QString& path)
 {
+    std::optional<Dictionary> root;
+    QString problem;
+    const FileContent file = ReadFileAtRest(path, kLargestStoreFile, [&](const QByteArray& bytes) {
+        root = ParseRoot(bytes, problem);
+        return root.has_value();
+    });
+    if (file.bytes)
+        return {std::move(root), *file.bytes};
+    if (file.error.code != ENOENT)
+        std::fprintf(stderr, "CopyXMLData()::CFPropertyListCreateFromXMLData() error: %s\n",
+                     qPrintable(file.error.code == EILSEQ ? problem : file.error.text));
+    return {std::nullopt, {}, file.error.code};
+}
+
+// Two programs that write at once may leave a mixture of both: whoever sees that writes again.
+int WriteContent(const QString& path, const QByteArray& bytes)
+{
+    for (int tries = 0; tries < kMostTries; ++tries) {
+        if (const std::optional<FileError> error = WriteFileInPlace(path, bytes))
+            return error->code;
+        const FileContent written = ReadFile(path, kLargestStoreFile);
+        if (!written.bytes || *written.bytes == bytes || ParsePropertyList(*written.bytes).value)
+            return 0;
+    }
+    return EBUSY;
+}
+
+int WriteRoot(const QString& path, const QByteArray& before, const Dictionary& root)
+{
+    const QByteArray bytes = WritePropertyList(root);
+    if (bytes == before)
+        return 0;
     const bool isNew = !QFileInfo::exists(path);
-    if (const std::optional<FileError> error = WriteFile(path, WritePropertyList(root)))
-        return error->code;
+    if (const int error = WriteContent(path, bytes))
+        return error;
     if (isNew)
         ShareLikeFolder(path, DEFFILEMODE);
     return 0;
@@ -104,7 +139,7 @@ std::optional<QString> CopyPreferenceFileURL(QAnyStringView file)
 std::optional<Dictionary> CopyXMLData(QAnyStringView file)
 {
     const std::optional<QString> path = CopyPreferenceFileURL(file);
-    return path ? ReadRoot(*path) : std::nullopt;
+    return path ? ReadRoot(*path).content : std::nullopt;
 }
 
 int ChangeXMLData(QAnyStringView file, WhenUnreadable whenUnreadable, const Change& change)
@@ -112,16 +147,19 @@ int ChangeXMLData(QAnyStringView file, WhenUnreadable whenUnreadable, const Chan
     const std::optional<QString> path = CopyPreferenceFileURL(file);
     if (!path)
         return ENOENT;
-    std::optional<Dictionary> root = ReadRoot(*path);
-    if (!root) {
+    Root root = ReadRoot(*path);
+    if (!root.content) {
+        const bool isDamaged = root.error == EILSEQ || root.error == EFBIG;
+        if (root.error != ENOENT && !isDamaged)
+            return root.error;
         if (whenUnreadable == WhenUnreadable::DoNothing)
             return 0;
-        if (QFileInfo::exists(*path) && !KeepAsDamaged(*path))
+        if (isDamaged && !KeepAsDamaged(*path))
             return errno;
-        root.emplace();
+        root.content.emplace();
     }
-    change(*root);
-    return WriteRoot(*path, *root);
+    change(*root.content);
+    return WriteRoot(*path, root.bytes, *root.content);
 }
 
 } // namespace kesta

@@ -22,6 +22,16 @@ QString PreferenceFile(QAnyStringView file)
     return folder + u'/' + name;
 }
 
+std::optional<Dictionary> ParsePreferences(const QByteArray& bytes, QString& problem)
+{
+    PropertyListResult list = ParsePropertyList(bytes);
+    Dictionary* preferences = list.value ? list.value->dictionary() : nullptr;
+    if (preferences)
+        return std::move(*preferences);
+    problem = list.value ? QStringLiteral("the list is not a dictionary") : list.error;
+    return std::nullopt;
+}
+
 Dictionary SetAside(const QString& path, const QString& problem)
 {
     const std::optional<QString> kept = KeepAsDamaged(path);
@@ -37,14 +47,26 @@ std::optional<Dictionary> CopyUserPreferences(QAnyStringView file)
     const QString path = PreferenceFile(file);
     if (path.isEmpty())
         return std::nullopt;
-    const FileContent content = ReadFile(path, kLargestFile);
-    if (!content.bytes)
-        return content.error.code == EFBIG ? SetAside(path, QStringLiteral("too large")) : Dictionary();
-    PropertyListResult list = ParsePropertyList(*content.bytes);
-    if (!list.value)
-        return SetAside(path, list.error);
-    Dictionary* preferences = list.value->dictionary();
-    return preferences ? std::move(*preferences) : SetAside(path, QStringLiteral("the list is not a dictionary"));
+    std::optional<Dictionary> preferences;
+    QString problem;
+    const FileContent content = ReadFileAtRest(path, kLargestFile, [&](const QByteArray& bytes) {
+        preferences = ParsePreferences(bytes, problem);
+        return preferences.has_value();
+    });
+    if (content.bytes)
+        return preferences;
+    switch (content.error.code) {
+    case ENOENT:
+    case ENOTDIR:
+        return Dictionary();
+    case EILSEQ:
+        return SetAside(path, problem);
+    case EFBIG:
+        return SetAside(path, QStringLiteral("too large"));
+    default:
+        std::fprintf(stderr, "%s\n", qPrintable(content.error.text));
+        return std::nullopt;
+    }
 }
 
 bool WriteUserPreferences(QAnyStringView file, const Dictionary& preferences)

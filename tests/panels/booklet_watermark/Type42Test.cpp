@@ -138,6 +138,20 @@ TEST(Type42, EncodesStandardNamesThenTheRest)
     EXPECT_FALSE(many.contains("/g224 put"));
 }
 
+TEST(Type42, AFontMayHaveMoreNamesThanGlyphs)
+{
+    FontBuilder builder;
+    builder.setNames({0, 262}, {"a", "b", "c", "d", "fifth"});
+    EXPECT_TRUE(Convert(builder.file()).text.contains("/fifth 1 def\n"));
+}
+
+TEST(Type42, NumbersAreRoundedAsPrintfDoes)
+{
+    FontBuilder builder;
+    builder.patch("head", 4, BigEndian32(0x00010800)); // 1.03125, half way between 1.0312 and 1.0313
+    EXPECT_TRUE(Convert(builder.file()).text.startsWith("%!PS-TrueTypeFont-1.0000-1.0312\n"));
+}
+
 TEST(Type42, NamesThatWouldNotBeNamesAreLeftOut)
 {
     FontBuilder builder;

@@ -3,6 +3,7 @@
 #include "platform/system/SafeFile.h"
 #include "platform/system/SharedStoreFile.h"
 #include "platform/values/PropertyList.h"
+#include "support/EventfulClock.h"
 #include "support/SmallDisk.h"
 #include "support/TestTexts.h"
 
@@ -12,7 +13,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <array>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace kesta::booklet_watermark {
@@ -261,7 +265,8 @@ TEST_F(WatermarkStoreTest, AFileCutAnywhereIsKeptAsideBeforeANewOne)
     const QByteArray whole = Content(path);
     const qsizetype end = whole.lastIndexOf("</plist>") + 8;
     testing::internal::CaptureStderr();
-    for (qsizetype size = 0; size < end; ++size) {
+    const test::EventfulClock clock;
+    for (qsizetype size = 0; size < end; size += 7) {
         write(whole.first(size));
         EXPECT_EQ(loadWatermarkList(kWatermarkFile), std::nullopt) << size;
         removeWatermarkData(kWatermarkFile, u"ä"_s);
@@ -277,6 +282,7 @@ TEST_F(WatermarkStoreTest, AFileCutAnywhereIsKeptAsideBeforeANewOne)
 TEST_F(WatermarkStoreTest, WhatIsWrongWithAFileIsSaid)
 {
     saveWatermarkList(kWatermarkFile, QStringList());
+    const test::EventfulClock clock;
     write("<plist>\n<array></dict>");
     testing::internal::CaptureStderr();
     EXPECT_EQ(CopyXMLData(kWatermarkFile), std::nullopt);
@@ -290,6 +296,64 @@ TEST_F(WatermarkStoreTest, WhatIsWrongWithAFileIsSaid)
               "CopyXMLData()::CFPropertyListCreateFromXMLData() error: the list is not a dictionary\n");
     EXPECT_EQ(Content(path + u".damaged"_s), "<plist><array/></plist>");
     EXPECT_EQ(load(u"Draft"_s), Text(u"Draft"_s));
+}
+
+// Another program that is half way through its own save.
+TEST_F(WatermarkStoreTest, AStoreThatIsBeingWrittenIsWaitedFor)
+{
+    saveWatermarkList(kWatermarkFile, QStringList{u"Draft"_s});
+    const QByteArray whole = Content(path);
+    write(whole.first(whole.size() / 2));
+    {
+        test::EventfulClock clock;
+        clock.meanwhile = [&] { write(whole); };
+        saveWatermarkData(kWatermarkFile, Text(u"Draft"_s));
+    }
+    EXPECT_FALSE(QFile::exists(path + u".damaged"_s));
+    EXPECT_EQ(loadWatermarkList(kWatermarkFile), QStringList{u"Draft"_s});
+    EXPECT_EQ(load(u"Draft"_s), Text(u"Draft"_s));
+}
+
+// Each may overwrite the other's change, but the store is never lost.
+TEST_F(WatermarkStoreTest, TwoProgramsThatSaveAtOnceLeaveAStore)
+{
+    saveWatermarkList(kWatermarkFile, QStringList{u"Draft"_s});
+    std::array<pid_t, 2> programs{};
+    for (pid_t& program : programs) {
+        program = fork();
+        if (program != 0)
+            continue;
+        for (int turn = 0; turn < 60; ++turn)
+            saveWatermarkData(kWatermarkFile, Text(QString(20 * (turn % 7) + 1, u'a')));
+        _exit(0);
+    }
+    for (const pid_t program : programs) {
+        int status = 0;
+        EXPECT_EQ(waitpid(program, &status, 0), program);
+        EXPECT_EQ(status, 0);
+    }
+    EXPECT_FALSE(QFile::exists(path + u".damaged"_s));
+    EXPECT_EQ(loadWatermarkList(kWatermarkFile), QStringList{u"Draft"_s});
+}
+
+TEST_F(WatermarkStoreTest, AStoreThatCannotBeReadNowIsLeftAlone)
+{
+    saveWatermarkList(kWatermarkFile, QStringList{u"Draft"_s});
+    const QByteArray whole = Content(path);
+    testing::internal::CaptureStderr();
+    {
+        rlimit before{};
+        getrlimit(RLIMIT_NOFILE, &before);
+        const rlimit none{0, before.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &none);
+        saveWatermarkData(kWatermarkFile, Text(u"Draft"_s));
+        setrlimit(RLIMIT_NOFILE, &before);
+    }
+    const std::string said = testing::internal::GetCapturedStderr();
+    EXPECT_NE(said.find("Too many open files"), std::string::npos) << said;
+    EXPECT_NE(said.find("saveWatermarkData: Error 24 writing data to file\n"), std::string::npos) << said;
+    EXPECT_EQ(Content(path), whole);
+    EXPECT_FALSE(QFile::exists(path + u".damaged"_s));
 }
 
 TEST_F(WatermarkStoreTest, AFullDiskLeavesTheOldContentAndIsSaid)

@@ -8,6 +8,7 @@
 #include "pde/ticket/LocalizedText.h"
 #include "pde/ticket/TicketUtilities.h"
 #include "platform/plugins/Bundle.h"
+#include "printer/FinishingKinds.h"
 #include "printer/InstallableOptions.h"
 #include "toolkit/controls/PictureView.h"
 #include "toolkit/controls/SpinField.h"
@@ -29,9 +30,9 @@ struct FoldRadio {
     SInt32 fold;
 };
 constexpr auto kFoldRadios = std::to_array<FoldRadio>({
-    {kFoldNoneRadio, kBookletFoldNone},
-    {kFoldRadio, kBookletFold},
-    {kFoldAndStapleRadio, kBookletFoldAndStaple},
+    {kFoldNoneRadio, kNotFinished},
+    {kFoldRadio, kFoldBi},
+    {kFoldAndStapleRadio, kFoldBiStaple},
 });
 
 // The controls of one window; those that it lacks are null, and nothing is shown in or read from them.
@@ -103,61 +104,59 @@ SInt32 ChosenFold(const BookletWindow& dialog, SInt32 before)
     return chosen == kFoldRadios.end() ? before : chosen->fold;
 }
 
-void SyncToUI(const BookletWindow& dialog, const _BookletCreationParams& params)
+void SyncToUI(const BookletWindow& dialog, const Booklet& booklet)
 {
-    const auto fold = std::ranges::find(kFoldRadios, params.fold, &FoldRadio::fold);
+    const auto fold = std::ranges::find(kFoldRadios, booklet.fold, &FoldRadio::fold);
     dialog.check(fold == kFoldRadios.end() ? kFoldNoneRadio : fold->radio);
-    dialog.check(params.layout == kBookletLayoutOn ? kLayoutOnRadio : kLayoutOffRadio);
-    dialog.check(kDrawOutlinesBox, params.drawOutlines == kDrawPageBorders);
-    if (!SetPopupButtonToTicketValue(dialog.newSize(), params.newPaperSize) && dialog.newSize())
+    dialog.check(booklet.isOn() ? kLayoutOnRadio : kLayoutOffRadio);
+    dialog.check(kDrawOutlinesBox, booklet.drawOutlines == kDrawPageBorders);
+    if (!SetPopupButtonToTicketValue(dialog.newSize(), booklet.newPaperSize) && dialog.newSize())
         dialog.newSize()->setValue(1);
     if (SpinField* gutter = dialog.spin(kGutterField))
-        gutter->setNumber(params.gutter);
+        gutter->setNumber(booklet.gutter);
     if (SpinField* creep = dialog.spin(kCreepField))
-        creep->setNumber(params.creep);
+        creep->setNumber(booklet.creep);
 }
 
-void SyncFromUI(const BookletWindow& dialog, _BookletCreationParams& params)
+void SyncFromUI(const BookletWindow& dialog, Booklet& booklet)
 {
-    params.fold = ChosenFold(dialog, params.fold);
-    params.layout = dialog.isChecked(kLayoutOnRadio) ? kBookletLayoutOn : kBookletLayoutOff;
-    params.drawOutlines = dialog.isChecked(kDrawOutlinesBox) ? kDrawPageBorders : kNoPageBorders;
+    booklet.fold = ChosenFold(dialog, booklet.fold);
+    booklet.layout = dialog.isChecked(kLayoutOnRadio) ? kBookletLayoutOn : kBookletLayoutOff;
+    booklet.drawOutlines = dialog.isChecked(kDrawOutlinesBox) ? kDrawPageBorders : kNoPageBorders;
     if (const PopupButton* popup = dialog.newSize())
-        params.newPaperSize = GetPopupButtonTicketValue(popup);
+        booklet.newPaperSize = GetPopupButtonTicketValue(popup);
     if (const SpinField* gutter = dialog.spin(kGutterField))
-        params.gutter = gutter->number();
+        booklet.gutter = gutter->number();
     if (const SpinField* creep = dialog.spin(kCreepField))
-        params.creep = creep->number();
+        booklet.creep = creep->number();
 }
 
-void ShowIllustration(const BookletWindow& dialog, const _BookletCreationParams& before)
+void ShowIllustration(const BookletWindow& dialog, const Booklet& before)
 {
-    _BookletCreationParams shown = before;
+    Booklet shown = before;
     SyncFromUI(dialog, shown);
     if (auto* picture = FindControlAs<PictureView>(&dialog.window, {kSignature, kIllustration}))
-        picture->setPicture(QString::fromLatin1(BookletIllustration(shown.layout, shown.fold, shown.drawOutlines)));
+        picture->setPicture(QString::fromLatin1(BookletIllustration(shown)));
 }
 
-OSStatus RunModalBookletDialog(_BookletCreationParams& params, QAnyStringView windowName)
+OSStatus RunModalBookletDialog(const Bundle& bundle, Booklet& booklet, QAnyStringView windowName)
 {
-    if (!params.bundle)
-        return kMissingArgument;
-    const std::unique_ptr<QWidget> window = CreateWindowFromNib(*params.bundle, "BookletCreation", windowName);
+    const std::unique_ptr<QWidget> window = CreateWindowFromNib(bundle, "BookletCreation", windowName);
     if (!window)
         return kInterfaceFileUnreadable;
     const BookletWindow dialog{*window};
-    BuildControls(dialog, *params.bundle);
-    SyncToUI(dialog, params);
+    BuildControls(dialog, bundle);
+    SyncToUI(dialog, booklet);
     EnableControls(dialog);
-    ShowIllustration(dialog, params);
+    ShowIllustration(dialog, booklet);
     const EventHandler handler = InstallEventHandler(*window, [&](const HitEvent&) {
         EnableControls(dialog);
-        ShowIllustration(dialog, params);
+        ShowIllustration(dialog, booklet);
         return EventResult::NotHandled;
     });
-    if (RunModalDialog(*params.bundle, *window, {}) != ModalResult::OK)
+    if (RunModalDialog(bundle, *window, {}) != ModalResult::OK)
         return kBookletDialogCancelled;
-    SyncFromUI(dialog, params);
+    SyncFromUI(dialog, booklet);
     return noErr;
 }
 
@@ -172,15 +171,15 @@ bool FoldsBooklets()
 
 namespace kesta {
 
-OSStatus RunModalBookletOptionsDialog(_BookletCreationParams& params)
+OSStatus RunModalBookletOptionsDialog(const Bundle& bundle, Booklet& booklet)
 {
-    return booklet::RunModalBookletDialog(params,
+    return booklet::RunModalBookletDialog(bundle, booklet,
                                           booklet::FoldsBooklets() ? "BookletFinishingOptions" : "BookletOptions");
 }
 
-OSStatus RunModalBookletCreationDialog(_BookletCreationParams& params)
+OSStatus RunModalBookletCreationDialog(const Bundle& bundle, Booklet& booklet)
 {
-    return booklet::RunModalBookletDialog(params, "BookletCreation");
+    return booklet::RunModalBookletDialog(bundle, booklet, "BookletCreation");
 }
 
 } // namespace kesta

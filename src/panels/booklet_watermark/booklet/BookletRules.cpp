@@ -1,7 +1,7 @@
 #include "panels/booklet_watermark/booklet/BookletRules.h"
 
 #include "pde/interface/TicketKeys.h"
-#include "platform/printsystem/Ticket.h"
+#include "printer/FinishingKinds.h"
 
 #include <array>
 
@@ -25,12 +25,11 @@ struct Illustration {
     const char* withBorders;
 };
 constexpr auto kIllustrations = std::to_array<Illustration>({
-    {kBookletFold, "BookletCreation_Fold.gif", "BookletCreation_Booklet-Fold.gif",
+    {kFoldBi, "BookletCreation_Fold.gif", "BookletCreation_Booklet-Fold.gif",
      "BookletCreation_Booklet-Fold-Outlines.gif"},
-    {kBookletFoldAndStaple, "BookletCreation_Fold-Staple.gif", "BookletCreation_Booklet-Fold-Staple.gif",
+    {kFoldBiStaple, "BookletCreation_Fold-Staple.gif", "BookletCreation_Booklet-Fold-Staple.gif",
      "BookletCreation_Booklet-Fold-Staple-Outlines.gif"},
-    {kBookletFoldNone, "BookletCreation_None.gif", "BookletCreation_Booklet.gif",
-     "BookletCreation_Booklet-Outlines.gif"},
+    {kNotFinished, "BookletCreation_None.gif", "BookletCreation_Booklet.gif", "BookletCreation_Booklet-Outlines.gif"},
 });
 
 const Illustration& IllustrationFor(SInt32 fold)
@@ -54,12 +53,12 @@ bool SpecialPagesLockBooklet(const Ticket& settings)
     return HoldsEntries(settings, key::SpecialPagesBackCover).value_or(false);
 }
 
-const char* BookletIllustration(SInt32 layout, SInt32 fold, SInt32 drawOutlines)
+const char* BookletIllustration(const Booklet& booklet)
 {
-    const Illustration& row = IllustrationFor(fold);
-    if (layout != kBookletLayoutOn)
+    const Illustration& row = IllustrationFor(booklet.fold);
+    if (!booklet.isOn())
         return row.layoutOff;
-    return drawOutlines == kDrawPageBorders ? row.withBorders : row.layoutOn;
+    return booklet.drawOutlines == kDrawPageBorders ? row.withBorders : row.layoutOn;
 }
 
 } // namespace kesta

@@ -73,6 +73,15 @@ std::string_view GlyphName(std::size_t index, const std::vector<std::string_view
     return index < strings.size() && IsPlainName(strings[index]) ? strings[index] : std::string_view();
 }
 
+// As many strings as the glyphs refer to.
+std::size_t NamedStrings(SfntReader& reader, std::uint64_t indices, std::size_t glyphCount)
+{
+    std::size_t most = 0;
+    for (std::size_t glyph = 0; glyph < glyphCount; ++glyph)
+        most = std::max<std::size_t>(most, reader.u16(indices + 2 * glyph));
+    return most < _macGlyphEncoding.size() ? 0 : most - _macGlyphEncoding.size() + 1;
+}
+
 // False when the table and the font differ about the number of glyphs, or the file ends before.
 bool ReadNames(TrueTypeFont& truetype, QByteArrayView font, SfntReader& reader, const SfntTable& post)
 {
@@ -82,7 +91,7 @@ bool ReadNames(TrueTypeFont& truetype, QByteArrayView font, SfntReader& reader, 
         return false;
 
     const std::uint64_t end = std::min(post.offset + std::uint64_t{post.length}, reader.size());
-    const auto strings = ReadStrings(font, indices + size, end, truetype.glyphCount);
+    const auto strings = ReadStrings(font, indices + size, end, NamedStrings(reader, indices, truetype.glyphCount));
     truetype.names.resize(truetype.glyphCount);
     for (std::uint64_t entry = indices; std::string_view & name : truetype.names) {
         name = GlyphName(reader.u16(entry), strings);

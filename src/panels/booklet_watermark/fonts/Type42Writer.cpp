@@ -36,9 +36,10 @@ public:
         end_ = std::to_chars(end_, end_ + 10, number).ptr;
         return *this;
     }
-    TextCursor& fixed(SInt32 number, int decimals) // 16.16
+    TextCursor& fixed(SInt32 number, int decimals) // 16.16, rounded as printf does
     {
-        return *this << QByteArray::number(number / 65536.0, 'f', decimals).toStdString();
+        end_ = std::to_chars(end_, end_ + 24, number / 65536.0, std::chars_format::fixed, decimals).ptr;
+        return *this;
     }
 
 private:

@@ -40,7 +40,7 @@ OSStatus SyncSeparatorsToTicket(Ticket* settings, SInt32 option, const Stock& st
 {
     if (!settings)
         return kMissingArgument;
-    const TicketWriter ticket(*settings, kSeparatorClient);
+    const TicketWriter ticket(*settings, kPlaceholderClient);
     const OSStatus status = WriteTicketValue(ticket, key::SeparatorOption, option);
     return option == kSeparatorsNone ? status : WriteTicketValue(ticket, key::SeparatorColor, stock.color());
 }
