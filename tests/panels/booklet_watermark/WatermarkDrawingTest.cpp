@@ -326,7 +326,7 @@ TEST_F(WatermarkDrawing, HostilePicturesDrawNothingAndAreNamed)
          QByteArray("BM") +
              QByteArray::fromHex("360000000000000036000000"
                                  "28000000"
-                                 "a0860100a0860100"
+                                 "204e0000204e0000"
                                  "01001800") +
              QByteArray(40, '\0'),
          PictureProblem::TooLarge},

@@ -94,6 +94,20 @@ ConvertedFont convertFont(QAnyStringView storeFile, const QString& name)
     return converted;
 }
 
+FontCheck CheckFont(const _WatermarkData& record)
+{
+    if (record.text.isEmpty())
+        return {{}, FontProblem::NoText};
+    const FontChoice font = ChooseFont(record.fontName.get(), record.text.get());
+    if (!font.typeface)
+        return {{}, FontProblem::NoFont};
+    FontCheck check{{font.typeface->file().displayName, font.isSubstitute, font.line.missing, PictureProblem::None},
+                    ProblemOf(font.typeface->sendability())};
+    if (check.problem == FontProblem::None && MakeFontProgram(*font.typeface, font.line.glyphs).isEmpty())
+        check.problem = FontProblem::Damaged;
+    return check;
+}
+
 void DropFont(QAnyStringView storeFile, const _WatermarkData& removed)
 {
     const QString key = FontKey(removed);

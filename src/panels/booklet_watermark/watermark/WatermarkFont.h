@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panels/booklet_watermark/watermark/WatermarkData.h"
+#include "panels/booklet_watermark/watermark/WatermarkDrawing.h"
 
 namespace kesta::booklet_watermark {
 
@@ -23,6 +23,13 @@ struct ConvertedFont {
 // Makes the font program for a text watermark of the store, in the font that its drawing uses, and keeps it in the
 // store. A record whose glyphs or font have changed since it was drawn last gets the new glyphs.
 ConvertedFont convertFont(QAnyStringView storeFile, const QString& name);
+
+// How a text will be drawn and whether its font can travel, for what is not stored yet; NotStored does not occur.
+struct FontCheck {
+    WatermarkNotes notes;
+    FontProblem problem = FontProblem::None;
+};
+FontCheck CheckFont(const _WatermarkData& record);
 
 // Removes the font of a watermark that was just removed or changed from the store, unless another one there uses it.
 void DropFont(QAnyStringView storeFile, const _WatermarkData& removed);

@@ -21,6 +21,18 @@ cairo_status_t Write(void* write, const unsigned char* bytes, unsigned count)
     return isWritten ? CAIRO_STATUS_SUCCESS : CAIRO_STATUS_WRITE_ERROR;
 }
 
+void DrawPage(cairo_surface_t* surface, QSizeF page, double pixelsInPoint, const std::function<void(cairo_t*)>& draw)
+{
+    cairo_t* const context = cairo_create(surface);
+    cairo_scale(context, pixelsInPoint, -pixelsInPoint);
+    cairo_translate(context, 0, -page.height());
+    cairo_set_source_rgb(context, 1, 1, 1);
+    cairo_paint(context);
+    draw(context);
+    cairo_show_page(context);
+    cairo_destroy(context);
+}
+
 double Density(const _WatermarkData& record)
 {
     return record.text.isEmpty() ? 1 : std::clamp(record.density, 0, 100) / 100.0;
@@ -87,16 +99,21 @@ bool WritePDFPage(QSizeF page, const WriteBytes& write, const std::function<void
     cairo_surface_t* const surface =
         cairo_pdf_surface_create_for_stream(Write, const_cast<WriteBytes*>(&write), page.width(), page.height());
     cairo_pdf_surface_set_metadata(surface, CAIRO_PDF_METADATA_CREATE_DATE, kCreated);
-    cairo_t* const context = cairo_create(surface);
-    cairo_translate(context, 0, page.height());
-    cairo_scale(context, 1, -1);
-    cairo_set_source_rgb(context, 1, 1, 1);
-    cairo_paint(context);
-    draw(context);
-    cairo_show_page(context);
-    cairo_destroy(context);
+    DrawPage(surface, page, 1, draw);
     cairo_surface_finish(surface);
     const bool isWritten = cairo_surface_status(surface) == CAIRO_STATUS_SUCCESS;
+    cairo_surface_destroy(surface);
+    return isWritten;
+}
+
+bool WritePNGPage(QSizeF page, double resolution, const WriteBytes& write, const std::function<void(cairo_t*)>& draw)
+{
+    const double pixelsInPoint = resolution / 72;
+    const QSize pixels = (page * pixelsInPoint).toSize();
+    cairo_surface_t* const surface = cairo_image_surface_create(CAIRO_FORMAT_RGB24, pixels.width(), pixels.height());
+    DrawPage(surface, page, pixelsInPoint, draw);
+    const bool isWritten =
+        cairo_surface_write_to_png_stream(surface, Write, const_cast<WriteBytes*>(&write)) == CAIRO_STATUS_SUCCESS;
     cairo_surface_destroy(surface);
     return isWritten;
 }
@@ -128,7 +145,11 @@ WatermarkNotes renderSavedWatermark(QAnyStringView storeFile, const QString& nam
     _WatermarkData record;
     if (!name.isEmpty())
         loadWatermarkData(storeFile, name, record);
-    return renderWatermark(record, page, buffer, storeFile);
+    const _WatermarkData stored = record;
+    const WatermarkNotes notes = renderWatermark(record, page, buffer);
+    if (record != stored) // or its bytes would be the same
+        saveWatermarkData(storeFile, record);
+    return notes;
 }
 
 } // namespace kesta::booklet_watermark

@@ -45,6 +45,9 @@ private:
 using WriteBytes = std::function<bool(const char* bytes, std::size_t count)>;
 bool WritePDFPage(QSizeF page, const WriteBytes& write, const std::function<void(cairo_t*)>& draw);
 
+// The same as a picture of so many pixels in an inch, a PNG.
+bool WritePNGPage(QSizeF page, double resolution, const WriteBytes& write, const std::function<void(cairo_t*)>& draw);
+
 // Draws a watermark as DrawWatermark() does, on a page from (0, 0) on, a text as dense as its record says.
 WatermarkNotes DrawDenseWatermark(cairo_t* context, QSizeF page, _WatermarkData& record, QAnyStringView storeFile = {});
 
