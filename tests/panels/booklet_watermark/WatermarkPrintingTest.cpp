@@ -110,7 +110,7 @@ public:
         EXPECT_FALSE(program.isEmpty());
         test::WriteBytes(at("job.ps"), program + Showing(record, subsetName));
         RunProgram(u"gs"_s,
-                   {u"-q"_s, u"-dSAFER"_s, u"-dBATCH"_s, u"-dNOPAUSE"_s, u"-dDisableFAPI=true"_s,
+                   {u"-q"_s, u"-dSAFER"_s, u"-dBATCH"_s, u"-dNOPAUSE"_s, u"-dDisableFAPI=true"_s, u"-dGridFitTT=0"_s,
                     u"-dTextAlphaBits=4"_s, u"-sDEVICE=png16m"_s, u"-r%1"_s.arg(kResolution),
                     u"-g%1x%2"_s.arg(kPixels.width()).arg(kPixels.height()), u"-o"_s, at("job.png"), at("job.ps")});
         return Read(at("job.png"));

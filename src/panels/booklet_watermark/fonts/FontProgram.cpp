@@ -43,8 +43,9 @@ QByteArray AsType42(const Typeface& typeface, std::span<const PlacedGlyph> glyph
     truetype->names.front() = kNotdef;
     truetype->hasNames = true;
     QByteArray program;
-    const bool isWhole =
-        AppendType42(subset->font, *truetype, EncodingOf(subset->glyphs, truetype->names), fontName, program);
+    const auto directory = static_cast<qsizetype>(truetype->tableOffsets.front());
+    const bool isWhole = AppendType42(subset->font, *truetype, EncodingOf(subset->glyphs, truetype->names), fontName,
+                                      program, directory);
     return isWhole ? program : QByteArray();
 }
 

@@ -49,7 +49,8 @@ private:
 std::size_t RoomFor(const TrueTypeFont& truetype, const Encoding& encoding, std::size_t fontSize,
                     const QByteArray& fontName)
 {
-    std::size_t room = kMostInHeader + static_cast<std::size_t>(fontName.size()) + RoomForStrings(fontSize);
+    std::size_t room =
+        kMostInHeader + static_cast<std::size_t>(fontName.size()) + RoomForStrings(fontSize) + RoomForStrings(0);
     for (const std::string_view name : encoding)
         room += name.size() + kMostBesideName;
     for (const std::string_view name : truetype.names)
@@ -122,17 +123,31 @@ void WriteCharStrings(TextCursor& out, const TrueTypeFont& truetype)
     out << "end readonly def\nFontName currentdict end definefont pop\n";
 }
 
+// The offsets counted from a place in the font, those behind it.
+std::vector<std::uint64_t> Behind(const std::vector<std::uint64_t>& offsets, qsizetype place)
+{
+    std::vector<std::uint64_t> behind;
+    behind.reserve(offsets.size());
+    for (const std::uint64_t offset : offsets)
+        if (offset > static_cast<std::uint64_t>(place))
+            behind.push_back(offset - static_cast<std::uint64_t>(place));
+    return behind;
+}
+
 } // namespace
 
 bool AppendType42(QByteArrayView font, const TrueTypeFont& truetype, const Encoding& encoding,
-                  const QByteArray& fontName, QByteArray& output)
+                  const QByteArray& fontName, QByteArray& output, qsizetype firstString)
 {
     const qsizetype before = output.size();
     output.resize(before +
                   static_cast<qsizetype>(RoomFor(truetype, encoding, static_cast<std::size_t>(font.size()), fontName)));
     TextCursor out(output.data() + before);
     WriteHeader(out, truetype, encoding, fontName);
-    const WrittenStrings strings = WriteStrings(font, truetype.tableOffsets, truetype.glyphOffsets, out.end());
+    if (firstString > 0)
+        out.moveTo(WriteStrings(font.first(firstString), {}, {}, out.end()).end);
+    const WrittenStrings strings = WriteStrings(font.sliced(firstString), Behind(truetype.tableOffsets, firstString),
+                                                Behind(truetype.glyphOffsets, firstString), out.end());
     out.moveTo(strings.end);
     if (strings.areComplete) {
         out << "] def\n";
