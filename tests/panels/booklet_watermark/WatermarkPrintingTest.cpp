@@ -209,7 +209,7 @@ INSTANTIATE_TEST_SUITE_P(All, WatermarkFonts, testing::ValuesIn(kCases), CaseNam
 
 TEST_F(WatermarkPrinting, LongTextsHaveAllGlyphsAndCodesForTheFirst256)
 {
-    const Case what{"", "LiberationSans", "", 9, 50, false};
+    const Case what{"", "LiberationSans-Bold", "", 10, 50, false};
     _WatermarkData record = RecordOf(what);
     ASSERT_TRUE(record.text.set(QString(u'i').repeated(260) + QString(u'W').repeated(4)));
     const QString name = record.text.get();

@@ -43,9 +43,10 @@ QByteArray AsType42(const Typeface& typeface, std::span<const PlacedGlyph> glyph
     truetype->names.front() = kNotdef;
     truetype->hasNames = true;
     QByteArray program;
-    const auto directory = static_cast<qsizetype>(truetype->tableOffsets.front());
+    // Some programs look at the directory when a string has gone on behind it, and want most of the font to come yet.
+    const auto firstTable = static_cast<qsizetype>(truetype->tableOffsets.at(1));
     const bool isWhole = AppendType42(subset->font, *truetype, EncodingOf(subset->glyphs, truetype->names), fontName,
-                                      program, directory);
+                                      program, firstTable);
     return isWhole ? program : QByteArray();
 }
 
