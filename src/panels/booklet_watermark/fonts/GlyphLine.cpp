@@ -64,9 +64,10 @@ void AppendItem(GlyphLine& line, const Typeface& typeface, const std::u32string&
     const hb_glyph_info_t* infos = hb_buffer_get_glyph_infos(buffer.get(), &count);
     const hb_glyph_position_t* positions = hb_buffer_get_glyph_positions(buffer.get(), &count);
     for (unsigned i = 0; i < count; ++i) {
-        line.glyphs.push_back({static_cast<std::uint16_t>(infos[i].codepoint), positions[i].x_offset,
-                               positions[i].y_offset, positions[i].x_advance});
-        if (infos[i].codepoint == 0)
+        const bool isThere = infos[i].codepoint > 0 && infos[i].codepoint < typeface.glyphCount(); // not in every font
+        line.glyphs.push_back({isThere ? static_cast<std::uint16_t>(infos[i].codepoint) : std::uint16_t{0},
+                               positions[i].x_offset, positions[i].y_offset, positions[i].x_advance});
+        if (!isThere)
             AddMissing(line.missing, text, item, infos[i].cluster, typeface);
     }
 }
