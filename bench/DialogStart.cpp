@@ -1,5 +1,6 @@
-// From exec to all options shown and gone again, and peak memory: kesta-print beside Qt's own print dialog with its
-// options tab, on the same queue, run by turns. Needs KESTA_BENCH_QUEUE and CUPS_SERVER; scripts/bench sets both.
+// From exec to exit, and peak memory: kesta-print with all options shown and gone again beside Qt's own print dialog
+// with its options tab, and kesta-print that sends a document without a dialog beside lp, on the same queue, run by
+// turns. Needs KESTA_BENCH_QUEUE and CUPS_SERVER; scripts/bench sets both.
 
 #include <benchmark/benchmark.h>
 
@@ -57,17 +58,8 @@ double Median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
-void DialogStart(benchmark::State& state)
+void Compare(benchmark::State& state, const std::vector<std::string>& ours, const std::vector<std::string>& peer)
 {
-    const char* queue = std::getenv("KESTA_BENCH_QUEUE");
-    const char* script = std::getenv("KESTA_BENCH_SCRIPT");
-    if (!queue || !script) {
-        state.SkipWithError("run this through scripts/bench");
-        return;
-    }
-    const std::vector<std::string> ours{KESTA_PRINT, "-d", queue, "--script", script};
-    const std::vector<std::string> peer{PEER, queue};
-
     std::vector<double> ourTimes, peerTimes, ourPeaks, peerPeaks;
     for (auto _ : state) {
         const Run a = RunOnce(ours);
@@ -89,7 +81,30 @@ void DialogStart(benchmark::State& state)
     state.counters["peer_MiB"] = Median(peerPeaks);
 }
 
+const char* Given(benchmark::State& state, const char* variable)
+{
+    const char* value = std::getenv(variable);
+    if (!value)
+        state.SkipWithError("run this through scripts/bench");
+    return value;
+}
+
+void DialogStart(benchmark::State& state)
+{
+    const char* queue = Given(state, "KESTA_BENCH_QUEUE");
+    const char* script = Given(state, "KESTA_BENCH_SCRIPT");
+    if (queue && script)
+        Compare(state, {KESTA_PRINT, "-d", queue, "--script", script}, {PEER, queue});
+}
+
+void Submission(benchmark::State& state)
+{
+    if (const char* queue = Given(state, "KESTA_BENCH_QUEUE"))
+        Compare(state, {KESTA_PRINT, "-d", queue, "--no-dialog", SAMPLE}, {"/usr/bin/lp", "-d", queue, SAMPLE});
+}
+
 BENCHMARK(DialogStart)->UseManualTime()->Iterations(25)->Unit(benchmark::kMillisecond);
+BENCHMARK(Submission)->UseManualTime()->Iterations(25)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -64,15 +64,22 @@ function(kesta_bundle_resources target name folder)
   add_custom_target(${target} ALL DEPENDS ${outputs})
 endfunction()
 
+# A ctest entry: a command that runs with a home of its own, for at most so many seconds, and with these variables.
+function(kesta_add_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "TIMEOUT;FOLDER" "COMMAND;ENVIRONMENT") # keeps semicolons
+  add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/own-home ${ARG_COMMAND})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "${ARG_ENVIRONMENT}")
+  if(ARG_FOLDER)
+    set_tests_properties(${name} PROPERTIES WORKING_DIRECTORY ${ARG_FOLDER})
+  endif()
+endfunction()
+
 # One test program and its ctest entry. UI tests run on the offscreen platform.
 function(kesta_test name)
   cmake_parse_arguments(ARG "UI" "" "SOURCES;USES" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE ${ARG_USES} $<IF:$<BOOL:${ARG_UI}>,GTest::gtest,GTest::gtest_main>)
-  add_test(NAME ${name} COMMAND ${name})
-  set_tests_properties(${name} PROPERTIES TIMEOUT 120)
-  if(ARG_UI)
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
-  endif()
+  kesta_add_test(${name} TIMEOUT 120 COMMAND $<TARGET_FILE:${name}>
+    ENVIRONMENT $<$<BOOL:${ARG_UI}>:QT_QPA_PLATFORM=offscreen>)
 endfunction()

@@ -26,7 +26,7 @@ void CheckSettings(const QByteArray& bytes)
     JobTickets tickets;
     tickets.pageFormat.set("client", "key", true);
     const QByteArray before = WriteJobSettings(tickets);
-    const std::optional<QString> problem = ReadJobSettings(bytes, tickets);
+    const std::optional<Message> problem = ReadJobSettings(bytes, tickets);
     const QByteArray after = WriteJobSettings(tickets);
     Require(!problem || after == before);
     Require(!ReadJobSettings(after, tickets) && WriteJobSettings(tickets) == after);

@@ -1,11 +1,13 @@
 // kesta-print: a print dialog, and lp with the pane's options.
 
 #include "host/commandline/Console.h"
+#include "host/commandline/DialogCaller.h"
 #include "host/commandline/NoDialog.h"
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/QtTexts.h"
 #include "host/script/ScriptPlayer.h"
-#include "platform/plugins/Bundle.h"
+#include "platform/plugins/BundlePlaces.h"
+#include "platform/plugins/Sentence.h"
 #include "platform/system/FileChooser.h"
 #include "platform/system/SafeFile.h"
 #include "toolkit/style/KestaStyle.h"
@@ -25,9 +27,9 @@ using namespace Qt::StringLiterals;
 namespace kesta::host {
 namespace {
 
-int Fail(const QString& reason)
+int Fail(const Message& reason, const Bundle& texts)
 {
-    PrintFailure(reason);
+    PrintFailure(reason, texts);
     return 1;
 }
 
@@ -80,71 +82,96 @@ QStringList TranslationsOf(const QString& key, const Bundle& texts)
     return found;
 }
 
+// The program's own bundle with its texts.
+BundleOrError LoadTexts()
+{
+    const QStringList places = BundlePlaces(u"KestaPrint.bundle"_s);
+    const QString folder = FindBundleFolder(places);
+    return folder.isEmpty() ? BundleOrError{nullptr, Say("Bundle Missing", places.join(u", "_s))}
+                            : LoadBundleAt(folder);
+}
+
 // The plug-in with its panels; an error when a panel is missing, which a pane would wait for without end.
-PlugInOrError PreparePlugIn(const QStringList& panels)
+PlugInOrError PreparePlugIn(const QStringList& panels, const Bundle& texts)
 {
     PlugInOrError loaded = LoadPlugIn();
     if (loaded.plugIn) {
-        if (const std::optional<QString> problem = ChoosePanels(*loaded.plugIn, panels))
+        if (const std::optional<Message> problem = ChoosePanels(*loaded.plugIn, panels))
             loaded = {{}, *problem};
     }
     if (!loaded.plugIn)
-        Fail(loaded.error);
+        PrintFailure(loaded.error, texts);
     return loaded;
 }
 
-int RunDialog(const CommandLine& commandLine)
+// The program's exit status.
+int PlayDialog(PrintDialog& dialog, DialogScript script, const Bundle& texts)
 {
-    const QStringList places = BundlePlaces(u"KestaPrint.bundle"_s);
-    const auto [texts, error] = LoadBundleAt(FindBundleFolder(places));
-    if (!texts)
-        return Fail(
-            u"the dialog's own files (KestaPrint.bundle) can't be read in %1: %2"_s.arg(places.join(u", "_s), error));
-    const auto qtTexts = InstallQtTexts(*texts);
-    QApplication::setLayoutDirection(QLocale(TextsLanguage(*texts)).textDirection());
+    const ScriptPlayer player(std::move(script), dialog,
+                              [&texts](const QString& key) { return TranslationsOf(key, texts); });
+    const int status = ExitStatus(dialog.run().end, true);
+    const std::optional<QString> fault = player.fault();
+    return fault ? FailScript(*fault) : status;
+}
+
+int RunDialog(const CommandLine& commandLine, const Bundle& texts)
+{
+    const auto qtTexts = InstallQtTexts(texts);
+    QApplication::setLayoutDirection(QLocale(TextsLanguage(texts)).textDirection());
     const bool isScripted = !commandLine.scriptPath.isEmpty();
     if (isScripted)
         FileChooser::install(nullptr); // a script can't answer the desktop's file dialog
     DialogScript script = ReadScript(commandLine.scriptPath);
     if (!script.error.isEmpty())
         return FailScript(script.error);
-    PlugInOrError plugIn = PreparePlugIn(commandLine.panels);
+    PlugInOrError plugIn = PreparePlugIn(commandLine.panels, texts);
     if (!plugIn.plugIn && !commandLine.panels.isEmpty()) // the panels were asked for
         return 1;
+    auto [request, problem] = DialogRequest(commandLine, texts);
+    if (!problem.isEmpty())
+        return Fail(problem, texts);
 
-    PrintDialog dialog(
-        {.commandLine = commandLine, .texts = texts, .plugIn = std::move(plugIn), .scripted = isScripted});
-    if (const std::optional<QString> problem = dialog.prepare())
-        return Fail(*problem);
-    if (!isScripted)
-        return dialog.run();
-    const ScriptPlayer player(std::move(script), dialog,
-                              [bundle = texts](const QString& key) { return TranslationsOf(key, *bundle); });
-    const int status = dialog.run();
-    if (const std::optional<QString> fault = player.fault())
-        return FailScript(*fault);
-    return status;
+    PrintDialog dialog({.request = std::move(request),
+                        .texts = &texts,
+                        .plugIn = std::move(plugIn),
+                        .send = DialogSender(commandLine, texts),
+                        .failed = [&texts](const Message& reason) { PrintFailure(reason, texts); },
+                        .noted = [&texts](const Message& note) { PrintNote(note, texts); },
+                        .scripted = isScripted});
+    if (const std::optional<Message> fault = dialog.prepare())
+        return Fail(*fault, texts);
+    return isScripted ? PlayDialog(dialog, std::move(script), texts) : ExitStatus(dialog.run().end, false);
+}
+
+// What needs no window, and what there is to say when there can be none.
+int RunOnConsole(const CommandLineResult& parsed)
+{
+    const BundleOrError loaded = LoadTexts();
+    const Bundle& texts = loaded.bundle ? *loaded.bundle : HostTexts(); // it can print without its words, too
+    if (!parsed.error.isEmpty())
+        return Fail(parsed.error, texts);
+    if (RunsWithoutDialog(parsed.commandLine))
+        return RunWithoutDialog(parsed.commandLine, texts);
+    return Fail(Say("No Display"), texts);
 }
 
 int Run(int argc, char** argv)
 {
     const std::span<const char* const> arguments(argv + 1, argc > 0 ? static_cast<std::size_t>(argc) - 1 : 0);
     const CommandLineResult parsed = ParseCommandLine(arguments);
-    if (!parsed.error.isEmpty())
-        return Fail(parsed.error);
     const CommandLine& commandLine = parsed.commandLine;
     int programOnly = 1; // the options are ours, not Qt's
-    if (RunsWithoutDialog(commandLine)) {
+    if (!parsed.error.isEmpty() || RunsWithoutDialog(commandLine) || !ChooseScreen(commandLine)) {
         const QCoreApplication application(programOnly, argv);
-        return RunWithoutDialog(commandLine);
+        return RunOnConsole(parsed);
     }
-    if (!ChooseScreen(commandLine))
-        return Fail(u"there is no display to show the dialog on: use --no-dialog or --script FILE"_s);
     qInstallMessageHandler(WriteMessage);
     QApplication application(programOnly, argv);
     InstallKestaStyle(application);
     InstallToolkitServices();
-    return RunDialog(commandLine);
+    const BundleOrError texts = LoadTexts();
+    return texts.bundle ? RunDialog(commandLine, *texts.bundle)
+                        : Fail(Say("Own Files Missing", texts.error), HostTexts());
 }
 
 } // namespace

@@ -1,20 +1,26 @@
 #include "model/SpecialPageList.h"
 
 #include <algorithm>
+#include <iterator>
+#include <map>
+#include <utility>
 
 namespace kesta {
 namespace {
 
-template <class Page> bool AreAll(const SpecialPages& pages)
+using Page = std::unique_ptr<SpecialPage>;
+
+template <class Kind> bool AreAll(const SpecialPages& pages)
 {
-    return std::ranges::all_of(pages, [](const SpecialPage* page) { return dynamic_cast<const Page*>(page); });
+    return std::ranges::all_of(pages, [](const SpecialPage* page) { return dynamic_cast<const Kind*>(page); });
 }
 
-std::vector<PageSequence::Page> Clones(const SpecialPages& pages)
+// Of owned pages or of such that are not.
+std::vector<Page> Clones(const auto& pages)
 {
-    std::vector<PageSequence::Page> clones;
+    std::vector<Page> clones;
     clones.reserve(pages.size());
-    for (const SpecialPage* page : pages)
+    for (const auto& page : pages)
         clones.push_back(page->clone());
     return clones;
 }
@@ -25,37 +31,97 @@ SInt32 LastPage(const SpecialPage& exception)
     return std::max(exception.startPage(), static_cast<const ExceptionPage&>(exception).endPage());
 }
 
+// Exception pages of which no two have a page in common, by start page.
+using Exceptions = std::multimap<SInt32, Page>;
+
+// The first that has the page or lies behind it.
+Exceptions::iterator FirstFrom(SInt32 page, Exceptions& exceptions)
+{
+    const auto behind = exceptions.lower_bound(page);
+    if (behind == exceptions.begin())
+        return behind;
+    const auto before = std::prev(behind);
+    return LastPage(*before->second) < page ? behind : before;
+}
+
+void Place(Page exception, Exceptions& exceptions)
+{
+    const SInt32 start = exception->startPage(), end = LastPage(*exception);
+    auto place = FirstFrom(start, exceptions);
+    while (place != exceptions.end() && place->first <= end) {
+        SpecialPage& there = *place->second;
+        const bool goesOnBehind = end < LastPage(there);
+        Page rest;
+        if (there.startPage() < start) {
+            if (goesOnBehind)
+                rest = there.clone();
+            static_cast<ExceptionPage&>(there).setEndPage(start - 1);
+            ++place;
+        } else {
+            if (goesOnBehind)
+                rest = std::move(place->second);
+            place = exceptions.erase(place);
+        }
+        if (rest) {
+            rest->setStartPage(end + 1);
+            place = exceptions.emplace_hint(place, end + 1, std::move(rest));
+        }
+    }
+    exceptions.emplace_hint(place, start, std::move(exception));
+}
+
 } // namespace
+
+SpecialPageList::SpecialPageList(const SpecialPageList& other) : pages_(Clones(other.pages_)) {}
+
+SpecialPageList& SpecialPageList::operator=(const SpecialPageList& other)
+{
+    pages_ = Clones(other.pages_);
+    return *this;
+}
 
 SpecialPage* SpecialPageList::pageAtIndex(CFIndex index) const
 {
-    return index < 0 ? nullptr : pages_.at(pages_.placeOf(static_cast<std::size_t>(index)));
+    return index < 0 || index >= static_cast<CFIndex>(count()) ? nullptr
+                                                               : pages_[static_cast<std::size_t>(index)].get();
 }
 
 CFIndex SpecialPageList::indexOfPage(const SpecialPage* page) const
 {
-    const auto index = pages_.indexOf(page);
-    return index ? static_cast<CFIndex>(*index) : -1;
+    const auto found = std::ranges::find(pages_, page, &Page::get);
+    return found == pages_.end() ? -1 : static_cast<CFIndex>(found - pages_.begin());
 }
 
 OSStatus SpecialPageList::remove(const SpecialPage* page)
 {
-    const auto index = pages_.indexOf(page);
-    if (!index)
-        return -1;
-    pages_.erase(pages_.placeOf(*index));
-    return noErr;
+    return std::erase_if(pages_, [page](const Page& one) { return one.get() == page; }) > 0 ? noErr : -1;
+}
+
+void SpecialPageList::remove(const ChosenPages& pages)
+{
+    std::erase_if(pages_, [&](const Page& one) { return pages.contains(one.get()); });
+}
+
+SpecialPages SpecialPageList::pages() const
+{
+    SpecialPages pages;
+    pages.reserve(count());
+    for (const Page& page : pages_)
+        pages.push_back(page.get());
+    return pages;
 }
 
 OSStatus SpecialPageList::update(const SpecialPage* page, const SpecialPages& newPages)
 {
-    const auto index = pages_.indexOf(page);
-    if (!index)
+    const auto found = std::ranges::find(pages_, page, &Page::get);
+    if (found == pages_.end())
         return noErr;
-    PageSequence::Page old = pages_.take(*index);
+    const auto index = found - pages_.begin();
+    Page old = std::move(*found);
+    pages_.erase(found);
     const OSStatus status = add(newPages);
     if (status != noErr)
-        pages_.insert(pages_.placeOf(*index), std::move(old));
+        pages_.insert(pages_.begin() + index, std::move(old));
     return status;
 }
 
@@ -65,8 +131,7 @@ std::optional<Array> SpecialPageList::asTicket() const
         return std::nullopt;
     Array ticket;
     ticket.reserve(count());
-    for (PageSequence::Place place = pages_.placeOf(0); const SpecialPage* page = pages_.at(place);
-         place = pages_.next(place))
+    for (const Page& page : pages_)
         ticket.emplace_back(page->asTicket());
     return ticket;
 }
@@ -77,17 +142,18 @@ OSStatus InsertList::add(const SpecialPages& inserts)
 {
     if (!AreAll<Insert>(inserts))
         return kMissingArgument;
-    std::vector<PageSequence::Page> added = Clones(inserts);
-    std::ranges::stable_sort(added, {}, [](const PageSequence::Page& page) { return page->startPage(); });
+    std::vector<Page> added = Clones(inserts);
+    std::ranges::stable_sort(added, {}, [](const Page& page) { return page->startPage(); });
 
+    std::vector<Page> before = std::exchange(pages_, {});
+    pages_.reserve(before.size() + added.size());
     auto next = added.begin();
-    for (PageSequence::Page& page : pages_.takeAll()) {
+    for (Page& page : before) {
         for (; next != added.end() && (*next)->startPage() < page->startPage(); ++next)
-            pages_.append(std::move(*next));
-        pages_.append(std::move(page));
+            pages_.push_back(std::move(*next));
+        pages_.push_back(std::move(page));
     }
-    for (; next != added.end(); ++next)
-        pages_.append(std::move(*next));
+    std::move(next, added.end(), std::back_inserter(pages_));
     return noErr;
 }
 
@@ -106,8 +172,8 @@ void InsertList::promote(const SpecialPage* insert)
 {
     if (!canPromote(insert))
         return;
-    const std::size_t index = *pages_.indexOf(insert);
-    pages_.swap(index, index - 1);
+    const auto index = static_cast<std::size_t>(indexOfPage(insert));
+    pages_[index].swap(pages_[index - 1]);
 }
 
 bool InsertList::canDemote(const SpecialPage* insert) const
@@ -121,42 +187,40 @@ void InsertList::demote(const SpecialPage* insert)
 {
     if (!canDemote(insert))
         return;
-    const std::size_t index = *pages_.indexOf(insert);
-    pages_.swap(index, index + 1);
+    const auto index = static_cast<std::size_t>(indexOfPage(insert));
+    pages_[index].swap(pages_[index + 1]);
+}
+
+void InsertList::promote(const ChosenPages& inserts)
+{
+    for (std::size_t i = 1; i < pages_.size(); ++i) {
+        if (inserts.contains(pages_[i].get()) && pages_[i - 1]->startPage() != 0)
+            pages_[i].swap(pages_[i - 1]);
+    }
+}
+
+void InsertList::demote(const ChosenPages& inserts)
+{
+    for (std::size_t i = pages_.size(); i-- > 1;) {
+        if (inserts.contains(pages_[i - 1].get()) && pages_[i]->startPage() != 0)
+            pages_[i].swap(pages_[i - 1]);
+    }
 }
 
 OSStatus ExceptionPageList::add(const SpecialPages& exceptions)
 {
     if (!AreAll<ExceptionPage>(exceptions))
         return kMissingArgument;
-    for (PageSequence::Page& added : Clones(exceptions)) // of all first: some may be in this list and leave it
-        place(std::move(added));
+    std::vector<Page> added = Clones(exceptions); // of all first: some may be in this list and leave it
+    Exceptions placed;
+    for (Page& page : pages_)
+        placed.emplace_hint(placed.end(), page->startPage(), std::move(page));
+    for (Page& exception : added)
+        Place(std::move(exception), placed);
+    pages_.clear();
+    for (auto& [start, page] : placed)
+        pages_.push_back(std::move(page));
     return noErr;
-}
-
-void ExceptionPageList::place(std::unique_ptr<SpecialPage> exception)
-{
-    const SInt32 start = exception->startPage(), end = LastPage(*exception);
-    auto place = pages_.firstBehind([start](const SpecialPage& page) { return LastPage(page) < start; });
-
-    while (SpecialPage* there = pages_.at(place)) {
-        const bool goesOnBehind = end < LastPage(*there);
-        if (there->startPage() < start) {
-            PageSequence::Page rest = goesOnBehind ? there->clone() : nullptr;
-            static_cast<ExceptionPage*>(there)->setEndPage(start - 1);
-            place = pages_.next(place);
-            if (rest) {
-                rest->setStartPage(end + 1);
-                place = pages_.insert(place, std::move(rest));
-            }
-        } else if (goesOnBehind) {
-            there->setStartPage(std::max(there->startPage(), end + 1));
-            break;
-        } else {
-            place = pages_.erase(place);
-        }
-    }
-    pages_.insert(place, std::move(exception));
 }
 
 std::unique_ptr<SpecialPageList> ExceptionPageList::clone() const

@@ -1,18 +1,24 @@
 #pragma once
 
-#include "model/PageSequence.h"
+#include "model/SpecialPage.h"
+
+#include <memory>
+#include <unordered_set>
+#include <vector>
 
 namespace kesta {
 
 // Pages to add: copied, not kept.
 using SpecialPages = std::vector<const SpecialPage*>;
+// Pages chosen among those of a list, which itself does not matter.
+using ChosenPages = std::unordered_set<const SpecialPage*>;
 
 // A list owns its pages. What decides a page's place in it (start and end page) is changed by update only.
 class SpecialPageList {
 public:
     virtual ~SpecialPageList() = default;
 
-    std::size_t count() const { return pages_.count(); }
+    std::size_t count() const { return pages_.size(); }
     virtual SpecialPage* pageAtIndex(CFIndex index) const;      // null out of range
     virtual CFIndex indexOfPage(const SpecialPage* page) const; // of this very page; -1 when absent
 
@@ -22,7 +28,9 @@ public:
     virtual std::unique_ptr<SpecialPageList> clone() const = 0;
 
     OSStatus remove(const SpecialPage* page); // -1 when absent
-    void clear() { pages_ = {}; }
+    void remove(const ChosenPages& pages);
+    SpecialPages pages() const;
+    void clear() { pages_.clear(); }
 
     // Puts new pages in the place of one; does nothing when that one is absent, and when the new ones can't be added.
     OSStatus update(const SpecialPage* page, const SpecialPages& newPages);
@@ -30,13 +38,15 @@ public:
     std::optional<Array> asTicket() const; // nothing for an empty list
 
 protected:
+    using Page = std::unique_ptr<SpecialPage>;
+
     SpecialPageList() = default;
-    SpecialPageList(const SpecialPageList&) = default; // clones the pages
+    SpecialPageList(const SpecialPageList& other); // clones the pages
     SpecialPageList(SpecialPageList&&) noexcept = default;
-    SpecialPageList& operator=(const SpecialPageList&) = default;
+    SpecialPageList& operator=(const SpecialPageList& other);
     SpecialPageList& operator=(SpecialPageList&&) noexcept = default;
 
-    PageSequence pages_;
+    std::vector<Page> pages_;
 };
 
 // Inserts by start page, those of the same page in the order of adding, but for those that were moved by hand.
@@ -50,6 +60,10 @@ public:
     void promote(const SpecialPage* insert);
     bool canDemote(const SpecialPage* insert) const;
     void demote(const SpecialPage* insert);
+
+    // The same for several, in time linear in the list: those higher up first, those further down first.
+    void promote(const ChosenPages& inserts);
+    void demote(const ChosenPages& inserts);
 };
 
 // Exception pages by start page, of which no two have a page in common: a new one takes its pages from those that had
@@ -58,9 +72,6 @@ class ExceptionPageList : public SpecialPageList {
 public:
     OSStatus add(const SpecialPages& exceptions) override;
     std::unique_ptr<SpecialPageList> clone() const override;
-
-private:
-    void place(std::unique_ptr<SpecialPage> exception);
 };
 
 } // namespace kesta

@@ -7,9 +7,6 @@ namespace {
 
 using S = StockFields;
 
-constexpr SInt32 kTypePrecutTab = 4;
-constexpr SInt32 kTypeCustom = 6;
-
 bool IsCustomSize(const S& fields)
 {
     return fields.size == kStockSizeCustom;
@@ -33,7 +30,7 @@ bool TicketIsCoated(const S&, const Dictionary& ticket)
 // Tab stock itself keeps its modulus only until it is read back.
 bool TypeHasModulus(const S& read, const Dictionary&)
 {
-    return read.type == kTypePrecutTab || read.type == kTypeCustom;
+    return read.type == kStockTypePrecutTab || read.type == kStockTypeOrdered;
 }
 
 // clang-format off

@@ -1,13 +1,11 @@
 #include "printer/PPDUtilities.h"
 
 #include "pde/ticket/TicketUtilities.h"
-#include "platform/printsystem/PPDFileCheck.h"
+#include "platform/plugins/Sentence.h"
+#include "platform/printsystem/PPDFile.h"
 #include "printer/LocalizedPPD.h"
 
-#include <QFile>
 #include <QUrl>
-
-#include <cups/ppd.h>
 
 #include <cstdio>
 #include <memory>
@@ -15,13 +13,9 @@
 namespace kesta {
 namespace {
 
-struct ClosePPD {
-    void operator()(ppd_file_t* ppd) const { ppdClose(ppd); }
-};
-
-std::unique_ptr<ppd_file_t, ClosePPD>& CurrentPPD()
+std::shared_ptr<ppd_file_t>& CurrentPPD()
 {
-    static std::unique_ptr<ppd_file_t, ClosePPD> ppd;
+    static std::shared_ptr<ppd_file_t> ppd;
     return ppd;
 }
 
@@ -36,20 +30,14 @@ std::optional<QString> CurrentPPDPath()
     return path.isEmpty() ? std::nullopt : std::optional(path);
 }
 
-ppd_file_t* OpenPPD(const QString& path)
+// As the process has it open; but what a localizer changes is for the plug-in's eyes alone.
+OpenPPD OpenLocalized(const QString& path)
 {
-    if (const std::optional<QString> problem = PPDFileProblem(path)) {
-        std::fprintf(stderr, "%s\n", qUtf8Printable(*problem));
-        return nullptr;
-    }
-    ppd_file_t* ppd = ppdOpenFile(QFile::encodeName(path).constData());
-    if (!ppd) {
-        int line = 0;
-        const char* reason = ppdErrorString(ppdLastError(&line));
-        std::fprintf(stderr, "The printer description %s can't be used: %s, line %d.\n", qUtf8Printable(path), reason,
-                     line);
-    }
-    return ppd;
+    const PPDLocalizer localize = FindPPDLocalizer();
+    OpenPPD opened = localize ? OpenPPDFile(path) : SharedPPDFile(path);
+    if (opened.ppd && localize)
+        localize(opened.ppd.get());
+    return opened;
 }
 
 } // namespace
@@ -59,8 +47,10 @@ ppd_file_t* PPDGetCurrent()
     if (CurrentPPD())
         return CurrentPPD().get();
     if (const std::optional<QString> path = CurrentPPDPath()) {
-        CurrentPPD().reset(OpenPPD(*path));
-        LocalizePPD(CurrentPPD().get());
+        const OpenPPD opened = OpenLocalized(*path);
+        if (!opened.ppd)
+            std::fprintf(stderr, "%s\n", qUtf8Printable(Sentence(opened.problem, HostTexts())));
+        CurrentPPD() = opened.ppd;
     }
     return CurrentPPD().get();
 }

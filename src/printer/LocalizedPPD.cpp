@@ -5,19 +5,15 @@
 
 namespace kesta {
 
-void LocalizePPD(ppd_file_s* ppd)
+PPDLocalizer FindPPDLocalizer()
 {
     constexpr SystemVersion kFirstLocalizing{.major = 10, .minor = 5};
     const Bundle* own = PlugInBundle();
     const std::optional<SystemVersion> version = GetSystemConfiguration().systemVersion();
-    if (!ppd || !own || !version || *version < kFirstLocalizing)
-        return;
+    if (!own || !version || *version < kFirstLocalizing)
+        return nullptr;
     const Bundle* localizer = LoadBundleAt(own->resourcesPath + QStringLiteral("/TorCups.plugin")).bundle;
-    if (!localizer)
-        return;
-    using InvokeLocalizedPPD = void (*)(ppd_file_s*);
-    if (const auto localize = reinterpret_cast<InvokeLocalizedPPD>(FunctionNamed(*localizer, "InvokeLocalizedPPD")))
-        localize(ppd);
+    return localizer ? reinterpret_cast<PPDLocalizer>(FunctionNamed(*localizer, "InvokeLocalizedPPD")) : nullptr;
 }
 
 } // namespace kesta

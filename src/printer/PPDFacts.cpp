@@ -1,9 +1,8 @@
 #include "printer/PPDFacts.h"
 
+#include "platform/printsystem/PPDFile.h"
 #include "printer/InstallableOptions.h"
 #include "printer/PPDEncoding.h"
-
-#include <cups/ppd.h>
 
 #include <algorithm>
 #include <span>
@@ -46,7 +45,7 @@ QStringList PPDCopyFittedAccessories(ppd_file_t* ppd)
         return accessories;
     const std::span groups(ppd->groups, ppd->num_groups);
     const auto group = std::ranges::find_if(
-        groups, [](const ppd_group_t& one) { return std::string_view(one.name) == "InstallableOptions"; });
+        groups, [](const ppd_group_t& one) { return std::string_view(one.name) == kInstallableOptionsGroup; });
     if (group == groups.end())
         return accessories;
     for (ppd_option_t& option : std::span(group->options, group->num_options)) {

@@ -7,10 +7,11 @@ namespace kesta {
 // The functions that make the panels' interfaces, in the order of the panels.
 inline constexpr auto _PanelInterfaces = std::to_array<const char*>({
     "GetPaperOutputPanelInterface",
+    "GetSpecialPagesPanelInterface",
     "GetColorOptionPanelInterface",
     "GetAdvancedPanelInterface",
 });
-static_assert(_PanelInterfaces.size() == 3);
+static_assert(_PanelInterfaces.size() == 4);
 
 // The panels that are plug-ins of their own, with their places below the library root.
 struct PanelPlugIn {

@@ -23,6 +23,13 @@ QByteArray ReadStandardInput()
     return text;
 }
 
+// A print server hands its SetEnv variables to the filters.
+QString KeyPath()
+{
+    const QByteArray named = qgetenv("KESTA_TICKET_KEY");
+    return QFile::decodeName(named.isEmpty() ? QByteArray(kesta::ticket_tool::kDefaultKeyPath) : named);
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -30,7 +37,8 @@ int main(int argc, char* argv[])
     QByteArrayList arguments;
     for (int i = 1; i < argc; ++i)
         arguments << argv[i];
-    const kesta::ticket_tool::Outcome outcome = kesta::ticket_tool::RunTicketTool(arguments, ReadStandardInput);
+    const kesta::ticket_tool::Outcome outcome =
+        kesta::ticket_tool::RunTicketTool(arguments, KeyPath(), ReadStandardInput);
     if (!outcome.error.isEmpty())
         std::fprintf(stderr, "%s\n", outcome.error.toLocal8Bit().constData());
     const auto size = static_cast<std::size_t>(outcome.output.size());

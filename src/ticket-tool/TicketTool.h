@@ -10,14 +10,21 @@
 namespace kesta::ticket_tool {
 
 struct Outcome {
-    int status = 0;    // the program's exit status: 0 or 1
+    int status = 0;    // the program's exit status: 0, 1 after an error, or kStatusSealed
     QByteArray output; // for standard output, as it is
-    QString error;     // one line; empty on success
+    QString error;     // one line; with status 0 a note, or empty
 };
 
-// Runs the program without its name among the arguments. "readInput" gives standard input whole; it is called only when
-// the options are to come from there.
-Outcome RunTicketTool(const QByteArrayList& arguments, const std::function<QByteArray()>& readInput);
+// Everything was written but what is sealed.
+inline constexpr int kStatusSealed = 2;
+
+// Where the private key is when neither the command line nor the environment says so.
+inline constexpr char kDefaultKeyPath[] = KESTA_TICKET_KEY_FILE;
+
+// Runs the program without its name among the arguments; "keyPath" counts where these name no other. "readInput" gives
+// standard input whole; it is called only when the options are to come from there.
+Outcome RunTicketTool(const QByteArrayList& arguments, const QString& keyPath,
+                      const std::function<QByteArray()>& readInput);
 
 // The entry at a path of keys with "/" between them; in an array a position from 0 takes the place of a key. A key that
 // itself has a "/" is found too. Null when there is none.

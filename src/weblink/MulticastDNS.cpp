@@ -24,7 +24,6 @@ namespace {
 constexpr SystemVersion kResolvesLocalNames{10, 2, 3};
 constexpr SystemVersion kVersionWhenUnknown{10, 3, 0};
 constexpr int kRounds = 3;
-constexpr int kWait = 1000;                // milliseconds
 constexpr int kMostStrangersInRound = 100; // replies to others' queries; a network that never falls silent ends too
 constexpr unsigned char kTimeToLive = 255;
 constexpr in_port_t kPort = 5353;
@@ -107,9 +106,10 @@ bool Send(const Socket& socket, DNSPacket query, const std::vector<in_addr>& int
 std::optional<int> Receive(const Socket& socket, DNSPacket query, std::span<std::uint8_t> answer)
 {
     std::array<std::uint8_t, 65536> buffer;
+    const int wait = static_cast<int>(GetNameService().silence().count());
     for (int strangers = 0; strangers < kMostStrangersInRound; ++strangers) {
         pollfd waiting{socket.descriptor(), POLLIN, 0};
-        const int ready = poll(&waiting, 1, kWait);
+        const int ready = poll(&waiting, 1, wait);
         if (ready == 0)
             return std::nullopt;
         if (ready < 0 && errno == EINTR)

@@ -4,6 +4,7 @@
 
 #include <netinet/in.h>
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -26,6 +27,9 @@ public:
 
     // The IPv4 addresses of the interfaces that take multicasts, without loopback; nothing when they can't be listed.
     virtual std::optional<std::vector<in_addr>> multicastInterfaces() = 0;
+
+    // How long a multicast query waits in silence before it is sent again.
+    virtual std::chrono::milliseconds silence() const { return std::chrono::seconds(1); }
 
     // What GetNameService() answers from now on; null for the system's. Returns what was installed before, null for
     // none.

@@ -15,6 +15,9 @@ struct Rule {
     bool mayReadPPD = false;
 };
 
+// Any folder of panels/ that has no line of its own.
+constexpr std::string_view kPlainPanel = "panels/...";
+
 // Bottom to top: a folder may only name what stands above it, so that there is no cycle.
 const std::vector<Rule>& Rules()
 {
@@ -36,7 +39,7 @@ const std::vector<Rule>& Rules()
         {"weblink",
          {"platform", "toolkit", "pde/ticket", "pde/interface", "pde/menus", "pde/forms", "printer", "product"}},
         {"panels/special_pages/paper", {"<panel>"}},
-        {"panels/special_pages", {"<panel>", "panels/special_pages/paper"}},
+        {"panels/special_pages", {"<panel>", "panels/special_pages/paper", "panels/special_pages/editors"}},
         {"panels/special_pages/editors", {"<panel>", "panels/special_pages/paper"}},
         {"panels/booklet_watermark/fonts", {"platform"}},
         {"panels/booklet_watermark/booklet", {"<panel>", "panels/special_pages/paper"}},
@@ -47,9 +50,7 @@ const std::vector<Rule>& Rules()
         {"fax", {"<panel>", "panels/booklet_watermark/watermark"}},
         {"panels/paper_output", {"<panel>", "panels/special_pages/paper", "panels/booklet_watermark/booklet", "fax"}},
         {"panels/advanced", {"<panel>", "weblink"}},
-        {"panels/color_options", {"<panel>"}},
-        {"panels/image_options", {"<panel>"}},
-        {"panels/job_notes", {"<panel>"}},
+        {kPlainPanel, {"<panel>"}},
         {"pde/shell",
          {"platform", "toolkit", "pde/ticket", "pde/interface", "pde/menus", "pde/forms", "printer", "model", "product",
           "fax", "weblink"}},
@@ -57,7 +58,7 @@ const std::vector<Rule>& Rules()
         {"host/ppd", {"platform", "host/job"}, true},
         {"host/server", {"platform", "host/job"}, true},
         {"host/commandline", {"platform", "host/job", "host/ppd", "host/server"}},
-        {"host/script", {"platform", "toolkit", "host/commandline"}},
+        {"host/script", {"platform", "toolkit", "host/job", "host/commandline"}},
         {"host/pane", {"platform", "toolkit", "pde/interface"}},
         {"host/dialog",
          {"platform", "toolkit", "host/job", "host/ppd", "host/server", "host/commandline", "host/script",
@@ -73,10 +74,22 @@ const std::vector<Rule>& Rules()
 constexpr auto kBelowPanels = std::to_array<std::string_view>(
     {"platform", "toolkit", "pde/ticket", "pde/interface", "pde/menus", "pde/forms", "printer", "model", "product"});
 
-const Rule* FindRule(std::string_view folder)
+const Rule* FindExactRule(std::string_view folder)
 {
     const auto found = std::ranges::find(Rules(), folder, &Rule::folder);
     return found == Rules().end() ? nullptr : &*found;
+}
+
+bool IsPanel(std::string_view folder)
+{
+    constexpr std::string_view kPanels = "panels/";
+    return folder.starts_with(kPanels) && folder.find('/', kPanels.size()) == folder.npos;
+}
+
+const Rule* FindRule(std::string_view folder)
+{
+    const Rule* rule = FindExactRule(folder);
+    return rule || !IsPanel(folder) ? rule : FindExactRule(kPlainPanel);
 }
 
 bool IsIn(std::string_view folder, std::string_view whole)
@@ -85,9 +98,9 @@ bool IsIn(std::string_view folder, std::string_view whole)
                                whole.find('/') == whole.npos && whole != "host");
 }
 
-bool MayInclude(const Rule& rule, std::string_view target, std::string_view header)
+bool MayInclude(const Rule& rule, std::string_view folder, std::string_view target, std::string_view header)
 {
-    if (rule.folder == target)
+    if (folder == target)
         return true;
     return std::ranges::any_of(rule.mayInclude, [target, header](std::string_view allowed) {
         if (allowed == header)
@@ -136,7 +149,7 @@ std::vector<std::string> ForbiddenIncludes(const std::filesystem::path& source, 
         const std::optional<std::string> target = FolderOf(header);
         if (!target)
             found.push_back(source.string() + " includes " + header + ", which is in no folder of the architecture");
-        else if (!MayInclude(rule, *target, header))
+        else if (!MayInclude(rule, *folder, *target, header))
             found.push_back(source.string() + " includes " + header + ": no arrow from " + *folder + " to " + *target);
     }
     return found;

@@ -31,6 +31,12 @@ TEST(IncludeRules, TellsAForbiddenArrowFromAnAllowedOne)
     EXPECT_THAT(ForbiddenIncludes("host/job/A.cpp", "#include \"pde/interface/TicketKeys.h\"\n"), IsEmpty());
     EXPECT_THAT(ForbiddenIncludes("host/job/A.cpp", "#include \"pde/interface/PanelOperations.h\"\n"),
                 ElementsAre(HasSubstr("to pde/interface")));
+    EXPECT_THAT(
+        ForbiddenIncludes("panels/delivery/A.cpp", "#include \"panels/delivery/A.h\"\n#include \"model/A.h\"\n"),
+        IsEmpty());
+    EXPECT_THAT(ForbiddenIncludes("panels/delivery/A.cpp", "#include \"panels/new/A.h\"\n#include \"fax/A.h\"\n"),
+                ElementsAre(HasSubstr("to panels/new"), HasSubstr("to fax")));
+    EXPECT_THAT(ForbiddenIncludes("panels/delivery/deep/A.cpp", ""), ElementsAre(HasSubstr("in no folder")));
     EXPECT_THAT(ForbiddenIncludes("host/misc/A.cpp", ""), ElementsAre(HasSubstr("in no folder")));
     EXPECT_THAT(ForbiddenIncludes("platform/A.cpp", ""), ElementsAre(HasSubstr("in no folder")));
 }

@@ -24,6 +24,8 @@ std::vector<std::string> Literals(const std::filesystem::path& source, const std
     return found;
 }
 
+constexpr char kHostBundle[] = "com.kesta.print.host"; // the dialog's client and its bundle have the same name
+
 // What has to be spelled once: names of the system's own kind, and all that stands in the headers of keys.
 class Names {
 public:
@@ -37,12 +39,13 @@ public:
         }
         declared_.erase("MediaType");  // an option of the printer's has that name, too,
         declared_.erase("UseJobName"); // and a text
+        declared_.erase(kHostBundle);
     }
     std::size_t count() const { return declared_.size(); }
     bool contains(const std::string& literal) const
     {
         static const std::regex ours(R"(com\.(apple|kesta)\.[A-Za-z0-9_.]+)");
-        return declared_.contains(literal) || std::regex_match(literal, ours);
+        return declared_.contains(literal) || (literal != kHostBundle && std::regex_match(literal, ours));
     }
 
 private:

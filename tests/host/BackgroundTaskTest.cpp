@@ -86,13 +86,13 @@ TEST_F(BackgroundTaskTest, AfterTheDeadlineOnlyTheDeadlineCounts)
             context.deliver([&] { ++delivered; });
             cancelled = true;
         },
-        30ms, [&] { ++late; });
-    const BackgroundTask quick([&](BackgroundTask::Context& context) { context.deliver([&] { ++delivered; }); }, 300ms,
+        10ms, [&] { ++late; });
+    const BackgroundTask quick([&](BackgroundTask::Context& context) { context.deliver([&] { ++delivered; }); }, 150ms,
                                [&] { late += 100; });
     EXPECT_TRUE(Until([&] { return late > 0 && cancelled.load(); }));
     QElapsedTimer timer;
     timer.start();
-    Until([&] { return timer.elapsed() > 400; });
+    Until([&] { return timer.elapsed() > 200; });
     EXPECT_EQ(late, 1) << "the quick task's deadline says nothing after its delivery";
     EXPECT_EQ(delivered, 1) << "what comes after the deadline is dropped";
 }

@@ -1,5 +1,7 @@
 #include "host/commandline/CommandLine.h"
 
+#include "host/Words.h"
+
 #include <gtest/gtest.h>
 
 namespace kesta::host {
@@ -12,7 +14,7 @@ CommandLineResult Parse(std::vector<const char*> arguments)
 
 std::string Error(std::vector<const char*> arguments)
 {
-    return Parse(std::move(arguments)).error.toStdString();
+    return test::OnConsole(Parse(std::move(arguments)).error).toStdString();
 }
 
 TEST(CommandLineTest, ReadsEveryOption)
@@ -23,15 +25,15 @@ TEST(CommandLineTest, ReadsEveryOption)
                                             "-s",       "--settings",      "in.plist",    "--save-settings=out.plist",
                                             "--panels", "One,Two",         "--no-dialog", "--",
                                             "-odd.pdf"});
-    ASSERT_EQ(result.error, QString());
+    ASSERT_TRUE(result.error.isEmpty());
     CommandLine expected;
     expected.queue = QStringLiteral("Kesta/draft");
-    expected.copies = 3;
-    expected.pageRanges = QStringLiteral("1-4,7,16-");
+    expected.presets.copies = 3;
+    expected.presets.pageRanges = QStringLiteral("1-4,7,16-");
     expected.title = QStringLiteral("Report");
-    expected.options = {{QStringLiteral("A"), QStringLiteral("1")},
-                        {QStringLiteral("B"), QStringLiteral("false")},
-                        {QStringLiteral("C"), QStringLiteral("x y")}};
+    expected.presets.options = {{QStringLiteral("A"), QStringLiteral("1")},
+                                {QStringLiteral("B"), QStringLiteral("false")},
+                                {QStringLiteral("C"), QStringLiteral("x y")}};
     expected.server = QStringLiteral("host:8631");
     expected.silent = true;
     expected.settingsPath = QStringLiteral("in.plist");
@@ -53,16 +55,17 @@ TEST(CommandLineTest, ReadsEveryOption)
 
 TEST(CommandLineTest, LettersJoinAsInLp)
 {
-    EXPECT_EQ(Parse({"-n2"}).commandLine.copies, 2);
+    EXPECT_EQ(Parse({"-n2"}).commandLine.presets.copies, 2);
     const CommandLine joined = Parse({"-sdKesta", "a.pdf", "-sn", "4", "b.pdf"}).commandLine;
     EXPECT_TRUE(joined.silent);
     EXPECT_EQ(joined.queue, QStringLiteral("Kesta"));
-    EXPECT_EQ(joined.copies, 4);
+    EXPECT_EQ(joined.presets.copies, 4);
     EXPECT_EQ(joined.files, (QByteArrayList{"a.pdf", "b.pdf"}));
     EXPECT_TRUE(Parse({"-"}).commandLine.files.isEmpty());
-    EXPECT_EQ(Parse({"-o", "X=1", "-ox=2"}).commandLine.options,
+    EXPECT_EQ(Parse({"-o", "X=1", "-ox=2"}).commandLine.presets.options,
               (JobOptions{{QStringLiteral("X"), QStringLiteral("2")}}));
-    EXPECT_EQ(Parse({"-t", ""}).error, QString());
+    EXPECT_EQ(Parse({"-t", ""}).commandLine.title, QString());
+    EXPECT_EQ(Parse({}).commandLine.title, std::nullopt);
 }
 
 TEST(CommandLineTest, RefusesWhatMeansNothing)

@@ -1,6 +1,7 @@
 #include "host/ppd/Constraints.h"
 #include "host/ppd/ListOptions.h"
 
+#include "host/Words.h"
 #include "support/PPDVariant.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace kesta::host {
 namespace {
 
-using test::PPDVariant;
+using kesta::test::PPDVariant;
 
 TEST(ConstraintsTest, NamesTheConflictAndTheChangeInThePrintersWords)
 {
@@ -23,8 +24,9 @@ TEST(ConstraintsTest, NamesTheConflictAndTheChangeInThePrintersWords)
     const ConflictReport report = FindConflicts(ppd.path(), punched);
     ASSERT_EQ(report.conflicts.size(), 1u);
     const ChoiceConflict& conflict = report.conflicts.front();
-    EXPECT_TRUE(conflict.sentence.contains(u"can't be used while Punch unit is \"No punch unit\"."_s))
-        << conflict.sentence.toStdString();
+    const QString sentence = test::OnConsole(conflict.sentence);
+    EXPECT_TRUE(sentence.endsWith(u"can’t be used while Punch unit is “No punch unit”."_s)) << sentence.toStdString();
+    EXPECT_EQ(test::OnConsole(conflict.changes.at(0).text).section(u' ', 0, 0), u"Set"_s);
     ASSERT_EQ(conflict.changes.size(), 1u);
     EXPECT_EQ(conflict.changes[0].keyword, u"KSPunch"_s);
     EXPECT_EQ(conflict.changes[0].choice, u"None"_s);
@@ -43,7 +45,7 @@ TEST(ConstraintsTest, AllChangesTogetherLeaveNoConflictAndNoAccessoryIsTouched)
     const ConflictReport report = FindConflicts(ppd.path(), choices);
     EXPECT_GE(report.conflicts.size(), 6u);
     for (const ChoiceConflict& conflict : report.conflicts) {
-        EXPECT_FALSE(conflict.changes.empty()) << conflict.sentence.toStdString();
+        EXPECT_FALSE(conflict.changes.empty()) << test::OnConsole(conflict.sentence).toStdString();
         for (const ChoiceChange& change : conflict.changes)
             EXPECT_FALSE(change.keyword.startsWith(u"Option"_s)) << change.keyword.toStdString();
     }
@@ -63,7 +65,7 @@ TEST(ConstraintsTest, ReadsAllKindsOfRules)
     const Dictionary three{{"Duplex", "DuplexTumble"}, {"KSFold", "C"}, {"OutputBin", "Middle"}};
     const ConflictReport report = FindConflicts(ppd.path(), three);
     ASSERT_EQ(report.conflicts.size(), 1u) << "once for three options";
-    EXPECT_EQ(report.conflicts[0].sentence.count(u" and "_s), 2);
+    EXPECT_EQ(test::OnConsole(report.conflicts[0].sentence).count(u" and "_s), 2);
     EXPECT_EQ(report.conflicts[0].changes.size(), 1u);
     Dictionary two = three;
     two.set("OutputBin", "Auto");

@@ -10,9 +10,11 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
+#include <QPushButton>
 
 #include <set>
 
@@ -25,10 +27,19 @@ using namespace Qt::StringLiterals;
 // What a screen reader calls the widget.
 QString HeardName(QWidget& widget)
 {
-    if (qobject_cast<QComboBox*>(&widget)) // its label is a relation; what Qt has as its name is its text
+    if (qobject_cast<QComboBox*>(&widget) ||
+        qobject_cast<PopupButton*>(&widget)) // its label is a relation; what has the name's place is its text
         return ControlName(widget);
     const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&widget);
     return accessible ? accessible->text(QAccessible::Name) : QString();
+}
+
+// In a button box of this desktop's.
+bool AcceptStandsFirst()
+{
+    QDialogButtonBox box(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    box.show();
+    return box.button(QDialogButtonBox::Ok)->x() < box.button(QDialogButtonBox::Cancel)->x();
 }
 
 class DialogFocusTest : public test::PrintDialogTest {
@@ -37,9 +48,12 @@ protected:
     void show(const std::function<void(QWidget&)>& look)
     {
         const PlugInOrError loaded = LoadPlugIn();
-        ASSERT_TRUE(loaded.plugIn) << loaded.error.toStdString();
+        ASSERT_TRUE(loaded.plugIn) << testing::PrintToString(loaded.error);
         ASSERT_FALSE(ChoosePanels(*loaded.plugIn, {u"GetAdvancedPanelInterface"_s}));
-        PrintDialog dialog({.commandLine = options, .texts = &PrintBundle(), .plugIn = loaded, .scripted = true});
+        PrintDialog dialog({.request = DialogRequest(options, PrintBundle()).request,
+                            .texts = &PrintBundle(),
+                            .plugIn = loaded,
+                            .scripted = true});
         ASSERT_FALSE(dialog.prepare());
         const ModalIdleAction before = SetModalIdleAction([&](QWidget& window) {
             SetModalIdleAction({});
@@ -80,25 +94,26 @@ TEST_F(DialogFocusTest, TabWalksFromThePrinterToTheLastButton)
                 break;
             order << focused(window);
         }
-        const QStringList expected{u"Printer"_s,
-                                   u"Copies"_s,
-                                   u"Pages"_s,
-                                   u"Pages per sheet"_s,
-                                   u"Portrait"_s,
-                                   u"Landscape"_s,
-                                   u"Panel"_s,
-                                   u"Previous panel"_s,
-                                   u"Next panel"_s,
-                                   u"Booklet image order"_s,
-                                   u"Output options"_s,
-                                   u"Banner sheet"_s,
-                                   u"Request offset"_s,
-                                   u"Mirrored output"_s,
-                                   u"Printing optimization"_s,
-                                   u"About…"_s,
-                                   u"Help"_s,
-                                   u"Cancel"_s,
-                                   u"Save"_s};
+        QStringList expected{u"Printer"_s,
+                             u"Copies"_s,
+                             u"Pages"_s,
+                             u"Pages per sheet"_s,
+                             u"Portrait"_s,
+                             u"Landscape"_s,
+                             u"Panel"_s,
+                             u"Booklet image order"_s,
+                             u"Output options"_s,
+                             u"Banner sheet"_s,
+                             u"Request offset"_s,
+                             u"Mirrored output"_s,
+                             u"Printing optimization"_s,
+                             u"About…"_s,
+                             u"Help"_s};
+        expected += AcceptStandsFirst() ? QStringList{u"Save"_s, u"Cancel"_s} : QStringList{u"Cancel"_s, u"Save"_s};
+        const auto left = [&window](PrintControl number) {
+            return FindControl(&window, {kPrintSignature, number})->x();
+        };
+        EXPECT_EQ(left(kPrintButton) < left(kCancelButton), AcceptStandsFirst());
         EXPECT_EQ(order.join(u", ").toStdString(), expected.join(u", ").toStdString());
     });
 }

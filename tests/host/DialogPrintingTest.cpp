@@ -53,6 +53,19 @@ TEST_F(DialogPrintingTest, SendingCanBeStopped)
     EXPECT_FALSE(server.hasJob(1));
 }
 
+// The place of a caller whose document comes later: everything that the print server is to be told.
+TEST_F(DialogPrintingTest, WithoutASenderNothingIsSent)
+{
+    hasSender = false;
+    options.files.clear();
+    EXPECT_EQ(run("type Copies 3\nprint"), 0);
+    EXPECT_EQ(fault, QString());
+    ASSERT_TRUE(outcome.job);
+    EXPECT_EQ(outcome.job->queue, u"Kesta"_s);
+    EXPECT_EQ(FindJobOption(outcome.job->options, "copies"), u"3"_s);
+    EXPECT_FALSE(server.hasJob(1));
+}
+
 TEST_F(DialogPrintingTest, AnotherPrinterGetsAPaneOfItsOwn)
 {
     EXPECT_EQ(run("choose Printer #2\nexpect \"No Description Message\"\nexpect-enabled Help no\nchoose Printer #1\n"
@@ -65,6 +78,24 @@ TEST_F(DialogPrintingTest, AnotherPrinterGetsAPaneOfItsOwn)
     EXPECT_EQ(run("expect \"Unknown Printer Title\"\nchoose Printer #1\nexpect-enabled Help yes\nprint"), 0);
     EXPECT_EQ(fault, QString());
     EXPECT_TRUE(server.job(1));
+}
+
+TEST_F(DialogPrintingTest, BeginsWithThePrinterOfTheLastJob)
+{
+    scripted = false;
+    EXPECT_EQ(run("choose Printer #2\nexpect-enabled Help no\nprint"), 0);
+    EXPECT_EQ(
+        run("expect-enabled Help no\nexpect-value Printer #2\nchoose Printer #1\nexpect-enabled Help yes\ncancel"), 0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_EQ(run("expect-value Printer #2\ncancel"), 0) << "nothing was printed on the other one";
+    EXPECT_EQ(fault, QString());
+    RememberDialog({.printer = u"Gone"_s, .panel = 0});
+    EXPECT_EQ(run("expect-value Printer #1\nexpect-enabled Help yes\ncancel"), 0) << "the default one";
+    EXPECT_EQ(fault, QString());
+    scripted = true;
+    RememberDialog({.printer = u"Gone"_s, .panel = 0});
+    EXPECT_EQ(run("expect-value Printer #1\ncancel"), 0) << "nor is a script's beginning anybody's";
+    EXPECT_EQ(fault, QString());
 }
 
 } // namespace

@@ -41,6 +41,7 @@ TEST(DialogScript, TellsNamesNumbersAndValuesApart)
         {"expect-value Pages \"\"", {.line = 1, .verb = ExpectValue, .target = {.text = u"Pages"_s}}},
         {"screenshot \"a b.png\"", {.line = 1, .verb = Screenshot, .text = u"a b.png"_s}},
         {"  cancel\r\n", {.line = 1, .verb = Cancel}},
+        {"cancel 3", {.line = 1, .verb = Cancel, .status = 3}},
     });
     for (const auto& [script, expected] : cases)
         EXPECT_TRUE(OnlyStep(script) == expected) << script;
@@ -71,6 +72,7 @@ TEST(DialogScript, RefusesWithLineAndReason)
         {"choose #1x A", "script line 1: \"1x\" is not a number"},
         {"choose A =99999999999", "script line 1: \"99999999999\" is not a number"},
         {"select A 0", "script line 1: rows count from 1"},
+        {"cancel now", "script line 1: \"now\" is not a number"},
         {"check A yes", "script line 1: \"yes\" is neither on nor off"},
         {"sync up", "script line 1: \"up\" is neither from-tickets nor to-tickets"},
         {"command Stp", "script line 1: a command has four characters"},
@@ -98,11 +100,18 @@ TEST(DialogScript, KeysByName)
         {"Shift+Tab", {.key = Qt::Key_Backtab, .modifiers = Qt::ShiftModifier}},
         {"+", {.key = Qt::Key_Plus, .text = u"+"_s}},
         {"Ctrl++", {.key = Qt::Key_Plus, .modifiers = Qt::ControlModifier}},
+        {"ctrl+PAGEUP", {.key = Qt::Key_PageUp, .modifiers = Qt::ControlModifier}},
+        {"F12", {.key = Qt::Key_F12}},
+        {"Esc", {.key = Qt::Key_Escape}},
+        {"Escape", {.key = Qt::Key_Escape}},
+        {"Delete", {.key = Qt::Key_Delete}},
+        {",", {.key = Qt::Key_Comma, .text = u","_s}},
+        {"7", {.key = Qt::Key_7, .text = u"7"_s}},
         {"Space", {.key = Qt::Key_Space, .text = u" "_s}},
     });
     for (const auto& [name, expected] : cases)
         EXPECT_TRUE(ScriptKeyNamed(QString::fromLatin1(name)) == expected) << name;
-    for (const QString& name : {u""_s, u"Ctrl+"_s, u"+a"_s, u"Ctrl"_s, u"NoKey"_s})
+    for (const QString& name : {u""_s, u"Ctrl+"_s, u"+a"_s, u"Ctrl"_s, u"NoKey"_s, u"a, b"_s, u"Hyper+a"_s})
         EXPECT_FALSE(ScriptKeyNamed(name)) << name.toStdString();
 }
 

@@ -1,6 +1,8 @@
 #include "host/job/JobComposition.h"
 
+#include "host/Words.h"
 #include "host/job/TicketTransport.h"
+#include "platform/values/PropertyList.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +17,7 @@ JobSources Sources()
             .ppdChoices = {{"Duplex", "DuplexTumble"}, {"KSFold", "C"}},
             .commandLine = {{u"ksfold"_s, u"Z"_s}, {u"copies"_s, u"2"_s}, {u"landscape"_s, u"true"_s}},
             .fields = {},
-            .ticket = "<plist/>"};
+            .ticket = {{"com.kesta.print.Density", true}}};
 }
 
 TEST(JobCompositionTest, LaterSourcesPrevail)
@@ -26,7 +28,7 @@ TEST(JobCompositionTest, LaterSourcesPrevail)
     EXPECT_EQ(FindJobOption(options, "KSFold"), u"Z"_s) << "-o prevails over settings";
     EXPECT_EQ(FindJobOption(options, "copies"), u"2"_s);
     EXPECT_EQ(FindJobOption(options, "job-sheets"), u"none"_s);
-    EXPECT_EQ(DecodeTicket(options).propertyList, "<plist/>");
+    EXPECT_EQ(DecodeTicket(options).propertyList, WritePropertyList(sources.ticket));
     EXPECT_EQ(options.size(), 6u) << "no name twice";
 
     sources.fields = {
@@ -49,18 +51,26 @@ TEST(JobCompositionTest, RefusesWhatWouldArriveDamaged)
 {
     JobSources forged = Sources();
     forged.commandLine.push_back({u"COM.kesta.print.ticket.1"_s, u"x"_s});
-    EXPECT_TRUE(ComposeJobOptions(forged).problem.contains(u"COM.kesta.print.ticket.1"_s));
+    EXPECT_TRUE(test::OnConsole(ComposeJobOptions(forged).problem).contains(u"COM.kesta.print.ticket.1"_s));
+
+    forged.commandLine.back().name = QLatin1StringView(kTicketSealedOption);
+    EXPECT_EQ(ComposeJobOptions(forged).problem.key, u"Option Made Here"_s);
+    JobSources damaged = Sources();
+    damaged.ticket = {};
+    damaged.reader.publicKeys = {"kk1-short"};
+    EXPECT_EQ(ComposeJobOptions(damaged).problem.key, u"Ticket Key Unusable"_s)
+        << "also where there is nothing to seal";
 
     JobSources cut = Sources();
     cut.ppdChoices.set("Owner", QString(u"a\rb"_s));
-    EXPECT_TRUE(ComposeJobOptions(cut).problem.contains(u"Owner"_s));
+    EXPECT_TRUE(test::OnConsole(ComposeJobOptions(cut).problem).contains(u"Owner"_s));
     JobSources named = Sources();
     named.ppdChoices.set("Two words", "x");
-    EXPECT_TRUE(ComposeJobOptions(named).problem.contains(u"Two words"_s));
+    EXPECT_TRUE(test::OnConsole(ComposeJobOptions(named).problem).contains(u"Two words"_s));
     JobSources longOne = Sources();
     longOne.commandLine.push_back({u"Note"_s, QString(40'000, u'x')});
     const ComposedOptions refused = ComposeJobOptions(longOne);
-    EXPECT_TRUE(refused.problem.contains(u"Note"_s));
+    EXPECT_TRUE(test::OnConsole(refused.problem).contains(u"Note"_s));
     EXPECT_TRUE(refused.options.empty());
 }
 

@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <map>
 #include <thread>
 
 #include <sys/stat.h>
@@ -72,6 +73,23 @@ protected:
         environment.insert(u"HOME"_s, folder.path());
         environment.insert(u"XDG_DATA_HOME"_s, folder.path());
         environment.insert(u"TMPDIR"_s, folder.path());
+        const Read made = readTicket({u"keygen"_s, u"--key"_s, keyPath});
+        EXPECT_EQ(made.status, 0);
+        server.describe(made.output);
+    }
+
+    struct Read {
+        int status = -1;
+        QByteArray output;
+    };
+    static Read readTicket(const QStringList& arguments, const QByteArray& options = {})
+    {
+        QProcess reader;
+        reader.start(QStringLiteral(KESTA_TICKET), arguments);
+        reader.write(options);
+        reader.closeWriteChannel();
+        reader.waitForFinished();
+        return {reader.exitCode(), reader.readAllStandardOutput()};
     }
 
     Ended print(const QByteArray& script, const QString& scripts) const
@@ -84,12 +102,34 @@ protected:
 
     QByteArray ticketOf(const CapturedJob& job) const
     {
-        QProcess reader;
-        reader.start(QStringLiteral(KESTA_TICKET), {u"show"_s});
-        reader.write(job.options);
-        reader.closeWriteChannel();
-        reader.waitForFinished();
-        return reader.readAllStandardOutput();
+        return readTicket({u"show"_s, u"--key"_s, keyPath}, job.options).output;
+    }
+
+    // Whoever has no private key finds the job's settings wherever the server shows or keeps them, and not the secret.
+    void expectToBeSealed(const CapturedJob& job, int number, const QByteArray& secret) const
+    {
+        EXPECT_TRUE(ticketOf(job).contains(secret));
+        const QByteArray shown = server.shownOf(number);
+        const QByteArray control =
+            Content(QFileInfo(server.address()).path() + u"/spool/c%1"_s.arg(number, 5, 10, QChar(u'0')));
+        const QString log = QFileInfo(server.address()).path() + u"/log/error"_s;
+        const std::map<const char*, QByteArray> places{{"options", job.options},
+                                                       {"arguments", job.argv},
+                                                       {"answer", shown},
+                                                       {"control file", control},
+                                                       {"log", Content(log)}};
+        for (const auto& [name, place] : places) {
+            const qsizetype start = place.lastIndexOf("com.kesta.print.ticket.sealed");
+            ASSERT_GE(start, 0) << name << place.size();
+            EXPECT_EQ(place.mid(start + 29, 20).count("ks1-"), 1) << name;
+            EXPECT_FALSE(place.contains(secret)) << name;
+        }
+        for (const QByteArray& options : {job.options, QByteArray(shown).replace('\n', ' ')}) {
+            const Read read = readTicket({u"show"_s, u"--key"_s, u"/no/such/key"_s}, options);
+            EXPECT_EQ(read.status, 2);
+            EXPECT_TRUE(read.output.contains("<key>JobType</key>"));
+            EXPECT_FALSE(read.output.contains(secret));
+        }
     }
 
     void expectToArrive(const CapturedJob& job) const
@@ -134,6 +174,8 @@ protected:
 
     const bool logsAll = qputenv("PRIVATE_CUPS_LOG_LEVEL", "debug2");
     PrivateServer server;
+    const QTemporaryDir keys;
+    const QString keyPath = keys.filePath(u"ticket.key"_s);
 };
 
 TEST_F(JobTypesPrintingTest, EachArrivesAsChosenAndKeepsItsPasscode)
@@ -158,9 +200,24 @@ TEST_F(JobTypesPrintingTest, EachArrivesAsChosenAndKeepsItsPasscode)
         ++secrets;
         EXPECT_FALSE((ended.output + ended.errors).toUtf8().contains(secret));
         expectToBeKept(secret);
+        expectToBeSealed(*job, number, secret);
     }
     EXPECT_GE(number, 10);
     EXPECT_EQ(secrets, 3);
+}
+
+TEST_F(JobTypesPrintingTest, NothingIsSentForADamagedKey)
+{
+    server.describe("*KSTicketKey: \"kk1-short\"\n");
+    const QString plist = QStringLiteral(JOB_SCRIPTS) + u"/fax.plist"_s;
+    const QStringList settings{u"-h"_s, server.address(), u"--settings"_s, plist, QStringLiteral(SAMPLE)};
+    const QByteArray script = "print\nexpect \"KSTicketKey\"\npress \"OK\"\ncancel\n";
+    for (const QString& mode : {u"--no-dialog"_s, u"--script=-"_s}) {
+        const Ended ended = run(QStringList{mode} + settings, script);
+        EXPECT_EQ(ended.status, 1) << ended.errors.toStdString();
+        EXPECT_TRUE(ended.errors.contains(u"KSTicketKey"_s)) << ended.errors.toStdString();
+    }
+    EXPECT_EQ(server.jobState(1), 0);
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "host/pane/Pane.h"
 
 #include "host/FakePlugIn.h"
+#include "platform/plugins/BundlePlaces.h"
+
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
@@ -72,7 +74,7 @@ TEST_F(PaneTest, PanelsAreChosenAndLookedFor)
     EXPECT_FALSE(ChoosePanels(FakePlugIn::door(), {u"GetA"_s, u"GetB"_s}));
     EXPECT_EQ(fake_.panels, (std::vector<std::string>{"GetA", "GetB"}));
     fake_.missing = -43;
-    EXPECT_EQ(ChoosePanels(FakePlugIn::door(), {}), u"GetNonePanelInterface was not found."_s);
+    EXPECT_EQ(ChoosePanels(FakePlugIn::door(), {}), Verbatim(u"GetNonePanelInterface was not found."_s));
 }
 
 TEST(PlugInPlaces, TheEnvironmentComesFirst)

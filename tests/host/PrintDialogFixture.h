@@ -1,8 +1,9 @@
 #pragma once
 
 #include "host/FakePlugIn.h"
+#include "host/Words.h"
+#include "host/commandline/DialogCaller.h"
 #include "host/dialog/PrintDialog.h"
-#include "platform/plugins/Bundle.h"
 #include "platform/system/SafeFile.h"
 #include "support/TestTexts.h"
 #include "toolkit/windows/ToolkitServices.h"
@@ -11,19 +12,9 @@
 
 #include <QTemporaryDir>
 
-#include <stdexcept>
-
 namespace kesta::host::test {
 
 using namespace Qt::StringLiterals;
-
-inline const Bundle& PrintBundle()
-{
-    const auto [bundle, error] = LoadBundleAt(QStringLiteral(KESTA_PRINT_BUNDLE));
-    if (!bundle)
-        throw std::runtime_error(error.toStdString());
-    return *bundle;
-}
 
 class PrintDialogTest : public testing::Test {
 protected:
@@ -35,14 +26,16 @@ protected:
         options.saveSettingsPath = folder.filePath(u"saved.plist"_s);
     }
 
-    // The exit status of the dialog with the script played in it; the script's fault goes to `fault`.
+    // The exit status of the program with the script played in the dialog; the script's fault goes to `fault`.
     int run(const QByteArray& script)
     {
-        PrintDialog dialog({.commandLine = options,
+        auto [request, why] = DialogRequest(options, PrintBundle());
+        PrintDialog dialog({.request = std::move(request),
                             .texts = &PrintBundle(),
-                            .plugIn = {plugIn, u"The plug-in is missing."_s},
-                            .scripted = true});
-        problem = dialog.prepare().value_or(QString());
+                            .plugIn = {plugIn, Verbatim(u"The plug-in is missing."_s)},
+                            .send = hasSender ? DialogSender(options, PrintBundle()) : SendFunction(),
+                            .scripted = scripted});
+        problem = OnConsole(why.isEmpty() ? dialog.prepare().value_or(Message()) : why);
         if (!problem.isEmpty())
             return 1;
         const DialogScript parsed = ParseDialogScript(script);
@@ -51,9 +44,9 @@ protected:
             const QString text = LocalizedString(PrintBundle(), key);
             return text == QLatin1StringView(kStringNotFound) ? QStringList() : QStringList{text};
         });
-        const int status = dialog.run();
+        outcome = dialog.run();
         fault = player.fault().value_or(QString());
-        return status;
+        return ExitStatus(outcome.end, true);
     }
 
     QString calls() const { return fake.calls.join(u", "_s); }
@@ -79,6 +72,9 @@ protected:
     FakePlugIn fake;
     std::optional<PlugIn> plugIn = FakePlugIn::door();
     CommandLine options;
+    bool scripted = true;
+    bool hasSender = true;
+    DialogOutcome outcome;
     QString problem;
     QString fault;
 };

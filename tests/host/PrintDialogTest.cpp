@@ -49,6 +49,22 @@ TEST_F(PrintDialogTest, CancelWritesNothing)
     EXPECT_EQ(fault, QString());
 }
 
+// For a caller that brings the document later.
+TEST_F(PrintDialogTest, WithoutASenderTheAcceptedJobIsGivenBack)
+{
+    hasSender = false;
+    options.title = QString();
+    EXPECT_EQ(run("type Copies 3\nprint"), 0);
+    EXPECT_EQ(fault, QString());
+    ASSERT_TRUE(outcome.job);
+    EXPECT_EQ(outcome.job->title, QString());
+    EXPECT_EQ(ReadTickets(outcome.job->settings->printSettings, outcome.job->settings->pageFormat).copies, 3);
+    EXPECT_EQ(run("cancel 3"), 0);
+    EXPECT_EQ(fault, QString());
+    EXPECT_FALSE(outcome.job);
+    EXPECT_EQ(ExitStatus(outcome.end, false), 3);
+}
+
 TEST_F(PrintDialogTest, StaysOpenWhenThePaneSwallowsOK)
 {
     fake.swallowsOK = true;
@@ -74,9 +90,9 @@ TEST_F(PrintDialogTest, StartsFromTheCommandLineOverSavedSettings)
     WriteTickets({.copies = 3, .pageRanges = u"2"_s, .pagesPerSheet = 6}, tickets.printSettings, tickets.pageFormat);
     options.settingsPath = folder.filePath(u"start.plist"_s);
     ASSERT_FALSE(WriteFile(options.settingsPath, WriteJobSettings(tickets)));
-    options.copies = 5;
-    SetJobOption(options.options, u"number-up", u"2"_s);
-    SetJobOption(options.options, u"landscape", u"true"_s);
+    options.presets.copies = 5;
+    SetJobOption(options.presets.options, u"number-up", u"2"_s);
+    SetJobOption(options.presets.options, u"landscape", u"true"_s);
     EXPECT_EQ(run("expect-value Copies 5\nexpect-value Pages 2\nexpect-value \"Per Sheet:\" =2\n"
                   "expect-value Orientation Landscape\nexpect \"5 copies, pages 2 \xc2\xb7 2 pages per sheet\""),
               0);
@@ -135,7 +151,8 @@ TEST_F(PrintDialogTest, ConflictingChoicesAreAskedAbout)
 TEST_F(PrintDialogTest, AFileThatCantBeWrittenKeepsTheDialogOpen)
 {
     options.saveSettingsPath = u"/nowhere/saved.plist"_s;
-    EXPECT_EQ(run("type Copies 4\nprint\nexpect \"Saving Failed Title\"\npress OK\nexpect-value Copies 4\ncancel"), 1);
+    EXPECT_EQ(run("type Copies 4\nprint\nexpect \"Saving Failed Title\"\npress OK\nexpect-value Copies 4\ncancel 1"),
+              1);
     EXPECT_EQ(fault, QString());
 }
 
@@ -190,6 +207,7 @@ TEST(DialogSummary, LeavesOutWhatIsUsual)
 {
     const Bundle& texts = PrintBundle();
     EXPECT_EQ(SummaryLine({}, {}, texts), u"1 copy, all pages"_s);
+    EXPECT_EQ(SummaryLine({.pageRanges = u"3-7"_s}, {u"Blue"_s}, texts), u"Pages 3-7 \u00B7 Blue"_s);
     EXPECT_EQ(SummaryLine({}, {QString(), u"Blue, Hole punched"_s}, texts), u"Blue, Hole punched"_s);
     EXPECT_EQ(
         SummaryLine(

@@ -3,6 +3,9 @@
 #include "host/commandline/CommandLine.h"
 #include "host/commandline/Console.h"
 #include "host/commandline/NoDialog.h"
+#include "platform/plugins/BundlePlaces.h"
+
+#include <QCoreApplication>
 
 #include <cstdlib>
 
@@ -11,9 +14,12 @@ int main(int argc, char* argv[])
     using namespace kesta::host;
     const std::span<const char* const> arguments(argv, std::size_t(argc));
     const CommandLineResult parsed = ParseCommandLine(arguments.subspan(2));
+    const QCoreApplication application(argc, argv);
+    const QString folder = kesta::FindBundleFolder(kesta::BundlePlaces(QStringLiteral("KestaPrint.bundle")));
+    const kesta::Bundle& texts = *kesta::LoadBundleAt(folder).bundle;
     if (!parsed.error.isEmpty()) {
-        PrintFailure(parsed.error);
+        PrintFailure(parsed.error, texts);
         return 1;
     }
-    return RunWithoutDialog(parsed.commandLine, std::chrono::milliseconds(std::atoi(argv[1])));
+    return RunWithoutDialog(parsed.commandLine, texts, std::chrono::milliseconds(std::atoi(argv[1])));
 }

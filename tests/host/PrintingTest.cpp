@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 namespace kesta::host {
 namespace {
 
-using test::CapturedJob;
-using test::PrivateServer;
+using kesta::test::CapturedJob;
+using kesta::test::PrivateServer;
 
 struct Outcome {
     int status;
@@ -142,8 +142,9 @@ TEST_F(PrintingTest, StandardInputPagesAndCopies)
     EXPECT_TRUE(job.data.contains("/NumCopies 2") || job.data.contains("/#copies 2") || job.argv.contains("\n4: 2\n"))
         << job.argv.constData();
 
-    EXPECT_EQ(print({u"-s"_s, u"-dPlain"_s, u"-o"_s, u"raw"_s}, "text\n").output, "");
+    EXPECT_EQ(print({u"-s"_s, u"-dPlain"_s, u"-o"_s, u"raw"_s, u"-t"_s, u""_s}, "text\n").output, "");
     EXPECT_EQ(cups.job(2).value().data, "text\n");
+    EXPECT_TRUE(cups.job(2).value().argv.contains("\n3: \n")) << cups.job(2).value().argv.constData();
     EXPECT_TRUE(print({}).error.contains("stdin is empty"));
     EXPECT_EQ(cups.jobState(3), 0);
 }
@@ -180,7 +181,7 @@ TEST_F(PrintingTest, WhatThePrinterForbidsOrLacksIsSaidBeforeSending)
 {
     const Outcome conflict = print({u"--settings"_s, save(), u"-o"_s, u"KSFold=C"_s, QLatin1StringView(SAMPLE)});
     EXPECT_EQ(conflict.status, 1);
-    EXPECT_TRUE(conflict.error.contains("can't be used together. Set ") && conflict.error.contains("(-o "))
+    EXPECT_TRUE(conflict.error.contains("can’t be used together. Set ") && conflict.error.contains("(-o "))
         << conflict.error.constData();
     const Outcome lacking = print({u"-o"_s, u"KSFold=Swan"_s, QLatin1StringView(SAMPLE)});
     EXPECT_EQ(lacking.status, 1);
@@ -212,7 +213,7 @@ TEST_F(PrintingTest, SaysWhatIsMissing)
         {{u"-dNowhere"_s, QLatin1StringView(SAMPLE)}, "The printer or class does not exist"},
         {{u"-dPlain"_s, QLatin1StringView(SAMPLE)}, "not accepting"},
         {{QLatin1StringView(SAMPLE), u"/dev/null"_s}, "\"/dev/null\" is empty"},
-        {{u"--settings"_s, QLatin1StringView(SAMPLE), QLatin1StringView(SAMPLE)}, "sample.pdf can't be used: "},
+        {{u"--settings"_s, QLatin1StringView(SAMPLE), QLatin1StringView(SAMPLE)}, "sample.pdf can’t be used: "},
         {{u"--settings"_s, u"/no/such"_s, QLatin1StringView(SAMPLE)}, "/no/such"},
         {{u"--save-settings"_s, u"/no/such/place"_s, QLatin1StringView(SAMPLE)}, "/no/such/place"},
     };

@@ -98,6 +98,37 @@ int PrivateServer::jobState(int number) const
     return state;
 }
 
+QByteArray PrivateServer::shownOf(int job) const
+{
+    http_t* http =
+        httpConnect2(address().toUtf8().constData(), 631, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_NEVER, 1, 5000, nullptr);
+    ipp_t* request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+    const QByteArray uri = "ipp://localhost/jobs/" + QByteArray::number(job);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, "somebody");
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "all");
+    ipp_t* answer = cupsDoRequest(http, request, "/jobs/");
+    QByteArray shown;
+    for (ipp_attribute_t* item = ippFirstAttribute(answer); item; item = ippNextAttribute(answer)) {
+        QByteArray value(qsizetype(ippAttributeString(item, nullptr, 0)) + 1, '\0');
+        ippAttributeString(item, value.data(), size_t(value.size()));
+        shown += QByteArray(ippGetName(item)) + '=' + value.chopped(1) + '\n';
+    }
+    ippDelete(answer);
+    httpClose(http);
+    return shown;
+}
+
+void PrivateServer::describe(const QByteArray& lines) const
+{
+    const QString path = directory_.filePath(u"described.ppd"_s);
+    QFile ppd(path);
+    if (!ppd.open(QIODevice::WriteOnly) || ppd.write(Content(QStringLiteral(KESTA_PPD)) + lines) < 0)
+        throw std::runtime_error("the printer's description can't be written");
+    ppd.close();
+    administer(u"lpadmin"_s, {u"-p"_s, u"Kesta"_s, u"-P"_s, path});
+}
+
 void PrivateServer::administer(const QString& program, const QStringList& arguments) const
 {
     if (QProcess::execute(program, QStringList{u"-h"_s, address()} + arguments) != 0)

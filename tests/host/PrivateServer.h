@@ -34,6 +34,10 @@ public:
     bool hasJob(int number) const; // arrived so far
     // As the server has it now: 3 pending, 7 cancelled, 9 completed, and so on; 0 when it does not know the job.
     int jobState(int number) const;
+    // All that the server tells anybody about a job who asks, "name=value" a line.
+    QByteArray shownOf(int job) const;
+    // The queue "Kesta" gets the product's PPD with more lines at its end.
+    void describe(const QByteArray& lines) const;
     // Runs an administrator's program with "-h ADDRESS" before its arguments; throws when it fails.
     void administer(const QString& program, const QStringList& arguments) const;
 

@@ -73,7 +73,7 @@ TEST_F(ProgramPrintersTest, AFileThatMayNotBeReadSaysSo)
         prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
         prctl(PR_CAPBSET_DROP, CAP_DAC_READ_SEARCH);
     };
-    const Ended ended = playFor(ppd, "expect \"Plain Options Title\"\nexpect \"it can't be read\"\ncancel");
+    const Ended ended = playFor(ppd, "expect \"Plain Options Title\"\nexpect \"it can’t be read\"\ncancel");
     EXPECT_EQ(ended.status, 0) << ended.errors.toStdString();
     EXPECT_EQ(run({u"--ppd"_s, ppd, u"--list-options"_s}).status, 1);
 }

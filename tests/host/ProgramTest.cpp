@@ -79,7 +79,7 @@ TEST_F(ProgramTest, FailuresSayWhereAndEndWithOne)
     const Ended settings = play("cancel", {u"--settings"_s, QStringLiteral(KESTA_PPD)});
     EXPECT_EQ(settings.status, 1);
     EXPECT_EQ(settings.errors.count(u'\n'), 1) << settings.errors.toStdString();
-    EXPECT_TRUE(settings.errors.contains(u"kesta-veltra-4200.ppd can't be used: "_s)) << settings.errors.toStdString();
+    EXPECT_TRUE(settings.errors.contains(u"kesta-veltra-4200.ppd can’t be used: "_s)) << settings.errors.toStdString();
 }
 
 TEST_F(ProgramTest, AFileThatCannotBePrintedIsNamedBeforeAServerIsAsked)

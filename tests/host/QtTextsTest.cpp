@@ -42,6 +42,17 @@ TEST_F(QtTextsTest, SpeakTheLanguageOfTheDialogAsLongAsTheyAreKept)
     EXPECT_EQ(cancel(), u"Abbrechen"_s);
 }
 
+TEST_F(QtTextsTest, ButtonsHaveTheDialogsWordsWhereQtLacksTheLanguage)
+{
+    QLocale::setDefault(QLocale(u"eo"_s));
+    Bundle bundle = bundleIn({u"en"_s, u"eo"_s});
+    bundle.strings = Dictionary{{"Localizable", Dictionary{{"Cancel Command", "Rezigni"}}}};
+    const auto texts = InstallQtTexts(bundle);
+    ASSERT_TRUE(texts);
+    EXPECT_EQ(cancel(), u"Rezigni"_s);
+    EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "OK"), u"OK"_s) << "a word that nobody has stays";
+}
+
 TEST_F(QtTextsTest, StayEnglishInADialogThatIsEnglish)
 {
     EXPECT_FALSE(InstallQtTexts(bundleIn({u"en"_s, u"fr"_s})));

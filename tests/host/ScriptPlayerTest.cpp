@@ -74,7 +74,10 @@ public:
         SetControlCommand(*ok, kCommandOK);
         SetControlCommand(*cancel, kCommandCancel);
         QObject::connect(ok, &QPushButton::clicked, [this] { EndModalLoop(window_, ModalResult::OK); });
-        QObject::connect(cancel, &QPushButton::clicked, [this] { EndModalLoop(window_, ModalResult::Cancel); });
+        QObject::connect(cancel, &QPushButton::clicked, [this] {
+            ended = DialogEnd::Cancelled;
+            EndModalLoop(window_, ModalResult::Cancel);
+        });
         events = InstallEventHandler(window_, [this](const CommandEvent& command) {
             commands.push_back(command.command);
             return EventResult::Handled;
@@ -101,6 +104,7 @@ public:
     QByteArray jobSettings() const override { return "settings"; }
     QString summaryText() override { return u"summary"_s; }
     void updateSummary() override {}
+    std::optional<DialogEnd> end() const override { return ended; }
 
     template <class Widget> Widget* add(const QString& name, Widget* widget)
     {
@@ -134,6 +138,7 @@ public:
     std::vector<FourCharCode> commands;
     ModalResult result = ModalResult::Cancel;
     std::optional<bool> synced;
+    std::optional<DialogEnd> ended;
     bool hasPane = true;
     mutable int busyFor = 0;
 };
@@ -242,6 +247,9 @@ TEST(ScriptPlayer, EndsAsTheScriptDoes)
     EXPECT_FALSE(dialog.run("print"));
     EXPECT_EQ(dialog.result, ModalResult::OK);
     EXPECT_EQ(dialog.run("print\nsummary"), u"script line 2: the dialog has closed"_s);
+
+    EXPECT_FALSE(dialog.run("cancel 3"));
+    EXPECT_EQ(dialog.run("cancel 0"), u"script line 1: the program would end with status 3"_s);
 
     dialog.busyFor = 3;
     EXPECT_FALSE(dialog.run("sync from-tickets\ncancel"));

@@ -2,7 +2,7 @@
 
 #include "panels/PanelFixture.h"
 #include "panels/advanced/AboutDialog.h"
-#include "panels/advanced/AdvancedMaps.h"
+#include "panels/advanced/AdvancedOptions.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/menus/MenuUtilities.h"
 #include "pde/ticket/TicketUtilities.h"

@@ -15,7 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace kesta::color {
+namespace kesta::color_options {
 namespace {
 
 class ColorOptionsPanelTest : public test::PanelTest {
@@ -130,4 +130,4 @@ TEST_F(ColorOptionsPanelTest, SyncWorksBeforeThereAreControlsAndWithoutThem)
 }
 
 } // namespace
-} // namespace kesta::color
+} // namespace kesta::color_options

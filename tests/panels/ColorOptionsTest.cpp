@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace kesta::color {
+namespace kesta::color_options {
 namespace {
 
 Value N(int number)
@@ -19,13 +19,21 @@ Value N(int number)
     return Number::Index(number);
 }
 
-const NumberSetting& NumberOf(Control control)
+const Binding<ColorOptions>& NumberOf(Control control)
 {
-    for (const auto& settings : {NumberSettings(), ChoiceSettings()}) {
-        if (const auto one = std::ranges::find(settings, control, &NumberSetting::control); one != settings.end())
-            return *one;
-    }
-    throw control;
+    return *std::ranges::find(kBindings, control, &Binding<ColorOptions>::control);
+}
+
+SInt32 Get(Control control, const ColorOptions& options)
+{
+    return NumberOf(control).value.get(options);
+}
+
+// Whether it took the value.
+bool Set(Control control, ColorOptions& options, SInt32 value)
+{
+    NumberOf(control).value.set(options, value);
+    return Get(control, options) == value;
 }
 
 const NameSetting& NameOf(Control control)
@@ -42,10 +50,12 @@ TEST(ColorOptions, EverySettingReachesTheTicketAndComesBack)
 {
     ColorOptions options, read;
     int value = 1;
-    for (const NumberSetting& setting : ChoiceSettings())
-        EXPECT_EQ(setting.set(options.record, setting.control == kTrapping ? 1 : ++value), noErr);
-    for (const NumberSetting& setting : NumberSettings())
-        EXPECT_EQ(setting.set(options.record, ++value), noErr) << setting.control;
+    EXPECT_TRUE(Set(kTrapping, options, 1)) << "a ticket has the directions of no other";
+    for (const Binding<ColorOptions>& binding : kBindings) {
+        if (binding.control != kTrapping) {
+            EXPECT_TRUE(Set(Control{binding.control}, options, ++value)) << binding.control;
+        }
+    }
     for (const NameSetting& setting : NameSettings())
         EXPECT_EQ(setting.set(options.record, {setting.namedKind, QString::number(++value)}), noErr);
 
@@ -57,10 +67,8 @@ TEST(ColorOptions, EverySettingReachesTheTicketAndComesBack)
     ReadTicket(read, ticket);
     EXPECT_EQ(read.record, options.record);
     std::set<SInt32> values;
-    for (const auto& settings : {NumberSettings(), ChoiceSettings()}) {
-        for (const NumberSetting& setting : settings)
-            values.insert(setting.get(read.record));
-    }
+    for (const Binding<ColorOptions>& binding : kBindings)
+        values.insert(binding.value.get(read));
     EXPECT_EQ(values.size(), 13u) << "each getter reads what its own setter set";
 }
 
@@ -77,8 +85,8 @@ TEST(ColorOptions, WhatThePanelCantShowStaysUntilItIsChanged)
     WriteTicket(options, ticket);
     EXPECT_EQ(*Stored(ticket), stored);
 
-    NumberOf(kContrast).set(options.record, 4);
-    NumberOf(kMagentaGreen).set(options.record, -9);
+    Set(kContrast, options, 4);
+    Set(kMagentaGreen, options, -9);
     NameOf(kRGBImages).set(options.record, {2, {}});
     WriteTicket(options, ticket);
     Dictionary expected = stored;
@@ -96,7 +104,7 @@ TEST(ColorOptions, ATicketWithoutColorOptionsHasNoDictionary)
     EXPECT_FALSE(Stored(ticket));
     ticket.set("X", key::FullColorOptions, Dictionary{{"FCLightness", N(10)}, {"FCTRC", "soft"}});
     ReadTicket(options, ticket);
-    ResetAdjustments(options.record);
+    ResetAdjustments(options);
     NameOf(kToneCurve).set(options.record, {});
     WriteTicket(options, ticket);
     EXPECT_FALSE(Stored(ticket));
@@ -106,34 +114,34 @@ TEST(ColorOptions, ATicketWithoutColorOptionsHasNoDictionary)
 
 TEST(ColorSettings, ACastIsSetAndTakenAwayWhole)
 {
-    FullColorOptions record;
-    EXPECT_FALSE(HasAdjustments(record));
-    NumberOf(kYellowBlue).set(record, 40);
-    EXPECT_EQ(NumberOf(kCyanRed).get(record), 0);
-    EXPECT_TRUE(HasAdjustments(record));
-    EXPECT_EQ(NumberOf(kCyanRed).set(record, 101), kMissingArgument);
-    EXPECT_EQ(NumberOf(kCyanRed).get(record), 0);
-    NumberOf(kMagentaGreen).set(record, kUnset);
-    EXPECT_FALSE(HasAdjustments(record));
+    ColorOptions options;
+    EXPECT_FALSE(HasAdjustments(options));
+    Set(kYellowBlue, options, 40);
+    EXPECT_EQ(Get(kCyanRed, options), 0);
+    EXPECT_TRUE(HasAdjustments(options));
+    EXPECT_FALSE(Set(kCyanRed, options, 101));
+    EXPECT_EQ(Get(kCyanRed, options), 0);
+    Set(kMagentaGreen, options, kUnset);
+    EXPECT_FALSE(HasAdjustments(options));
 
-    record.fromTicket(Dictionary{{"FCColorCast", Dictionary{{"FCCyanRed", N(500)}, {"FCYellowBlue", N(-8)}}}});
-    EXPECT_EQ(NumberOf(kMagentaGreen).set(record, 5), noErr) << "not refused for another value's sake";
-    EXPECT_EQ(NumberOf(kCyanRed).get(record), 100);
-    EXPECT_EQ(NumberOf(kYellowBlue).get(record), -8);
+    options.record.fromTicket(Dictionary{{"FCColorCast", Dictionary{{"FCCyanRed", N(500)}, {"FCYellowBlue", N(-8)}}}});
+    EXPECT_TRUE(Set(kMagentaGreen, options, 5)) << "not refused for another value's sake";
+    EXPECT_EQ(Get(kCyanRed, options), 100);
+    EXPECT_EQ(Get(kYellowBlue, options), -8);
 }
 
 TEST(ColorSettings, DirectionsCountWhileTrappingIsOnOnly)
 {
-    FullColorOptions record;
+    ColorOptions options;
     for (const SInt32 off : {kUnset, 0, 2}) {
-        record.setTrapping(off);
-        EXPECT_FALSE(UsesTrappingDirections(record)) << off;
+        options.record.setTrapping(off);
+        EXPECT_FALSE(UsesTrappingDirections(options.record)) << off;
     }
-    record.fromTicket(Dictionary{{"FCTrapping", N(1)}, {"FCTrappingSlowDirection", N(90)}});
-    EXPECT_TRUE(UsesTrappingDirections(record));
-    EXPECT_EQ(NumberOf(kFastDirection).set(record, 21), kMissingArgument);
-    EXPECT_EQ(NumberOf(kFastDirection).set(record, 20), noErr);
-    EXPECT_EQ(NumberOf(kSlowDirection).get(record), 20);
+    options.record.fromTicket(Dictionary{{"FCTrapping", N(1)}, {"FCTrappingSlowDirection", N(90)}});
+    EXPECT_TRUE(UsesTrappingDirections(options.record));
+    EXPECT_FALSE(Set(kFastDirection, options, 21));
+    EXPECT_TRUE(Set(kFastDirection, options, 20));
+    EXPECT_EQ(Get(kSlowDirection, options), 20);
 }
 
 class ColorMenusTest : public testing::Test {
@@ -174,12 +182,15 @@ TEST_F(ColorMenusTest, BuiltInProfilesAreThoseBelowTheNamedKind)
 
 TEST_F(ColorMenusTest, AValueThatIsNoChoiceIsShownAsWhatItIs)
 {
-    EXPECT_EQ(Titles(ChoiceMenu(bundle, NumberOf(kTrapping), record)),
-              (QStringList{u">PrinterDefault"_s, u"Off"_s, u"On"_s}));
-    record.setTextObjectRendering(0);
-    EXPECT_EQ(ChoiceMenu(bundle, NumberOf(kTextRendering), record).position, 2);
-    record.setTrapping(-3);
-    EXPECT_EQ(Titles(ChoiceMenu(bundle, NumberOf(kTrapping), record)).back(), u">V-3"_s);
+    const auto titles = [this](Control control, SInt32 shown) {
+        QStringList items;
+        for (const MenuItem& item : MenuOfRule(bundle, NumberOf(control).rule, nullptr, shown).menu.items)
+            items << item.title;
+        return items;
+    };
+    EXPECT_EQ(titles(kTrapping, kUnset), (QStringList{u"PrinterDefault"_s, u"Off"_s, u"On"_s}));
+    EXPECT_EQ(titles(kTrapping, -3).sliced(3), QStringList(u"V-3"_s));
+    EXPECT_EQ(titles(kTextRendering, 0).size(), 5);
 }
 
 TEST(ColorSwatches, WithoutAdjustmentsAColorStaysExactlyAsItIs)
@@ -209,4 +220,4 @@ TEST(ColorSwatches, EachAdjustmentDoesWhatItIsCalled)
 }
 
 } // namespace
-} // namespace kesta::color
+} // namespace kesta::color_options

@@ -1,6 +1,7 @@
 #include "panels/image_options/ImageOptionsPanel.h"
 
 #include "panels/PanelFixture.h"
+#include "panels/image_options/ImageOptions.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/menus/MenuUtilities.h"
 #include "pde/ticket/TicketUtilities.h"

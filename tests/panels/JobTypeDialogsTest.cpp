@@ -1,4 +1,7 @@
-#include "panels/paper_output/JobTypeSetups.h"
+#include "panels/paper_output/DelayedPrint.h"
+#include "panels/paper_output/PasscodeFields.h"
+#include "panels/paper_output/SavedJob.h"
+#include "panels/paper_output/SecurePrint.h"
 
 #include "pde/menus/MenuUtilities.h"
 #include "platform/system/UserPreferences.h"
@@ -34,7 +37,6 @@ using test::ModalUser;
 using test::Press;
 
 constexpr std::uint32_t kMakes1234 = 9000 * 100 + 234;
-constexpr auto kMadePasscode = "1234";
 constexpr SInt64 kToday = 2'082'844'800 + SInt64(20'000) * 86'400;
 
 Bundle BundleOfDialogs()
@@ -49,7 +51,7 @@ protected:
     JobTypeDialogsTest() { qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path())); }
     ~JobTypeDialogsTest() override { qunsetenv("XDG_CONFIG_HOME"); }
 
-    template <class Widget = QLineEdit> static Widget& get(QWidget& window, Control number)
+    template <class Widget = QLineEdit> static Widget& get(QWidget& window, SInt32 number)
     {
         for (const FourCharCode signature : {kSecurePrintSignature, kDelayedPrintSignature, kSavedJobSignature})
             if (auto* found = FindControlAs<Widget>(&window, {signature, number}))
@@ -57,7 +59,7 @@ protected:
         throw std::out_of_range("no such control");
     }
     // In place of all that the field holds.
-    static void type(QWidget& window, Control number, const QString& text)
+    static void type(QWidget& window, SInt32 number, const QString& text)
     {
         QLineEdit& field = get(window, number);
         field.selectAll();
@@ -74,7 +76,7 @@ protected:
     {
         return (get(window, kPasscodeField).text() + u'|' + get(window, kConfirmationField).text()).toStdString();
     }
-    static bool isEnabled(QWidget& window, Control number) { return get<QWidget>(window, number).isEnabled(); }
+    static bool isEnabled(QWidget& window, SInt32 number) { return get<QWidget>(window, number).isEnabled(); }
     static void cancel(QWidget& window) { Press(window, kCommandCancel); }
     static void ok(QWidget& window) { Press(window, kCommandOK); }
     OSStatus runSecurePrint() { return RunModalSecurePrintSetup(bundle, passcode); }
@@ -90,44 +92,17 @@ protected:
     test::RecordingHelp help;
     const test::LoadedDice dice{kMakes1234};
     std::optional<QString> passcode;
-    JobTypeDetails details;
+    JobType details;
 };
 
-TEST_F(JobTypeDialogsTest, SecurePrintTakesAPasscodeTypedTwice)
+TEST_F(JobTypeDialogsTest, PasscodesAreHiddenAndMarkedWhereTheyDiffer)
 {
     ModalUser user;
     user.then([](QWidget& window) {
-        EXPECT_EQ(get(window, kPasscodeField).echoMode(), QLineEdit::Password);
-        EXPECT_EQ(get(window, kConfirmationField).echoMode(), QLineEdit::Password);
+        for (const SInt32 number : {kPasscodeField, kConfirmationField})
+            EXPECT_EQ(get(window, number).echoMode(), QLineEdit::Password);
         EXPECT_EQ(get<QLabel>(window, kPasscodeLimits).text(), u"Min-Max Digits 4 10"_s);
-        EXPECT_FALSE(isEnabled(window, kConfirmationField));
-        type(window, kPasscodeField, u"12345"_s);
-        EXPECT_TRUE(isEnabled(window, kConfirmationField) && isEnabled(window, kConfirmationLabel));
-        type(window, kPasscodeField, u"12"_s);
-        EXPECT_FALSE(isEnabled(window, kConfirmationField));
-        for (const Control number : {kPasscodeField, kConfirmationField}) {
-            type(window, number, u"012345678"_s);
-            for (const QString& text : {u"a"_s, u"٣"_s, u"12"_s, u"9"_s}) // only the last one may come in
-                TypeIntoField(&get(window, number), text);
-        }
-    });
-    user.then(ok);
-    EXPECT_EQ(runSecurePrint(), noErr);
-    EXPECT_EQ(passcode, u"0123456789"_s);
-    user.then([](QWidget& window) { EXPECT_TRUE(isEnabled(window, kConfirmationField)); });
-    user.then(ok);
-    runSecurePrint();
-    EXPECT_EQ(passcode, u"0123456789"_s) << "a stored one is already confirmed";
-    EXPECT_TRUE(notices.titles.isEmpty());
-}
-
-TEST_F(JobTypeDialogsTest, SecurePrintStaysOpenUntilThePasscodesAreTheSame)
-{
-    ModalUser user;
-    user.then([](QWidget& window) { type(window, kPasscodeField, u"12"_s); });
-    user.then(ok);
-    user.then([](QWidget& window) {
-        EXPECT_TRUE(get(window, kPasscodeField).property("invalid").toBool()) << "it cannot be confirmed";
+        type(window, kPasscodeField, u"٣12"_s); // refused whole
         type(window, kPasscodeField, u"1234"_s);
         type(window, kConfirmationField, u"12345"_s);
     });
@@ -141,21 +116,10 @@ TEST_F(JobTypeDialogsTest, SecurePrintStaysOpenUntilThePasscodesAreTheSame)
     user.then(ok);
     runSecurePrint();
     EXPECT_EQ(passcode, u"12345"_s);
-    EXPECT_EQ(notices.titles, QStringList(2, u"Invalid Secure Print Passcode Header"_s));
-    EXPECT_EQ(notices.messages.value(1), u"Invalid Secure Print Passcode Message 4 10"_s);
+    EXPECT_EQ(notices.titles, QStringList(u"Invalid Secure Print Passcode Header"_s));
 }
 
-TEST_F(JobTypeDialogsTest, WithoutAPasscodeOneIsMadeAndTold)
-{
-    ModalUser user;
-    user.then(ok);
-    runSecurePrint();
-    EXPECT_EQ(passcode, QString::fromLatin1(kMadePasscode));
-    EXPECT_EQ(notices.titles, QStringList(u"Passcode Required Header"_s));
-    EXPECT_EQ(notices.messages, QStringList(u"Passcode Required Message 4 10 1234"_s));
-}
-
-TEST_F(JobTypeDialogsTest, TheKeyboardAloneWillDo)
+TEST_F(JobTypeDialogsTest, ATimeIsTypedKeyByKey)
 {
     const auto typeAll = [](const char* keys) {
         return [keys](QWidget& window) {
@@ -164,9 +128,6 @@ TEST_F(JobTypeDialogsTest, TheKeyboardAloneWillDo)
         };
     };
     ModalUser user;
-    user.then(typeAll("24680\t24680\r"));
-    runSecurePrint();
-    EXPECT_EQ(passcode, u"24680"_s);
     SInt64 time = 12 * 3600 + 34 * 60 + 56;
     const auto typed = [&](const char* keys) {
         user.then(typeAll(keys));
@@ -214,26 +175,6 @@ TEST_F(JobTypeDialogsTest, AMirroredWindowShowsTheHourFirst)
     QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
-TEST_F(JobTypeDialogsTest, ASavedJobStartsWithTheDocumentsNameInThePublicFolder)
-{
-    ModalUser user;
-    user.then([](QWidget& window) {
-        EXPECT_EQ(get<HistoryComboBox>(window, kJobNameBox).fixedValue(), 1);
-        EXPECT_EQ(get<HistoryComboBox>(window, kJobNameBox).currentText(), u"UseJobName"_s);
-        EXPECT_EQ(get<HistoryComboBox>(window, kFolderBox).currentText(), u"PublicFolder"_s);
-        EXPECT_TRUE(get<QRadioButton>(window, kSaveRadio).isChecked());
-        EXPECT_EQ(get<PictureView>(window, kFormatPicture).picture(), u"JobType_JobFormat_TIFF.gif"_s);
-        for (const Control number : {kPasscodeLabel, kPasscodeField, kPasscodeLimits, kConfirmationLabel,
-                                     kConfirmationField, kConfirmationLimits})
-            EXPECT_FALSE(isEnabled(window, number)) << number;
-    });
-    user.then(ok);
-    const JobTypeDetails before = details;
-    EXPECT_EQ(runSavedJob(), noErr);
-    EXPECT_EQ(details, before);
-    EXPECT_FALSE(QDir(folder.path()).exists(u"kesta-print/"_s + QLatin1String(kInputHistoryFile)));
-}
-
 TEST_F(JobTypeDialogsTest, WhatTheUserTypesReachesTheSavedJobAndTheHistoryButNotThePasscode)
 {
     details.savedJobName = u"old"_s;
@@ -251,13 +192,13 @@ TEST_F(JobTypeDialogsTest, WhatTheUserTypesReachesTheSavedJobAndTheHistoryButNot
     });
     user.then(ok);
     runSavedJob();
-    EXPECT_EQ(details, (JobTypeDetails{.securePasscode = u"86420"_s,
-                                       .hasPasscode = true,
-                                       .saveDisposition = 2,
-                                       .savedJobName = u"Report"_s,
-                                       .useJobName = false,
-                                       .savedJobLocation = u"Team/2026"_s,
-                                       .useDefaultLocation = false}));
+    EXPECT_EQ(details, (JobType{.securePasscode = u"86420"_s,
+                                .hasPasscode = true,
+                                .saveDisposition = 2,
+                                .savedJobName = u"Report"_s,
+                                .useJobName = false,
+                                .savedJobLocation = u"Team/2026"_s,
+                                .useDefaultLocation = false}));
     EXPECT_EQ(history("savedJobNames"), std::vector{u"Report"_s});
     EXPECT_EQ(history("folderNames"), std::vector{u"Team/2026"_s});
     QFile file(folder.filePath(u"kesta-print/"_s + QLatin1String(kInputHistoryFile)));
@@ -283,30 +224,11 @@ TEST_F(JobTypeDialogsTest, WhatTheUserTypesReachesTheSavedJobAndTheHistoryButNot
     EXPECT_EQ(details.securePasscode, u"86420"_s) << "turning protection off leaves the stored passcode";
 }
 
-TEST_F(JobTypeDialogsTest, AProtectedSavedJobStaysOpenUntilThePasscodesAreTheSame)
-{
-    ModalUser user;
-    user.then([](QWidget& window) {
-        get<QCheckBox>(window, kSecureCheckBox).click();
-        EXPECT_EQ(window.focusWidget(), &get(window, kPasscodeField));
-        EXPECT_FALSE(isEnabled(window, kConfirmationField));
-        type(window, kPasscodeField, u"1234"_s);
-        type(window, kConfirmationField, u"4321"_s);
-    });
-    user.then(ok);
-    user.then([](QWidget& window) { get<QCheckBox>(window, kSecureCheckBox).click(); }); // and they do not matter
-    user.then(ok);
-    runSavedJob();
-    EXPECT_EQ(notices.titles.size(), 1);
-    EXPECT_FALSE(details.hasPasscode);
-    EXPECT_EQ(details.securePasscode, std::nullopt);
-}
-
 TEST_F(JobTypeDialogsTest, AJobNameTakesNoSlashAndFortyCharactersAndCancelNothing)
 {
     details.useJobName = false;
     details.savedJobName = QString(38, u'x');
-    const JobTypeDetails before = details;
+    const JobType before = details;
     ModalUser user;
     user.then([](QWidget& window) {
         auto& name = get<HistoryComboBox>(window, kJobNameBox);

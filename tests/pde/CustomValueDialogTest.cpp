@@ -1,4 +1,4 @@
-#include "pde/forms/TextFieldUtilities.h"
+#include "pde/forms/CustomValueDialog.h"
 
 #include "support/Recorders.h"
 #include "support/TestTexts.h"

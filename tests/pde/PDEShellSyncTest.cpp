@@ -1,3 +1,4 @@
+#include "model/JobType.h"
 #include "pde/ShellFixture.h"
 #include "pde/interface/JobTypeCheck.h"
 #include "pde/interface/TicketKeys.h"

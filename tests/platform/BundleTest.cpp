@@ -42,7 +42,7 @@ TEST(Bundle, IsFoundByItsIdentifierOnceLoaded)
 {
     EXPECT_EQ(FindBundle("com.kesta.test.sample"), nullptr);
     const auto [bundle, error] = LoadBundleAt(test::SamplePath());
-    ASSERT_TRUE(bundle) << error.toStdString();
+    ASSERT_TRUE(bundle) << test::Bare(error).toStdString();
     EXPECT_EQ(FindBundle("com.kesta.test.sample"), bundle);
     EXPECT_EQ(LoadBundleAt(test::SamplePath() + QStringLiteral("/../Sample.plugin/")).bundle, bundle);
     EXPECT_EQ(bundle->resourcesPath, bundle->path + QStringLiteral("/Contents/Resources"));
@@ -52,7 +52,8 @@ TEST(Bundle, IsFoundByItsIdentifierOnceLoaded)
     twin.writeInfo("<key>CFBundleIdentifier</key><string>com.kesta.test.sample</string>");
     const BundleOrError second = LoadBundleAt(twin.path);
     EXPECT_EQ(second.bundle, nullptr);
-    EXPECT_TRUE(second.error.contains(u"is loaded already, from ")) << second.error.toStdString();
+    EXPECT_EQ(second.error, Say("Bundle Loaded Twice", QFileInfo(twin.path).canonicalFilePath(),
+                                QStringLiteral("com.kesta.test.sample"), bundle->path));
 }
 
 TEST(Bundle, CodeIsLoadedOnceByTheFirstLookUp)
@@ -70,24 +71,24 @@ TEST(Bundle, CodeIsLoadedOnceByTheFirstLookUp)
 
 TEST(Bundle, WhatCannotBeLoadedSaysWhy)
 {
-    EXPECT_EQ(LoadBundleAt(QStringLiteral("/nowhere/X.plugin")).error,
-              QStringLiteral("/nowhere/X.plugin: no such bundle"));
+    const auto error = [](const QString& path) { return test::Bare(LoadBundleAt(path).error); };
+    EXPECT_EQ(error(QStringLiteral("/nowhere/X.plugin")), QStringLiteral("Bundle Missing: /nowhere/X.plugin"));
     const BundleFolder folder;
     folder.write(QStringLiteral("Contents/readme"), "");
-    EXPECT_TRUE(LoadBundleAt(folder.path).error.endsWith(u"Info.plist: No such file or directory"));
+    EXPECT_TRUE(error(folder.path).endsWith(u"Info.plist: No such file or directory"));
     folder.write(QStringLiteral("Contents/Info.plist"), "<plist>");
-    EXPECT_TRUE(LoadBundleAt(folder.path).error.contains(u"Info.plist: line 1, column "));
+    EXPECT_TRUE(error(folder.path).contains(u"Info.plist: line 1, column "));
     folder.writeInfo("");
-    EXPECT_TRUE(LoadBundleAt(folder.path).error.endsWith(u"no CFBundleIdentifier"));
+    EXPECT_TRUE(error(folder.path).startsWith(u"Bundle Without Identifier: "));
     const QByteArray identifier = "<key>CFBundleIdentifier</key><string>com.kesta.test.broken</string>";
     folder.writeInfo(identifier + "<key>CFBundleExecutable</key><string>../../evil</string>");
-    EXPECT_TRUE(LoadBundleAt(folder.path).error.endsWith(u"CFBundleExecutable is not a plain name"));
+    EXPECT_TRUE(error(folder.path).startsWith(u"Bundle Executable Not Plain: "));
 
     folder.writeInfo(identifier).write(QStringLiteral("Contents/Linux/Made.so"), "not a library");
     const Bundle* bundle = LoadBundleAt(folder.path).bundle;
     ASSERT_TRUE(bundle);
     EXPECT_EQ(FunctionNamed(*bundle, "SampleAnswer"), nullptr);
-    EXPECT_TRUE(LoadCode(*bundle).value().contains(u"/Contents/Linux/Made.so")) << LoadCode(*bundle)->toStdString();
+    EXPECT_TRUE(test::Bare(LoadCode(*bundle).value()).contains(u"/Contents/Linux/Made.so"));
     EXPECT_EQ(LocalizedString(*bundle, "Both"), QStringLiteral("STRING NOT FOUND"));
 }
 
@@ -102,7 +103,7 @@ TEST(Bundle, ACutOffPlugInIsNamedAndNotLoaded)
         folder.write(QStringLiteral("Contents/Linux/Made.so"), whole.bytes->first(size));
         const Bundle* bundle = LoadBundleAt(folder.path).bundle;
         ASSERT_TRUE(bundle);
-        EXPECT_TRUE(LoadCode(*bundle).value_or(QString()).contains(u"Made.so")) << size;
+        EXPECT_TRUE(test::Bare(LoadCode(*bundle).value_or(Message())).contains(u"Made.so")) << size;
     }
 }
 

@@ -46,8 +46,22 @@ TEST(JobSettings, AMissingEntryCountsAsEmpty)
 {
     JobTickets tickets;
     FillTickets(tickets);
-    EXPECT_EQ(ReadJobSettings(WritePropertyList(Dictionary()), tickets), std::nullopt);
+    EXPECT_EQ(ReadJobSettings(WritePropertyList(Dictionary{{"PPD", Dictionary()}}), tickets), std::nullopt);
     EXPECT_EQ(WriteJobSettings(tickets), WriteJobSettings(JobTickets()));
+}
+
+// A later version may add entries to the root; they change nothing of what this one reads.
+TEST(JobSettings, EntriesOfALaterVersionAreLeftAlone)
+{
+    JobTickets tickets;
+    FillTickets(tickets);
+    const QByteArray written = WriteJobSettings(tickets);
+    Dictionary later = *ParsePropertyList(written).value->dictionary();
+    later.set("Preset", Dictionary{{"Name", "Blue"}});
+    later.set("two\nlines", true);
+    JobTickets read;
+    EXPECT_EQ(ReadJobSettings(WritePropertyList(later), read), std::nullopt);
+    EXPECT_EQ(WriteJobSettings(read), written);
 }
 
 TEST(JobSettings, WhatIsNotOursIsRefusedAndNothingOfItUsed)
@@ -60,7 +74,8 @@ TEST(JobSettings, WhatIsNotOursIsRefusedAndNothingOfItUsed)
     };
     const Value wrong[] = {
         Value("text"),
-        with("Other", Dictionary()),
+        Dictionary(),
+        Dictionary{{"Preset", Dictionary()}},
         with("PMPageFormatTicket", Array()),
         with("PPD", Dictionary{{"Duplex", Number::Index(1)}}),
         with("PPD", "Duplex"),
@@ -70,20 +85,20 @@ TEST(JobSettings, WhatIsNotOursIsRefusedAndNothingOfItUsed)
         with("Clients", Dictionary{{"PMPrintSettingsTicket", Dictionary{{"key", true}}}}),
         with("Clients", Dictionary{{"PMPrintSettingsTicket", Dictionary{{"absent", "K"}}}}),
         with("Clients", Dictionary{{"PMPageFormatTicket", Dictionary{{"key", "K"}}}}),
-        with("two\nlines", true),
+        with("Clients", Dictionary{{"two\nlines", true}}),
     };
     JobTickets tickets;
     FillTickets(tickets);
     const QByteArray before = WriteJobSettings(tickets);
     const auto expectRefusal = [&](const QByteArray& bytes, QStringView beginning) {
-        const std::optional<QString> problem = ReadJobSettings(bytes, tickets);
+        const std::optional<Message> problem = ReadJobSettings(bytes, tickets);
         ASSERT_TRUE(problem) << bytes.toStdString();
-        EXPECT_TRUE(problem->startsWith(beginning)) << problem->toStdString();
-        EXPECT_FALSE(problem->contains(u'\n'));
+        EXPECT_TRUE(test::Bare(*problem).startsWith(beginning)) << testing::PrintToString(*problem);
+        EXPECT_FALSE(test::Bare(*problem).contains(u'\n'));
         EXPECT_EQ(WriteJobSettings(tickets), before);
     };
     for (const Value& root : wrong)
-        expectRefusal(WritePropertyList(root), u"not a job settings file: ");
+        expectRefusal(WritePropertyList(root), u"Settings Of Another Kind: ");
     expectRefusal(before.first(before.size() / 2), u"line ");
     expectRefusal(QByteArray(17 * 1024 * 1024, ' '), u"line 1, column 1: larger than");
 }

@@ -54,15 +54,14 @@ TEST(PlugIn, WhatInfoDeclaresWronglyIsNamed)
     Dictionary noFunction = types;
     noFunction.set("CFPlugInFactories", Dictionary{{factory, "NoSuchFunction"}});
     const std::pair<Dictionary, const char*> wrong[] = {
-        {{}, "x: Info.plist has no CFPlugInTypes"},
-        {types, "x: CFPlugInFactories does not name the function of 2469D08F-1C3C-4039-BE98-6ED74B921894"},
-        {noFunction, "x: no function NoSuchFunction"},
-        {{{"CFPlugInTypes", Dictionary{{type, "text"}}}}, "x: CFPlugInTypes holds what is no type with its factories"},
-        {{{"CFPlugInTypes", Dictionary{{type, Array{Value(true)}}}}},
-         "x: CFPlugInTypes holds a factory that is no UUID"},
+        {{}, "Plug-in Without Types: x"},
+        {types, "Plug-in Factory Not Named: x, 2469D08F-1C3C-4039-BE98-6ED74B921894"},
+        {noFunction, "Plug-in Function Missing: x, NoSuchFunction"},
+        {{{"CFPlugInTypes", Dictionary{{type, "text"}}}}, "Plug-in Type Unusable: x"},
+        {{{"CFPlugInTypes", Dictionary{{type, Array{Value(true)}}}}}, "Plug-in Factory Not A UUID: x"},
     };
     for (const auto& [info, problem] : wrong)
-        EXPECT_EQ(RegisterFactories(Bundle{.identifier = QStringLiteral("x"), .info = info}),
+        EXPECT_EQ(test::Bare(RegisterFactories(Bundle{.identifier = QStringLiteral("x"), .info = info}).value()),
                   QString::fromLatin1(problem));
 }
 

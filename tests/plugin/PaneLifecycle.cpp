@@ -2,6 +2,7 @@
 
 #include "platform/plugins/Bundle.h"
 #include "platform/plugins/PlugIn.h"
+#include "platform/plugins/Sentence.h"
 #include "toolkit/windows/InterfaceFile.h"
 
 #include <QCoreApplication>
@@ -16,14 +17,14 @@ KestaPlugInFactory FindBuiltFactory()
 {
     const auto [bundle, error] = LoadBundleAt(QStringLiteral(KESTA_PLUGIN));
     if (!bundle) {
-        std::fprintf(stderr, "%s\n", qUtf8Printable(error));
+        std::fprintf(stderr, "%s\n", qUtf8Printable(Sentence(error, HostTexts())));
         return nullptr;
     }
     UUID type;
     std::ranges::copy(kKestaDialogExtensionTypeID.bytes, type.bytes.begin());
     if (!FindFactory(type)) {
-        if (const std::optional<QString> problem = RegisterFactories(*bundle))
-            std::fprintf(stderr, "%s\n", qUtf8Printable(*problem));
+        if (const std::optional<Message> problem = RegisterFactories(*bundle))
+            std::fprintf(stderr, "%s\n", qUtf8Printable(Sentence(*problem, HostTexts())));
     }
     return reinterpret_cast<KestaPlugInFactory>(reinterpret_cast<BundleFunction>(FindFactory(type)));
 }

@@ -17,6 +17,7 @@
 namespace kesta {
 namespace {
 
+using test::Bare;
 using test::PPDVariant;
 
 QByteArray Repeated(int count, const char* before, const char* after)
@@ -29,7 +30,8 @@ QByteArray Repeated(int count, const char* before, const char* after)
 
 QString Problem(const PPDVariant& ppd)
 {
-    return PPDFileProblem(ppd.path()).value_or(QString()).section(QStringLiteral("can't be used: "), 1);
+    const std::optional<Message> problem = PPDFileProblem(ppd.path());
+    return problem ? Bare(problem->arguments.at(1)) : QString();
 }
 
 TEST(PPDFileCheck, RealDescriptionsPass)
@@ -45,23 +47,25 @@ TEST(PPDFileCheck, RealDescriptionsPass)
 TEST(PPDFileCheck, DescriptionsThatWouldKeepTheReaderBusyAreNamed)
 {
     EXPECT_EQ(Problem(PPDVariant().append(Repeated(20'000, "*OpenUI *O", "/O: PickOne\n"))),
-              QStringLiteral("it has more than 2000 lines of *OpenUI."));
+              QStringLiteral("PPD Many Lines Of: 2000, OpenUI"));
     EXPECT_EQ(Problem(PPDVariant().append(Repeated(2001, "*ImageableArea S", ": \"0 0 9 9\"\n"))),
-              QStringLiteral("it has more than 2000 lines of *ImageableArea."));
+              QStringLiteral("PPD Many Lines Of: 2000, ImageableArea"));
     EXPECT_EQ(Problem(PPDVariant().append(Repeated(100'000, "*A", " B: \"\"\r"))),
-              QStringLiteral("it has more than 100000 lines."));
-    EXPECT_EQ(Problem(PPDVariant().append(QByteArray(5'000'000, 'x'))), QStringLiteral("it is larger than 4 MB."));
-    EXPECT_EQ(Problem(PPDVariant().append(QByteArray("*A: \"\0\"\n", 8))),
-              QStringLiteral("it holds bytes that are not text."));
-    EXPECT_EQ(Problem(PPDVariant().truncate(0)), QStringLiteral("it does not begin as a PPD file does."));
+              QStringLiteral("PPD Many Lines: 100000"));
+    EXPECT_EQ(Problem(PPDVariant().append(QByteArray(5'000'000, 'x'))), QStringLiteral("PPD Large: 4"));
+    EXPECT_EQ(Problem(PPDVariant().append(QByteArray("*A: \"\0\"\n", 8))), QStringLiteral("PPD Not Text"));
+    EXPECT_EQ(Problem(PPDVariant().truncate(0)), QStringLiteral("PPD Of Another Kind"));
+    for (const char* opened : {"*OpenUI *O/O: PickOne\n", "*JCLOpenUI *O/O: PickOne\r\n", "*OpenGroup: G/G\n"})
+        EXPECT_EQ(Problem(PPDVariant().append(opened)), QStringLiteral("PPD Breaks Off")) << opened;
 }
 
 TEST(PPDFileCheck, WhatIsNoFileIsNotOpened)
 {
     const QTemporaryDir directory;
-    EXPECT_TRUE(PPDFileProblem(directory.path())->contains(QStringLiteral("it is not a file")));
-    EXPECT_TRUE(PPDFileProblem(QStringLiteral("/dev/zero"))->contains(QStringLiteral("it is not a file")));
-    EXPECT_TRUE(PPDFileProblem(directory.filePath(QStringLiteral("none")))->contains(QStringLiteral("no such file")));
+    EXPECT_TRUE(Bare(*PPDFileProblem(directory.path())).contains(QStringLiteral("Not A File")));
+    EXPECT_TRUE(Bare(*PPDFileProblem(QStringLiteral("/dev/zero"))).contains(QStringLiteral("Not A File")));
+    EXPECT_TRUE(
+        Bare(*PPDFileProblem(directory.filePath(QStringLiteral("none")))).contains(QStringLiteral("No Such File")));
 }
 
 TEST(PPDFileCheck, TheUnpackedSizeCounts)
@@ -77,7 +81,7 @@ TEST(PPDFileCheck, TheUnpackedSizeCounts)
     EXPECT_EQ(PPDFileProblem(path), std::nullopt);
     pack(PPDVariant().content() + QByteArray(50'000'000, '\n'));
     ASSERT_LT(QFileInfo(path).size(), 1'000'000);
-    EXPECT_TRUE(PPDFileProblem(path)->contains(QStringLiteral("larger than 4 MB")));
+    EXPECT_TRUE(Bare(*PPDFileProblem(path)).contains(QStringLiteral("PPD Large: 4")));
 }
 
 TEST(PPDFileCheck, ManyOfEverythingThatPassesOpensInTime)
@@ -103,7 +107,7 @@ TEST(PPDFileCheck, AHostilePPDIsNoCurrentPPD)
     testing::internal::CaptureStderr();
     const test::CurrentPrinter hostile(ppd);
     EXPECT_EQ(PPDGetCurrent(), nullptr);
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("more than 2000 lines of *OpenUI"), std::string::npos);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("2000, OpenUI"), std::string::npos);
 }
 
 TEST(PPDFileCheck, WhatTheLibraryRefusesIsSaidWithItsLine)
@@ -114,8 +118,8 @@ TEST(PPDFileCheck, WhatTheLibraryRefusesIsSaidWithItsLine)
     const test::CurrentPrinter printer(ppd);
     EXPECT_EQ(PPDGetCurrent(), nullptr);
     const std::string messages = testing::internal::GetCapturedStderr();
-    EXPECT_NE(messages.find("can't be used: "), std::string::npos) << messages;
-    EXPECT_NE(messages.find(", line 5."), std::string::npos) << messages;
+    EXPECT_NE(messages.find("PPD Refused: "), std::string::npos) << messages;
+    EXPECT_NE(messages.find(".ppd, 5, "), std::string::npos) << messages;
 }
 
 // What is cut off within an option or a group is refused, although libcups would open it; cut off between them, the

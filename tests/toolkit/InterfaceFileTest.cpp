@@ -1,8 +1,8 @@
 #include "toolkit/windows/InterfaceFile.h"
 
+#include "gallery/GalleryWindow.h"
 #include "support/TestTexts.h"
 #include "support/User.h"
-#include "toolkit/GalleryWindow.h"
 #include "toolkit/Keys.h"
 #include "toolkit/controls/ColorSwatch.h"
 #include "toolkit/controls/ListView.h"
@@ -25,12 +25,12 @@ using namespace Qt::StringLiterals;
 namespace kesta {
 namespace {
 
-using test::kGallery;
+using gallery::kGallery;
 
 class GalleryTest : public testing::Test {
 protected:
-    std::unique_ptr<QWidget> window = test::MakeGalleryWindow();
-    std::unique_ptr<QWidget> controls = test::MakeGalleryControls();
+    std::unique_ptr<QWidget> window = gallery::MakeGalleryWindow();
+    std::unique_ptr<QWidget> controls = gallery::MakeGalleryControls();
     template <class Widget> Widget& get(const std::unique_ptr<QWidget>& root, SInt32 number)
     {
         return *FindControlAs<Widget>(root.get(), {kGallery, number});
@@ -211,7 +211,7 @@ TEST_F(GalleryTest, ReturnAndEscapePressTheWindowsButtons)
     });
     test::ModalUser user;
     user.then([&](QWidget& front) {
-        get<QWidget>(window, 101).setFocus();
+        get<QWidget>(window, 2).setFocus();
         test::PressKeyInWindow(front, Qt::Key_Return);
         window->findChild<QPushButton*>(u"help"_s)->setFocus();
         test::PressKeyInWindow(front, Qt::Key_Return);

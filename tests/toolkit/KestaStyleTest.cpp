@@ -1,7 +1,7 @@
 #include "toolkit/style/KestaStyle.h"
 
+#include "gallery/GalleryWindow.h"
 #include "support/TestTexts.h"
-#include "toolkit/GalleryWindow.h"
 #include "toolkit/controls/Controls.h"
 #include "toolkit/controls/MenuButton.h"
 #include "toolkit/controls/TextInput.h"
@@ -70,9 +70,9 @@ TEST_F(StyleTest, WithoutADesktopThePaletteIsOurs)
 TEST_F(StyleTest, ControlsHaveTheSizesOfTheLook)
 {
     install("light");
-    const auto window = test::MakeGalleryWindow();
+    const auto window = gallery::MakeGalleryWindow();
     const auto size = [&](SInt32 number) {
-        QWidget& control = *FindControl(window.get(), {test::kGallery, number});
+        QWidget& control = *FindControl(window.get(), {gallery::kGallery, number});
         control.ensurePolished();
         return control.sizeHint();
     };
@@ -87,13 +87,13 @@ TEST_F(StyleTest, ControlsHaveTheSizesOfTheLook)
 TEST_F(StyleTest, LooksTakeTheirColoursFromThePalette)
 {
     install("light");
-    const auto window = test::MakeGalleryWindow();
+    const auto window = gallery::MakeGalleryWindow();
     const QFont plain = window->font();
     window->resize(640, 650);
     window->show();
-    QLabel* label = LabelOf(*FindControl(window.get(), {test::kGallery, 101}));
+    QLabel* label = LabelOf(*FindControl(window.get(), {gallery::kGallery, 101}));
     EXPECT_EQ(label->palette().color(QPalette::WindowText), CurrentColors().text2);
-    EXPECT_EQ(FindControl(window.get(), {test::kGallery, 16})->font().weight(), QFont::DemiBold);
+    EXPECT_EQ(FindControl(window.get(), {gallery::kGallery, 16})->font().weight(), QFont::DemiBold);
     QWidget* pane = window->findChild<QWidget*>(u"pane"_s);
     EXPECT_EQ(pixel(*pane, {8, 8}), CurrentColors().pane);
     EXPECT_EQ(pixel(*pane, {8, 0}), CurrentColors().hairline);
@@ -118,9 +118,9 @@ TEST_F(StyleTest, LooksTakeTheirColoursFromThePalette)
 TEST_F(StyleTest, AnInvalidFieldHasARingAndAMark)
 {
     install("light");
-    const auto controls = test::MakeGalleryControls();
+    const auto controls = gallery::MakeGalleryControls();
     controls->show();
-    QWidget& field = *FindControl(controls.get(), {test::kGallery, 24});
+    QWidget& field = *FindControl(controls.get(), {gallery::kGallery, 24});
     const QPoint edge(field.width() / 2, 1);
     EXPECT_NE(pixel(field, edge), CurrentColors().error);
     SetInvalid(&field, true);

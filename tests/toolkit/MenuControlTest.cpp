@@ -76,6 +76,43 @@ void WhileOpen(const std::function<void(QMenu& menu)>& act)
     });
 }
 
+TEST_F(PopupKeys, ReturnPicksWhatTheKeysWentToAndOpensTheMenuOtherwise)
+{
+    popup.show();
+    test::PressKey(popup, Qt::Key_End);
+    EXPECT_TRUE(popup.isGoneThrough());
+    test::PressKey(popup, Qt::Key_Return);
+    EXPECT_FALSE(popup.isGoneThrough());
+    EXPECT_EQ(chosen, (std::vector<SInt32>{5, 5})) << "picked without a menu";
+    int opened = 0;
+    WhileOpen([&](QMenu&) { ++opened; });
+    test::PressKey(popup, Qt::Key_Return);
+    EXPECT_EQ(opened, 1);
+    EXPECT_TRUE(popup.chooseItem(2));
+    EXPECT_FALSE(popup.isGoneThrough()) << "a script's choice is a pick";
+}
+
+TEST_F(PopupKeys, AnOpenMenuGoesToItsEndsAndToWhatIsTyped)
+{
+    popup.show();
+    QStringList active;
+    WhileOpen([&](QMenu& menu) {
+        const auto press = [&](int key, const QString& text = {}) {
+            test::PressKey(menu, key, text);
+            active << menu.activeAction()->text();
+        };
+        press(Qt::Key_End);
+        press(Qt::Key_Home);
+        press(Qt::Key_L, u"l"_s);
+        press(Qt::Key_E, u"e"_s);
+        press(Qt::Key_D, u"d"_s);
+        test::PressKey(menu, Qt::Key_Return);
+    });
+    popup.openMenu();
+    EXPECT_EQ(active, (QStringList{u"More && Less"_s, u"Letter"_s, u"Legal"_s, u"Legal"_s, u"Ledger"_s}));
+    EXPECT_EQ(chosen, std::vector<SInt32>{5});
+}
+
 TEST_F(PopupKeys, SpaceF4AndAltDownOpenTheMenu)
 {
     popup.show();
@@ -115,6 +152,19 @@ TEST_F(PopupKeys, TheHandlerMayDeleteTheControlWhileItsMenuIsOpen)
     });
     QTimer::singleShot(0, [] { qobject_cast<QMenu*>(QApplication::activePopupWidget())->actions()[1]->trigger(); });
     doomed->openMenu();
+}
+
+TEST(MenuButton, OpensByReturnAndDown)
+{
+    MenuButton button;
+    button.setMenu(PaperMenu());
+    button.show();
+    int opened = 0;
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Down}) {
+        WhileOpen([&](QMenu&) { ++opened; });
+        test::PressKey(button, key);
+    }
+    EXPECT_EQ(opened, 3);
 }
 
 TEST(MenuButton, SendsCommandsAndKeepsItsTitle)
@@ -157,9 +207,22 @@ TEST(Accessibility, ControlsThatDrawThemselvesSayWhatTheyAre)
     QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(popup);
     ASSERT_TRUE(accessible);
     EXPECT_EQ(accessible->role(), QAccessible::ComboBox);
-    EXPECT_EQ(accessible->text(QAccessible::Name), u"Paper"_s);
+    EXPECT_EQ(accessible->text(QAccessible::Name), u"Letter"_s) << "as Qt's own: its label is a relation";
     EXPECT_EQ(accessible->text(QAccessible::Value), u"Letter"_s);
+    EXPECT_EQ(accessible->relations(QAccessible::Label).size(), 1);
     EXPECT_TRUE(accessible->state().focusable);
+    QAccessibleInterface* items = accessible->child(0);
+    ASSERT_EQ(items->childCount(), 7);
+    EXPECT_EQ(items->child(2)->role(), QAccessible::Separator);
+    EXPECT_EQ(items->child(5)->child(0)->text(QAccessible::Name), u"Blue"_s) << "of a submenu";
+    EXPECT_TRUE(items->child(3)->state().disabled);
+    QAccessibleInterface* ledger = items->child(4);
+    ledger->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(popup->value(), 5);
+    EXPECT_TRUE(ledger->state().selected);
+    popup->setMenu({.items = {{.title = u"A4"_s}}});
+    EXPECT_FALSE(ledger->isValid()) << "its item is gone";
+    EXPECT_EQ(items->childCount(), 1);
 
     auto* button = new MenuButton(&window);
     button->setText(u"&Choose"_s);

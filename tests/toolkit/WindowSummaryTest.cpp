@@ -22,10 +22,10 @@ TEST(WindowSummary, TellsWhatIsNotTheDefaultInItsOrder)
     auto* sides = new PopupButton(panel);
     for (PopupButton* popup : {holes, sides})
         popup->setMenu({.items = {{.title = u"None"_s, .value = 5}, {.title = u"Two"_s, .value = 7}}});
-    ShowInSummary(holes, SummaryPlace::Finishing, 5);
-    ShowInSummary(sides, SummaryPlace::Sides, 5);
-    ShowInSummary(view, SummaryPlace::Finishing, u"- No staples\n- No fold\n"_s);
-    ShowInSummary(static_cast<PopupButton*>(nullptr), SummaryPlace::Paper, 5);
+    ShowInSummary(holes, 4, 5);
+    ShowInSummary(sides, 3, 5);
+    ShowInSummary(view, 4, u"- No staples\n- No fold\n"_s);
+    ShowInSummary(static_cast<PopupButton*>(nullptr), 2, 5);
 
     view->setText(u"- No staples\n- Folded\nKind: own"_s);
     EXPECT_EQ(WindowSummary(window), (QStringList{u"Folded, Kind: own"_s}));

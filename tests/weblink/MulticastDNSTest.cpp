@@ -38,6 +38,7 @@ public:
         std::ranges::copy(answer, room.begin());
         return answer.empty() ? -1 : static_cast<int>(answer.size());
     }
+    std::chrono::milliseconds silence() const override { return std::chrono::milliseconds(100); }
     std::optional<std::string> address(const std::string& host) override
     {
         return host == "printer" ? std::optional<std::string>("192.0.2.7") : std::nullopt;

@@ -40,8 +40,10 @@ QChar Transcribed(QChar letter, bool mirrored)
 
 QString Transcribed(QString text, bool mirrored)
 {
-    for (QChar& letter : text)
-        letter = Transcribed(letter, mirrored);
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        if (at == 0 || text[at - 1] != u'%') // "%n" is a placeholder
+            text[at] = Transcribed(text[at], mirrored);
+    }
     return text;
 }
 
@@ -66,7 +68,7 @@ bool WriteCatalogue(QXmlStreamReader& in, QIODevice& out, bool mirrored)
     while (!in.atEnd()) {
         in.readNext();
         if (in.isStartElement())
-            inTranslation = in.name() == u"translation";
+            inTranslation = in.name() == u"translation" || in.name() == u"numerusform";
         if (in.isEndElement())
             inTranslation = false;
         if (in.isStartElement() && in.name() == u"TS") {

@@ -547,19 +547,19 @@
     </message>
     <message>
         <source>Front Cover Paper Label</source>
-        <translation>Front cover paper</translation>
+        <translation>Front cover, paper</translation>
     </message>
     <message>
         <source>Back Cover Paper Label</source>
-        <translation>Back cover paper</translation>
+        <translation>Back cover, paper</translation>
     </message>
     <message>
         <source>Front Cover Source Label</source>
-        <translation>Front cover printing</translation>
+        <translation>Tray</translation>
     </message>
     <message>
         <source>Back Cover Source Label</source>
-        <translation>Back cover printing</translation>
+        <translation>Tray</translation>
     </message>
     <message>
         <source>Insert Options Label</source>
@@ -1278,6 +1278,274 @@
     <message>
         <source>Custom Value:</source>
         <translation>Value</translation>
+    </message>
+    <message>
+        <source>Special Pages List</source>
+        <translation>Special pages</translation>
+    </message>
+    <message>
+        <source>Special Pages Empty</source>
+        <translation>No special pages yet. Covers, inserts, and pages with settings of their own stand here once you have added them.</translation>
+    </message>
+    <message>
+        <source>Special Pages In Booklet</source>
+        <translation>The job is a booklet. Its pages have to be alike: delete inserts and exceptions, or turn the booklet off.</translation>
+    </message>
+    <message>
+        <source>No Special Pages In Booklet</source>
+        <translation>A booklet takes no inserts and no exceptions.</translation>
+    </message>
+    <message>
+        <source>No Special Pages With N-Up</source>
+        <translation>Inserts and exceptions need one page per sheet.</translation>
+    </message>
+    <message>
+        <source>Sheets In List</source>
+        <translation>%1 [%2]</translation>
+    </message>
+    <message>
+        <source>Sheets Described</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Paper Name In List</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Page Range In List</source>
+        <translation>%1-%2</translation>
+    </message>
+    <message>
+        <source>CoverPrintedBack</source>
+        <translation>Printed on the back</translation>
+    </message>
+    <message>
+        <source>Unknown Setting</source>
+        <translation>Unknown setting %1</translation>
+    </message>
+    <message>
+        <source>Spoken Special Page</source>
+        <translation>Row %1 of %2, %3, %4, %5</translation>
+    </message>
+    <message>
+        <source>Spoken Page Range</source>
+        <translation>pages %1 to %2</translation>
+    </message>
+    <message>
+        <source>Spoken Page</source>
+        <translation>page %1</translation>
+    </message>
+    <message>
+        <source>Spoken After Page</source>
+        <translation>after page %1</translation>
+    </message>
+    <message>
+        <source>Both Covers Summary</source>
+        <translation>front and back cover</translation>
+    </message>
+    <message>
+        <source>Front Cover Summary</source>
+        <translation>front cover</translation>
+    </message>
+    <message>
+        <source>Back Cover Summary</source>
+        <translation>back cover</translation>
+    </message>
+    <message>
+        <source>One Insert Summary</source>
+        <translation>1 insert</translation>
+    </message>
+    <message>
+        <source>Inserts Summary</source>
+        <translation>%1 inserts</translation>
+    </message>
+    <message>
+        <source>Exceptions Summary</source>
+        <translation>%1 exceptions</translation>
+    </message>
+    <message>
+        <source>Exception Page Summary</source>
+        <translation>page %1 as an exception</translation>
+    </message>
+    <message>
+        <source>Exception Range Summary</source>
+        <translation>pages %1 as an exception</translation>
+    </message>
+    <message>
+        <source>Exception Page On Summary</source>
+        <translation>page %1 on %2</translation>
+    </message>
+    <message>
+        <source>Exception Range On Summary</source>
+        <translation>pages %1 on %2</translation>
+    </message>
+    <message>
+        <source>Exception Page As Summary</source>
+        <translation>page %1 with its own settings (%2)</translation>
+    </message>
+    <message>
+        <source>Exception Range As Summary</source>
+        <translation>pages %1 with their own settings (%2)</translation>
+    </message>
+    <message>
+        <source>Too Many Pages Title</source>
+        <translation>These are too many pages</translation>
+    </message>
+    <message>
+        <source>Too Many Pages Message</source>
+        <translation>Type at most %1 pages at a time.</translation>
+    </message>
+    <message>
+        <source>Too Many Special Pages Title</source>
+        <translation>The job can’t carry so many special pages</translation>
+    </message>
+    <message>
+        <source>Too Many Special Pages Message</source>
+        <translation>Nothing was changed. Choose fewer pages, or delete some of the special pages first.</translation>
+    </message>
+    <message>
+        <source>Front Cover Title</source>
+        <translation>Front cover</translation>
+    </message>
+    <message>
+        <source>Back Cover Title</source>
+        <translation>Back cover</translation>
+    </message>
+    <message>
+        <source>Cover Printing Label</source>
+        <translation>Printing</translation>
+    </message>
+    <message>
+        <source>Front Cover Printing Name</source>
+        <translation>Front cover, printing</translation>
+    </message>
+    <message>
+        <source>Back Cover Printing Name</source>
+        <translation>Back cover, printing</translation>
+    </message>
+    <message>
+        <source>Front Cover Tray Name</source>
+        <translation>Front cover, tray</translation>
+    </message>
+    <message>
+        <source>Back Cover Tray Name</source>
+        <translation>Back cover, tray</translation>
+    </message>
+    <message>
+        <source>Any Tray Hint</source>
+        <translation>Any tray with this paper</translation>
+    </message>
+    <message>
+        <source>Named Tray Hint</source>
+        <translation>Whatever paper lies in it</translation>
+    </message>
+    <message>
+        <source>Sheets After Pages</source>
+        <translation>after each of these pages</translation>
+    </message>
+    <message>
+        <source>Sheets Before Page 1</source>
+        <translation>before page 1</translation>
+    </message>
+    <message>
+        <source>Exception Settings Name</source>
+        <translation>Settings of the exceptions</translation>
+    </message>
+    <message>
+        <source>Image Shift Title</source>
+        <translation>Image Shift</translation>
+    </message>
+    <message>
+        <source>Shift Check Box</source>
+        <translation>Shift the image on the page</translation>
+    </message>
+    <message>
+        <source>Alike Check Box</source>
+        <translation>Both sides alike</translation>
+    </message>
+    <message>
+        <source>Shift Horizontal Label</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Shift Vertical Label</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Side 1 Label</source>
+        <translation>Side 1</translation>
+    </message>
+    <message>
+        <source>Side 2 Label</source>
+        <translation>Side 2</translation>
+    </message>
+    <message>
+        <source>Side 1 Horizontal Name</source>
+        <translation>Side 1, horizontal</translation>
+    </message>
+    <message>
+        <source>Side 1 Vertical Name</source>
+        <translation>Side 1, vertical</translation>
+    </message>
+    <message>
+        <source>Side 2 Horizontal Name</source>
+        <translation>Side 2, horizontal</translation>
+    </message>
+    <message>
+        <source>Side 2 Vertical Name</source>
+        <translation>Side 2, vertical</translation>
+    </message>
+    <message>
+        <source>Shift Directions</source>
+        <translation>Positive numbers move right and up.</translation>
+    </message>
+    <message>
+        <source>Shift Picture Name</source>
+        <translation>Where the image is printed</translation>
+    </message>
+    <message>
+        <source>Shift Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Shift Of Both Sides</source>
+        <translation>Both sides: %1</translation>
+    </message>
+    <message>
+        <source>Shift Of Side 1</source>
+        <translation>Side 1: %1</translation>
+    </message>
+    <message>
+        <source>Shift Of Side 2</source>
+        <translation>Side 2: %1</translation>
+    </message>
+    <message>
+        <source>Shift Right</source>
+        <translation>%1 to the right</translation>
+    </message>
+    <message>
+        <source>Shift Left</source>
+        <translation>%1 to the left</translation>
+    </message>
+    <message>
+        <source>Shift Up</source>
+        <translation>%1 up</translation>
+    </message>
+    <message>
+        <source>Shift Down</source>
+        <translation>%1 down</translation>
+    </message>
+    <message>
+        <source>Shift Nowhere</source>
+        <translation>not shifted</translation>
+    </message>
+    <message>
+        <source>Shift In Inches</source>
+        <translation>%1 in</translation>
+    </message>
+    <message>
+        <source>Shift In Millimeters</source>
+        <translation>%1 mm</translation>
     </message>
 </context>
 <context>

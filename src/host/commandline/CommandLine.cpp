@@ -21,7 +21,7 @@ struct Parser {
     CommandLineResult result = {};
 };
 
-using Fault = std::optional<QString>;
+using Fault = std::optional<Message>;
 using Apply = Fault (*)(CommandLine& line, const QByteArray& value);
 
 Fault SetCopies(CommandLine& line, const QByteArray& value)
@@ -29,10 +29,10 @@ Fault SetCopies(CommandLine& line, const QByteArray& value)
     bool isNumber = false;
     const int copies = value.toInt(&isNumber);
     if (!isNumber || copies > kMostCopies)
-        return u"\"-n %1\" is not a number of copies: give 1 to %2."_s.arg(QString::fromUtf8(value)).arg(kMostCopies);
+        return Say("Copies Not A Number", QString::fromUtf8(value), kMostCopies);
     if (copies < 1)
-        return u"copies must be 1 or more: \"-n %1\"."_s.arg(copies);
-    line.copies = copies;
+        return Say("Copies Too Few", copies);
+    line.presets.copies = copies;
     return {};
 }
 
@@ -41,8 +41,8 @@ Fault SetPages(CommandLine& line, const QByteArray& value)
     const QString text = QString::fromUtf8(value);
     const PageRanges pages = ParsePageRanges(text);
     if (pages.problem != PageRangesProblem::None || pages.ranges.empty())
-        return u"\"-P %1\" is not a page list: give pages from 1 and ranges, as in -P 1-4,7,16-."_s.arg(text);
-    line.pageRanges = WritePageRanges(pages.ranges, u","_s);
+        return Say("Page List Unusable", text);
+    line.presets.pageRanges = WritePageRanges(pages.ranges, u","_s);
     return {};
 }
 
@@ -50,16 +50,15 @@ Fault AddOptions(CommandLine& line, const QByteArray& value)
 {
     // The library takes a carriage return for a blank and would cut the value in silence.
     if (std::ranges::any_of(value, [](char c) { return c == 0x7f || (c >= 0 && c < ' ' && c != '\t' && c != '\n'); }))
-        return u"\"-o %1\" has a control character, which would get lost on the way: leave it out."_s.arg(
-            QString::fromUtf8(value).simplified());
+        return Say("Option With Control Character", QString::fromUtf8(value).simplified());
     JobOptions given;
     ParseJobOptions(value, given);
     if (given.empty())
-        return u"\"-o %1\" names no option: give -o NAME=VALUE."_s.arg(QString::fromUtf8(value));
+        return Say("Option Without Name", QString::fromUtf8(value));
     for (const JobOption& option : given) {
-        if (const auto fault = JobOptionFault(option))
-            return *fault + u'.';
-        SetJobOption(line.options, option.name, option.value);
+        if (auto fault = JobOptionFault(option))
+            return fault;
+        SetJobOption(line.presets.options, option.name, option.value);
     }
     return {};
 }
@@ -68,12 +67,11 @@ Fault SetPanels(CommandLine& line, const QByteArray& value)
 {
     line.panels = QString::fromUtf8(value).split(u',');
     if (std::ranges::any_of(line.panels, &QString::isEmpty))
-        return u"\"--panels %1\" has an empty name: give names with commas between them."_s.arg(
-            QString::fromUtf8(value));
+        return Say("Panel Without Name", QString::fromUtf8(value));
     return {};
 }
 
-template <QString CommandLine::*member> Fault SetText(CommandLine& line, const QByteArray& value)
+template <auto member> Fault SetText(CommandLine& line, const QByteArray& value)
 {
     line.*member = QString::fromUtf8(value);
     return {};
@@ -82,7 +80,7 @@ template <QString CommandLine::*member> Fault SetText(CommandLine& line, const Q
 template <QString CommandLine::*member> Fault SetPath(CommandLine& line, const QByteArray& value)
 {
     if (value.isEmpty())
-        return u"an empty file name was given: give the file's name."_s;
+        return Say("File Name Empty");
     line.*member = QFile::decodeName(value);
     return {};
 }
@@ -140,9 +138,9 @@ Fault ApplyRow(Parser& parser, const OptionRow& row, const QString& shown, std::
     if (row.wanted && !value)
         value = NextArgument(parser);
     if (row.wanted && !value)
-        return u"expected %1 after \"%2\" option."_s.arg(QLatin1StringView(row.wanted), shown);
+        return Say("Option Without Value", QString::fromLatin1(row.wanted), shown);
     if (!row.wanted && value)
-        return u"option \"%1\" takes no value."_s.arg(shown);
+        return Say("Option Takes No Value", shown);
     return row.apply(parser.result.commandLine, value.value_or(QByteArray()));
 }
 
@@ -153,7 +151,7 @@ Fault ParseLong(Parser& parser, const QByteArray& argument)
     const QString shown = u"--"_s + QString::fromUtf8(name);
     const OptionRow* row = FindRow(kLongOptions, std::string_view(name.constData(), std::size_t(name.size())));
     if (!row)
-        return u"unknown option \"%1\"; see kesta-print --help."_s.arg(shown);
+        return Say("Option Not Known", shown);
     return ApplyRow(parser, *row, shown, equals < 0 ? std::nullopt : std::optional(argument.mid(equals + 1)));
 }
 
@@ -164,10 +162,10 @@ Fault ParseLetters(Parser& parser, const QByteArray& argument)
         const OptionRow* row = FindRow(kLetters, std::string_view(argument.constData() + i, 1));
         const QByteArray rest = argument.mid(i + 1);
         if (!row)
-            return u"unknown option \"%1\"; see kesta-print --help."_s.arg(QString::fromUtf8(argument.mid(i)).front());
+            return Say("Option Not Known", QString(QString::fromUtf8(argument.mid(i)).front()));
         const bool takesRest = row->wanted && !rest.isEmpty();
         const QString shown = u"-"_s + QLatin1Char(argument[i]);
-        if (const Fault fault = ApplyRow(parser, *row, shown, takesRest ? std::optional(rest) : std::nullopt))
+        if (Fault fault = ApplyRow(parser, *row, shown, takesRest ? std::optional(rest) : std::nullopt))
             return fault;
         if (row->wanted)
             break;
@@ -200,15 +198,15 @@ Fault FindContradiction(const Parser& parser)
 {
     const CommandLine& line = parser.result.commandLine;
     if (parser.standardInput && !line.files.isEmpty())
-        return u"cannot print from stdin if files are provided: leave out \"-\" or the files."_s;
+        return Say("Standard Input And Files");
     if (line.scriptPath == u"-" && line.ppdPath.isEmpty() && line.files.isEmpty())
-        return u"standard input can't be both the script and the document: name the document's file."_s;
+        return Say("Standard Input Twice");
     if (!line.ppdPath.isEmpty() && !line.queue.isEmpty())
-        return u"\"--ppd\" stands for a printer without a queue: leave out \"-d %1\" or \"--ppd\"."_s.arg(line.queue);
+        return Say("PPD And Queue", line.queue);
     if (!line.deviceURI.isEmpty() && line.ppdPath.isEmpty())
-        return u"\"--device-uri\" gives an address to the printer of \"--ppd\": add --ppd FILE."_s;
+        return Say("Address Without PPD");
     if (line.noDialog && !line.scriptPath.isEmpty())
-        return u"\"--script\" plays in the dialog: leave out \"--no-dialog\" or \"--script\"."_s;
+        return Say("Script Without Dialog");
     return {};
 }
 
@@ -220,7 +218,7 @@ CommandLineResult ParseCommandLine(std::span<const char* const> arguments)
     Fault fault = ParseAll(parser);
     if (!fault && !parser.result.commandLine.help && !parser.result.commandLine.version)
         fault = FindContradiction(parser);
-    parser.result.error = fault.value_or(QString());
+    parser.result.error = fault.value_or(Message());
     return parser.result;
 }
 
@@ -250,8 +248,8 @@ Shows the print dialog for the files and prints them. With no file, or with "-",
   --version             show the version
 
 What is set by -o prevails over saved settings, -n and -P prevail over -o, and what you set in the dialog prevails over
-all of them. The exit status is 0, or 1 after an error.
-)"_s;
+all of them. The exit status is 0 after printing or saving, 1 after an error, and 3 when the dialog was cancelled. A script
+that played to its end has 0.)"_s;
 }
 
 } // namespace kesta::host

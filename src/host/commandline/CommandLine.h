@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/job/JobOptions.h"
+#include "host/job/JobRequest.h"
 
 #include <QByteArrayList>
 #include <QStringList>
@@ -17,12 +17,10 @@ struct CommandLine {
     bool listOptions = false;
     bool noDialog = false;
     bool silent = false;
-    QString queue;             // -d, "queue" or "queue/instance"; empty: the default one
-    QString server;            // -h, "host[:port][/version=1.1]" or the path of a socket; empty: the default one
-    QString title;             // -t
-    std::optional<int> copies; // -n, 1 to 9999
-    QString pageRanges;        // -P, as in "1-4,7,16-": in order, apart from each other
-    JobOptions options;        // -o
+    QString queue;                // -d, "queue" or "queue/instance"; empty: the default one
+    QString server;               // -h, "host[:port][/version=1.1]" or the path of a socket; empty: the default one
+    std::optional<QString> title; // -t; an empty one counts, too
+    JobPresets presets;           // -o, -n, -P
     QString ppdPath;
     QString deviceURI;
     QString settingsPath;
@@ -36,7 +34,7 @@ struct CommandLine {
 
 struct CommandLineResult {
     CommandLine commandLine;
-    QString error; // one line naming the argument and the way out; empty: the command line is good
+    Message error; // naming the argument and the way out; empty: the command line is good
 };
 
 // The arguments without the program's name. Letters join as in lp: -sd QUEUE, -n2, -n 2.

@@ -1,5 +1,7 @@
 #include "host/commandline/Console.h"
 
+#include "platform/plugins/Sentence.h"
+
 #include <cstdio>
 
 namespace kesta::host {
@@ -13,19 +15,24 @@ void Write(std::FILE* stream, const char* before, const QString& text)
 
 } // namespace
 
+QString ConsoleSentence(const Message& message, const Bundle& texts)
+{
+    return Sentence(message, texts, {"Console", "Localizable"});
+}
+
 void PrintLine(const QString& line)
 {
     Write(stdout, "", line);
 }
 
-void PrintFailure(const QString& reason)
+void PrintFailure(const Message& reason, const Bundle& texts)
 {
-    Write(stderr, "kesta-print: Error - ", reason);
+    Write(stderr, "kesta-print: Error - ", ConsoleSentence(reason, texts));
 }
 
-void PrintNote(const QString& note)
+void PrintNote(const Message& note, const Bundle& texts)
 {
-    Write(stderr, "kesta-print: ", note);
+    Write(stderr, "kesta-print: ", ConsoleSentence(note, texts));
 }
 
 } // namespace kesta::host

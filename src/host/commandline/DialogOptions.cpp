@@ -51,10 +51,10 @@ void SetPages(const QString& typed, HostSettings& settings)
 
 } // namespace
 
-HostSettings StartingSettings(const CommandLine& commandLine, HostSettings saved)
+HostSettings StartingSettings(const JobPresets& presets, HostSettings saved)
 {
     HostSettings settings = std::move(saved);
-    const JobOptions& options = commandLine.options;
+    const JobOptions& options = presets.options;
     if (const int copies = FindJobOption(options, "copies").value_or(QString()).toInt(); copies > 0)
         settings.copies = std::min(copies, kMostCopies);
     SetPages(FindJobOption(options, "page-ranges").value_or(QString()), settings);
@@ -62,8 +62,8 @@ HostSettings StartingSettings(const CommandLine& commandLine, HostSettings saved
     if (std::ranges::find(kPagesPerSheet, perSheet) != kPagesPerSheet.end())
         settings.pagesPerSheet = perSheet;
     settings.orientation = RequestedOrientation(options).value_or(settings.orientation);
-    settings.copies = commandLine.copies.value_or(settings.copies);
-    SetPages(commandLine.pageRanges, settings);
+    settings.copies = presets.copies.value_or(settings.copies);
+    SetPages(presets.pageRanges, settings);
     return settings;
 }
 

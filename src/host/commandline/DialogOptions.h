@@ -1,13 +1,14 @@
 #pragma once
 
-#include "host/commandline/CommandLine.h"
 #include "host/job/HostTickets.h"
+#include "host/job/JobRequest.h"
 #include "host/ppd/PPDFacts.h"
 
 namespace kesta::host {
 
-// The dialog's fields as they start: saved settings, over them what -o says, over that -n and -P.
-HostSettings StartingSettings(const CommandLine& commandLine, HostSettings saved);
+// The dialog's fields as they start: saved settings, over them what the presets' options say, over that their copies
+// and pages.
+HostSettings StartingSettings(const JobPresets& presets, HostSettings saved);
 
 // Sets the printer's own options among the job options as choices of the ticket. What is set already stays, unless
 // these prevail.

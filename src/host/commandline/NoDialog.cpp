@@ -12,7 +12,6 @@
 
 #include "platform/printsystem/JobSettings.h"
 #include "platform/system/SafeFile.h"
-#include "platform/values/PropertyList.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,11 +19,12 @@ namespace kesta::host {
 namespace {
 
 // Nothing on success; otherwise what stopped the run.
-using Failure = std::optional<QString>;
+using Failure = std::optional<Message>;
 
 // The run of one command line.
 struct Run {
     const CommandLine& commandLine;
+    const Bundle& texts;
     PrintServer server;
     Cancellation cancellation = {}; // never asked for: the user presses Ctrl-C
     JobTickets tickets = {};
@@ -55,7 +55,7 @@ Failure ListPrinterOptions(Run& run)
     if (run.ppd.path.isEmpty())
         return run.ppd.problem;
     JobOptions marked = run.queue.defaults;
-    for (const JobOption& option : run.commandLine.options)
+    for (const JobOption& option : run.commandLine.presets.options)
         SetJobOption(marked, option.name, option.value);
     const OptionList list = ListOptions(run.ppd.path, marked);
     if (!list.problem.isEmpty())
@@ -74,16 +74,16 @@ Failure ReadSettings(Run& run)
 void ApplyCommandLine(Run& run)
 {
     Ticket& settings = run.tickets.printSettings;
-    PresetChoices(run.commandLine.options, run.facts, Preset::Prevails, settings.ppdDict());
+    PresetChoices(run.commandLine.presets.options, run.facts, Preset::Prevails, settings.ppdDict());
     const HostSettings saved = ReadTickets(settings, run.tickets.pageFormat);
-    const HostSettings wanted = StartingSettings(run.commandLine, saved);
+    const HostSettings wanted = StartingSettings(run.commandLine.presets, saved);
     if (wanted != saved)
         WriteTickets(wanted, settings, run.tickets.pageFormat);
 }
 
 bool IsChoiceOfCommandLine(const Run& run, const QString& keyword)
 {
-    return FindJobOption(run.commandLine.options, keyword).has_value();
+    return FindJobOption(run.commandLine.presets.options, keyword).has_value();
 }
 
 // Choices of -o that the printer does not have stop the job: the print server would take the default in silence. Those
@@ -93,11 +93,24 @@ Failure SettleUnknown(Run& run, const QStringList& unknown)
     for (const QString& fault : unknown) {
         const QString keyword = fault.section(u'=', 0, 0);
         if (IsChoiceOfCommandLine(run, keyword))
-            return u"the printer does not offer \"%1\": see kesta-print --list-options."_s.arg(fault);
+            return Say("Choice Not Offered", fault);
         run.tickets.printSettings.ppdDict().remove(keyword);
-        PrintNote(u"the printer does not offer \"%1\" of the saved settings; it is left out."_s.arg(fault));
+        PrintNote(Say("Choice Left Out", fault), run.texts);
     }
     return std::nullopt;
+}
+
+// One line a conflict, with the options that resolve it.
+Message ConflictLines(const ConflictReport& report)
+{
+    Message lines;
+    for (const ChoiceConflict& conflict : report.conflicts) {
+        Message line = conflict.sentence;
+        for (const ChoiceChange& change : conflict.changes)
+            line = Say("Conflict With Change", line, change.text, change.keyword, change.choice);
+        lines = lines.isEmpty() ? line : Say("Two Lines", lines, line);
+    }
+    return lines;
 }
 
 Failure CheckChoices(Run& run)
@@ -105,7 +118,7 @@ Failure CheckChoices(Run& run)
     if (run.ppd.path.isEmpty())
         return std::nullopt;
     Dictionary choices = run.tickets.printSettings.ppdDict();
-    for (const JobOption& option : run.commandLine.options) {
+    for (const JobOption& option : run.commandLine.presets.options) {
         if (run.facts.choices.contains(option.name))
             choices.set(option.name, option.value);
     }
@@ -114,14 +127,7 @@ Failure CheckChoices(Run& run)
         return report.problem;
     if (Failure failure = SettleUnknown(run, report.unknown))
         return failure;
-    QStringList sentences;
-    for (const ChoiceConflict& conflict : report.conflicts) {
-        QString sentence = conflict.sentence;
-        for (const ChoiceChange& change : conflict.changes)
-            sentence += u" %1 (-o %2=%3)."_s.arg(change.text, change.keyword, change.choice);
-        sentences << sentence;
-    }
-    return sentences.isEmpty() ? std::nullopt : std::optional(sentences.join(u'\n'));
+    return report.conflicts.empty() ? std::nullopt : std::optional(ConflictLines(report));
 }
 
 Failure SaveSettings(const Run& run)
@@ -130,7 +136,7 @@ Failure SaveSettings(const Run& run)
     if (path.isEmpty())
         return std::nullopt;
     const auto error = WriteFile(path, WriteSavedSettings(run.tickets), FileAccess::OwnerOnly);
-    return error ? std::optional(error->text) : std::nullopt;
+    return error ? std::optional(Verbatim(error->text)) : std::nullopt;
 }
 
 // The host's own fields as far as the tickets or the command line name them; what -o names is sent as it was given.
@@ -138,19 +144,19 @@ JobFields FieldsOf(const Run& run)
 {
     const Ticket& settings = run.tickets.printSettings;
     const HostSettings values = ReadTickets(settings, run.tickets.pageFormat);
-    const CommandLine& line = run.commandLine;
+    const JobPresets& presets = run.commandLine.presets;
     const auto counts = [&](const Ticket& ticket, const char* key, const char* option) {
-        return ticket.values().find(key) && !FindJobOption(line.options, option);
+        return ticket.values().find(key) && !FindJobOption(presets.options, option);
     };
     JobFields fields;
-    if (line.copies || counts(settings, key::PMCopies, "copies"))
+    if (presets.copies || counts(settings, key::PMCopies, "copies"))
         fields.copies = values.copies;
-    if (!line.pageRanges.isEmpty() || counts(settings, key::PageRanges, "page-ranges"))
+    if (!presets.pageRanges.isEmpty() || counts(settings, key::PageRanges, "page-ranges"))
         fields.pageRanges = values.pageRanges;
     if (counts(settings, key::PagesPerSheet, "number-up"))
         fields.pagesPerSheet = values.pagesPerSheet;
     if (counts(run.tickets.pageFormat, key::PMOrientation, "orientation-requested") &&
-        !FindJobOption(line.options, "landscape"))
+        !FindJobOption(presets.options, "landscape"))
         fields.orientation = values.orientation;
     return fields;
 }
@@ -158,13 +164,12 @@ JobFields FieldsOf(const Run& run)
 Failure Send(Run& run)
 {
     const Ticket& settings = run.tickets.printSettings;
-    const bool hasTicket = settings.values().count() > 0;
-    const ComposedOptions composed =
-        ComposeJobOptions({.queueDefaults = run.queue.defaults,
-                           .ppdChoices = settings.ppdDict(),
-                           .commandLine = run.commandLine.options,
-                           .fields = FieldsOf(run),
-                           .ticket = hasTicket ? WritePropertyList(settings.values()) : QByteArray()});
+    const ComposedOptions composed = ComposeJobOptions({.queueDefaults = run.queue.defaults,
+                                                        .ppdChoices = settings.ppdDict(),
+                                                        .commandLine = run.commandLine.presets.options,
+                                                        .fields = FieldsOf(run),
+                                                        .ticket = settings.values(),
+                                                        .reader = run.facts.ticketReader});
     if (!composed.problem.isEmpty())
         return composed.problem;
     const PrintJob job{.queue = run.queue.queue.name,
@@ -175,7 +180,7 @@ Failure Send(Run& run)
     if (!result.sent())
         return result.message;
     if (!run.commandLine.silent)
-        PrintLine(result.message);
+        PrintLine(ConsoleSentence(result.message, run.texts));
     return std::nullopt;
 }
 
@@ -183,7 +188,7 @@ Failure Print(Run& run)
 {
     const bool hasQueue = run.commandLine.ppdPath.isEmpty();
     if (!hasQueue && run.commandLine.saveSettingsPath.isEmpty())
-        return u"--ppd prints nothing: add --save-settings FILE, or print to a queue with -d."_s;
+        return Say("Nothing To Do");
     if (Failure failure = hasQueue ? FindFileProblem(run.commandLine.files) : std::nullopt)
         return failure;
     if (Failure failure = ReadSettings(run))
@@ -207,16 +212,16 @@ bool RunsWithoutDialog(const CommandLine& commandLine)
     return commandLine.help || commandLine.version || commandLine.listOptions || commandLine.noDialog;
 }
 
-int RunWithoutDialog(const CommandLine& commandLine, std::chrono::milliseconds patience)
+int RunWithoutDialog(const CommandLine& commandLine, const Bundle& texts, std::chrono::milliseconds patience)
 {
     if (commandLine.help || commandLine.version) {
-        PrintLine(commandLine.help ? UsageText().trimmed() : u"kesta-print "_s + QLatin1StringView(KESTA_VERSION));
+        PrintLine(commandLine.help ? UsageText() : u"kesta-print "_s + QLatin1StringView(KESTA_VERSION));
         return 0;
     }
-    Run run{commandLine, {.address = commandLine.server, .patience = patience}};
+    Run run{commandLine, texts, {.address = commandLine.server, .patience = patience}};
     const Failure failure = commandLine.listOptions ? ListPrinterOptions(run) : Print(run);
     if (failure)
-        PrintFailure(*failure);
+        PrintFailure(*failure, texts);
     return failure ? 1 : 0;
 }
 

@@ -3,6 +3,7 @@
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
 #include "host/job/PageRanges.h"
+#include "platform/plugins/Sentence.h"
 #include "platform/system/Notices.h"
 #include "platform/system/UserPreferences.h"
 #include "toolkit/controls/HistoryComboBox.h"
@@ -52,6 +53,14 @@ QString ProblemKey(PageRangesProblem problem)
     default:
         return u"Pages Not Understood"_s;
     }
+}
+
+// The number that the message about them names; empty where it names none.
+QString LimitOf(PageRangesProblem problem)
+{
+    if (problem == PageRangesProblem::NoSuchPage)
+        return QString::number(kLastPage);
+    return problem == PageRangesProblem::TooMany ? QString::number(kMostRanges) : QString();
 }
 
 } // namespace
@@ -122,11 +131,7 @@ bool DialogFields::checkPages()
     if (problem == PageRangesProblem::None)
         return true;
     const QString key = ProblemKey(problem);
-    QString message = PrintText(*texts_, key + u" Message"_s);
-    if (problem == PageRangesProblem::NoSuchPage)
-        message = message.arg(kLastPage);
-    if (problem == PageRangesProblem::TooMany)
-        message = message.arg(kMostRanges);
+    const QString message = FormatText(PrintText(*texts_, key + u" Message"_s), {LimitOf(problem)});
     GetNotices().show({.title = PrintText(*texts_, key + u" Title"_s), .message = message});
     SetInvalid(Control<QWidget>(window_, kPagesField), true);
     return false;

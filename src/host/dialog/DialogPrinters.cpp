@@ -1,12 +1,17 @@
 // The chosen printer and its pane.
 
-#include "host/commandline/DialogOptions.h"
+#include "host/dialog/DialogButtons.h"
 #include "host/dialog/PrintDialog.h"
+
+#include "host/commandline/DialogOptions.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
+#include "platform/plugins/Sentence.h"
 #include "toolkit/windows/InterfaceFile.h"
 
 #include <QFileInfo>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -19,18 +24,33 @@ constexpr char kMaker[] = "Kesta"; // whose printers the pane takes
 
 void PrintDialog::startPrinters()
 {
-    const CommandLine& options = start_.commandLine;
-    if (options.ppdPath.isEmpty()) {
-        finder_.start(options.queue);
+    const JobRequest& request = start_.request;
+    if (request.ppdPath.isEmpty()) {
+        finder_.start(request.queue, memory_.printer);
         enableButtons();
         return;
     }
     DialogPrinter printer;
-    printer.queue.displayName = QFileInfo(options.ppdPath).fileName();
-    printer.queue.deviceURI = options.deviceURI;
-    printer.ppd.path = options.ppdPath;
+    printer.queue.displayName = QFileInfo(request.ppdPath).fileName();
+    printer.queue.deviceURI = request.deviceURI;
+    printer.ppd.path = request.ppdPath;
     usePrinter(printer);
     fillPrinterChoice();
+}
+
+// Of this window's first pane: another printer's shows the panel that the plug-in has in front.
+void PrintDialog::recallPanel()
+{
+    if (pane_ && memory_.panel > 0)
+        ShowPanel(paneArea_->host(), std::exchange(memory_.panel, 0));
+}
+
+void PrintDialog::rememberDialog() const
+{
+    const bool hasPrinted = end_ == DialogEnd::Accepted && printer_ && printer_->isQueue();
+    const Queue queue = hasPrinted ? printer_->queue : Queue();
+    RememberDialog({.printer = queue.instance.isEmpty() ? queue.name : queue.name + u'/' + queue.instance,
+                    .panel = pane_ ? ShownPanel(paneArea_->host()) : 0});
 }
 
 void PrintDialog::fillPrinterChoice()
@@ -46,6 +66,7 @@ void PrintDialog::fillPrinterChoice()
     }
     for (const Queue& queue : finder_.queues())
         menu.items.push_back({.title = PrinterTitle(queue, *start_.texts)});
+    choice->setEnabled(!menu.items.empty()); // nothing to choose from while printers are looked for
     choice->setMenu(std::move(menu));
     if (position)
         choice->setValue(position);
@@ -69,8 +90,8 @@ void PrintDialog::usePrinter(const DialogPrinter& printer)
                                  .name = PrinterTitle(printer.queue, *start_.texts),
                                  .ppdPath = printer.ppd.path,
                                  .deviceURI = printer.queue.deviceURI};
-    if (!start_.commandLine.deviceURI.isEmpty())
-        session_.printer->deviceURI = start_.commandLine.deviceURI;
+    if (!start_.request.deviceURI.isEmpty())
+        session_.printer->deviceURI = start_.request.deviceURI;
     presetFromPrinter();
     openPane();
 }
@@ -82,7 +103,7 @@ void PrintDialog::presetFromPrinter()
     facts_ = printer_->ppd.path.isEmpty() ? PPDFacts{.problem = printer_->ppd.problem}
                                           : ReadPPDFacts(printer_->ppd.path, choices);
     PresetChoices(printer_->defaults, facts_, Preset::Fills, choices);
-    PresetChoices(start_.commandLine.options, facts_, Preset::Prevails, choices);
+    PresetChoices(start_.request.presets.options, facts_, Preset::Prevails, choices);
     if (facts_.paper)
         WritePaperRect(*facts_.paper, tickets_.pageFormat);
     WriteInitialDuplexing(DuplexingOfChoice(facts_.duplexChoice), tickets_.printSettings);
@@ -97,14 +118,12 @@ void PrintDialog::openPane()
     paneStatus_ = pane_ ? pane_->status() : noErr;
     if (paneStatus_ != noErr)
         pane_.reset();
+    recallPanel();
     if (pane_)
         paneArea_->showPane();
     else
         paneArea_->showMessage(whyNoPane());
-    std::vector<QWidget*> below;
-    for (const PrintControl button : {kHelpButton, kSaveSettingsButton, kCancelButton, kPrintButton})
-        below.push_back(FindControl(window_.get(), {kPrintSignature, button}));
-    paneArea_->placeInFocusOrder(below);
+    paneArea_->placeInFocusOrder(ButtonsInOrder(*window_));
     enableButtons();
     updateSummary();
 }
@@ -119,18 +138,20 @@ void PrintDialog::enableButtons()
 PaneMessage PrintDialog::whyNoPane() const
 {
     const Bundle& texts = *start_.texts;
-    const QString stillWorks = start_.commandLine.ppdPath.isEmpty() ? PrintText(texts, "Printing Still Works")
-                                                                    : PrintText(texts, "Saving Still Works");
+    const QString stillWorks = start_.request.ppdPath.isEmpty() ? PrintText(texts, "Printing Still Works")
+                                                                : PrintText(texts, "Saving Still Works");
     if (!start_.plugIn.plugIn)
         return {PrintText(texts, "No Plug-in Title"),
-                PrintText(texts, "No Plug-in Message").arg(start_.plugIn.error, stillWorks)};
+                PrintText(texts, "No Plug-in Message").arg(Sentence(start_.plugIn.error, texts), stillWorks)};
     const QString name = PrinterTitle(printer_->queue, texts);
     const QString& maker = facts_.manufacturer;
     const QString message =
-        !facts_.problem.isEmpty() ? PrintText(texts, "No Description Message").arg(facts_.problem, stillWorks)
+        !facts_.problem.isEmpty()
+            ? PrintText(texts, "No Description Message").arg(Sentence(facts_.problem, texts), stillWorks)
         : maker == QLatin1StringView(kMaker)
             ? PrintText(texts, "Pane Failed Message").arg(name, QString::number(paneStatus_), stillWorks)
-            : PrintText(texts, "Other Maker Message").arg(name, maker, stillWorks);
+        : maker.isEmpty() ? PrintText(texts, "No Maker Message").arg(name, stillWorks)
+                          : PrintText(texts, "Other Maker Message").arg(name, maker, stillWorks);
     return {PrintText(texts, "Plain Options Title"), message};
 }
 

@@ -1,17 +1,17 @@
 // What Print and Save Settings do.
 
-#include "host/commandline/Console.h"
-#include "host/commandline/DialogOptions.h"
 #include "host/dialog/PrintDialog.h"
+
+#include "host/commandline/DialogOptions.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
 #include "host/job/JobComposition.h"
 #include "host/job/SavedSettings.h"
 #include "host/ppd/Constraints.h"
+#include "platform/plugins/Sentence.h"
 #include "platform/system/FileChooser.h"
 #include "platform/system/Notices.h"
 #include "platform/system/SafeFile.h"
-#include "platform/values/PropertyList.h"
 #include "toolkit/windows/InterfaceFile.h"
 
 using namespace Qt::StringLiterals;
@@ -28,13 +28,12 @@ Alert ConflictQuestion(const ConflictReport& report, const Bundle& texts)
     QStringList changes;
     bool canResolve = true;
     for (const ChoiceConflict& conflict : report.conflicts) {
-        sentences << conflict.sentence;
+        sentences << Sentence(conflict.sentence, texts);
         canResolve = canResolve && !conflict.changes.empty();
-        for (const ChoiceChange& change : conflict.changes) {
-            if (!changes.contains(change.text))
-                changes << change.text;
-        }
+        for (const ChoiceChange& change : conflict.changes)
+            changes << Sentence(change.text, texts);
     }
+    changes.removeDuplicates();
     const QString title = PrintText(texts, "Conflict Title");
     const QString goBack = PrintText(texts, "Go Back");
     if (!canResolve)
@@ -75,11 +74,14 @@ EventResult PrintDialog::print()
     if (!settleConflicts() || !saveAfterPrint())
         return EventResult::Swallowed;
     fields_->rememberPages();
+    accepted_ = composeJob();
+    if (!accepted_)
+        return EventResult::Handled;
     pane_.reset();
-    if (printer_->isQueue())
+    if (printer_->isQueue() && start_.send)
         send();
     else
-        end(0);
+        close(DialogEnd::Accepted);
     return EventResult::Handled;
 }
 
@@ -129,9 +131,7 @@ bool PrintDialog::saveSettingsTo(const QString& path)
     const std::optional<FileError> error = WriteFile(path, WriteSavedSettings(tickets_), FileAccess::OwnerOnly);
     if (!error)
         return true;
-    PrintFailure(error->text);
-    status_ = 1;
-    GetNotices().show({.title = PrintText(*start_.texts, "Saving Failed Title"), .message = error->text});
+    failed(Verbatim(error->text), PrintText(*start_.texts, "Saving Failed Title"));
     return false;
 }
 
@@ -140,8 +140,8 @@ std::optional<QString> PrintDialog::askForFile()
     std::optional<QString> path = GetFileChooser().save({.title = PrintText(*start_.texts, "Save Settings Title"),
                                                          .name = PrintText(*start_.texts, "Settings File Name"),
                                                          .patterns = {u"*.plist"_s}});
-    if (!path && start_.scripted)
-        PrintNote(u"the settings are not saved: no --save-settings FILE was given"_s);
+    if (!path && start_.scripted && start_.noted)
+        start_.noted(Say("Settings Not Saved"));
     return path;
 }
 
@@ -149,7 +149,7 @@ void PrintDialog::saveSettings()
 {
     if (!fields_->checkPages())
         return;
-    const QString& named = start_.commandLine.saveSettingsPath;
+    const QString& named = start_.request.saveSettingsPath;
     const std::optional<QString> path = named.isEmpty() ? askForFile() : named;
     if (!path)
         return;
@@ -160,7 +160,7 @@ void PrintDialog::saveSettings()
 // Where there is no queue, saving is all that Print does.
 bool PrintDialog::saveAfterPrint()
 {
-    const QString& path = start_.commandLine.saveSettingsPath;
+    const QString& path = start_.request.saveSettingsPath;
     if (!path.isEmpty())
         return saveSettingsTo(path);
     if (printer_->isQueue())
@@ -170,32 +170,46 @@ bool PrintDialog::saveAfterPrint()
     return start_.scripted;
 }
 
-void PrintDialog::send()
+TicketReader PrintDialog::ticketReader() const
 {
+    TicketReader reader = facts_.ticketReader;
+    if (!printer_->ppd.hasNone)
+        reader.problem = facts_.problem;
+    return reader;
+}
+
+// Nothing when it can't be told to the print server; the user knows why then.
+std::optional<AcceptedJob> PrintDialog::composeJob()
+{
+    AcceptedJob job{.queue = printer_->queue.name, .title = start_.request.title, .settings = start_.request.settings};
+    if (!printer_->isQueue())
+        return job;
     const HostSettings settings = fields_->settings();
-    const ComposedOptions composed =
+    ComposedOptions composed =
         ComposeJobOptions({.queueDefaults = printer_->defaults,
                            .ppdChoices = tickets_.printSettings.ppdDict(),
-                           .commandLine = OptionsOutsideDialog(start_.commandLine.options, facts_),
+                           .commandLine = OptionsOutsideDialog(start_.request.presets.options, facts_),
                            .fields = {.copies = settings.copies,
                                       .pageRanges = settings.pageRanges,
                                       .orientation = settings.orientation,
                                       .pagesPerSheet = settings.pagesPerSheet},
-                           .ticket = WritePropertyList(tickets_.printSettings.values())});
+                           .ticket = tickets_.printSettings.values(),
+                           .reader = ticketReader()});
     if (!composed.problem.isEmpty()) {
         failedToPrint(composed.problem);
-        return;
+        return std::nullopt;
     }
+    job.options = std::move(composed.options);
+    return job;
+}
+
+void PrintDialog::send()
+{
     const Bundle& texts = *start_.texts;
-    const PaneMessage word{PrintText(texts, "Sending Title").arg(PrinterTitle(printer_->queue, texts)),
-                           PrintText(texts, "Sending Message").arg(documentName())};
+    const PaneMessage word{PrintText(texts, "Sending Title").arg(PrinterTitle(printer_->queue, texts)), jobName()};
     paneArea_->showProgress(word, 0, 0);
-    sending_.emplace(SubmitJobAside(
-        {.address = start_.commandLine.server},
-        {.queue = printer_->queue.name,
-         .title = start_.commandLine.title,
-         .files = start_.commandLine.files,
-         .options = composed.options},
+    sending_.emplace(start_.send(
+        *accepted_,
         [this, word](const SubmissionProgress& progress) {
             paneArea_->showProgress(word, progress.sent, progress.total);
         },
@@ -205,29 +219,35 @@ void PrintDialog::send()
 
 void PrintDialog::sent(const SubmissionResult& result)
 {
+    const Bundle& texts = *start_.texts;
     sending_.reset();
     enableButtons();
     if (result.sent()) {
-        if (!start_.commandLine.silent)
-            PrintLine(result.message);
-        end(0);
-    } else if (result.cancelled) {
-        openPane();
-        GetNotices().show({.title = PrintText(*start_.texts, "Sending Stopped Title"), .message = result.message});
-    } else {
-        failedToPrint(result.message);
+        close(DialogEnd::Accepted);
+        return;
     }
+    openPane(); // everything stays as it was set, to try again
+    if (result.cancelled)
+        GetNotices().show(
+            {.title = PrintText(texts, "Sending Stopped Title"), .message = Sentence(result.message, texts)});
+    else if (result.documentAtFault)
+        failed(result.message, PrintText(texts, "Document Failed Title"));
+    else
+        failedToPrint(result.message);
 }
 
-// Everything stays as it was set, to try again.
-void PrintDialog::failedToPrint(const QString& reason)
+void PrintDialog::failedToPrint(const Message& reason)
 {
-    PrintFailure(reason);
-    status_ = 1;
     const Bundle& texts = *start_.texts;
-    openPane();
-    GetNotices().show({.title = PrintText(texts, "Sending Failed Title").arg(PrinterTitle(printer_->queue, texts)),
-                       .message = reason});
+    failed(reason, PrintText(texts, "Sending Failed Title").arg(PrinterTitle(printer_->queue, texts)));
+}
+
+void PrintDialog::failed(const Message& reason, const QString& title)
+{
+    hasFailed_ = true;
+    if (start_.failed)
+        start_.failed(reason);
+    GetNotices().show({.title = title, .message = Sentence(reason, *start_.texts)});
 }
 
 } // namespace kesta::host

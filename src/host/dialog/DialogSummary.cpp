@@ -2,6 +2,9 @@
 
 #include "host/dialog/PrintTexts.h"
 #include "host/job/PageRanges.h"
+#include "platform/plugins/Sentence.h"
+
+#include <QLocale>
 
 using namespace Qt::StringLiterals;
 
@@ -12,12 +15,18 @@ QString CopiesAndPages(const HostSettings& settings, const Bundle& texts)
 {
     QStringList facts;
     if (settings.copies > 1)
-        facts << PrintText(texts, "Copies Summary").arg(settings.copies);
+        facts << LocalizedCount(texts, "Copies Summary", settings.copies);
     if (!settings.pageRanges.isEmpty()) {
         const QString shown = WritePageRanges(ParsePageRanges(settings.pageRanges).ranges, u", "_s);
         facts << PrintText(texts, "Pages Summary").arg(shown);
     }
     return facts.join(u", "_s);
+}
+
+// The line begins as a sentence does, whichever phrase comes first.
+QString Capitalized(const QString& line)
+{
+    return QLocale().toUpper(line.left(1)) + line.mid(1);
 }
 
 } // namespace
@@ -26,12 +35,12 @@ QString SummaryLine(const HostSettings& settings, const QStringList& panelPhrase
 {
     QStringList phrases{CopiesAndPages(settings, texts)};
     if (settings.pagesPerSheet > 1)
-        phrases << PrintText(texts, "Per Sheet Summary").arg(settings.pagesPerSheet);
+        phrases << LocalizedCount(texts, "Per Sheet Summary", settings.pagesPerSheet);
     if (settings.orientation == Orientation::Landscape || settings.orientation == Orientation::ReverseLandscape)
         phrases << PrintText(texts, "Landscape Summary");
     phrases += panelPhrases;
     phrases.removeAll(QString());
-    return phrases.isEmpty() ? PrintText(texts, "Default Summary") : phrases.join(u" \u00B7 "_s);
+    return phrases.isEmpty() ? PrintText(texts, "Default Summary") : Capitalized(phrases.join(u" \u00B7 "_s));
 }
 
 } // namespace kesta::host

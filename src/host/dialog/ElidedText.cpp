@@ -15,7 +15,7 @@ ElidedText::ElidedText(QLabel& label) : QObject(&label), label_(label)
 void ElidedText::setText(const QString& text)
 {
     text_ = text;
-    label_.setAccessibleDescription(text);
+    label_.setAccessibleName(text); // the whole of it
     elide();
 }
 

@@ -1,11 +1,13 @@
 #include "host/dialog/PrintDialog.h"
 
 #include "host/commandline/DialogOptions.h"
+#include "host/dialog/DialogButtons.h"
 #include "host/dialog/DialogSummary.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/dialog/PrintTexts.h"
-#include "host/job/SavedSettings.h"
-#include "host/server/DocumentSource.h"
+#include "host/job/TicketTransport.h"
+#include "platform/values/PropertyList.h"
+#include "toolkit/windows/FitToScreen.h"
 #include "toolkit/windows/InterfaceFile.h"
 #include "toolkit/windows/ModalLoop.h"
 #include "toolkit/windows/WindowSummary.h"
@@ -13,10 +15,8 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QEvent>
-#include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 
 #include <algorithm>
@@ -48,12 +48,16 @@ void AddPanelShortcuts(QWidget& window)
 
 PrintDialog::PrintDialog(DialogStart start)
     : start_(std::move(start)),
-      finder_(*start_.texts, {.address = start_.commandLine.server},
+      tickets_(*start_.request.settings),
+      finder_(*start_.texts, {.address = start_.request.server},
               {.listChanged = [this] { fillPrinterChoice(); },
                .word = [this](const PaneMessage& message) { paneArea_->showMessage(message); },
                .found = [this](const DialogPrinter& printer) { usePrinter(printer); }})
 {
     AddToSession(tickets_, session_);
+    session_.canCarry = [](const Dictionary& printSettings) {
+        return !EncodeTicket(WritePropertyList(printSettings)).options.empty();
+    };
 }
 
 PrintDialog::~PrintDialog()
@@ -61,44 +65,28 @@ PrintDialog::~PrintDialog()
     pane_.reset();
 }
 
-std::optional<QString> PrintDialog::prepare()
+std::optional<Message> PrintDialog::prepare()
 {
-    const CommandLine& options = start_.commandLine;
-    if (options.ppdPath.isEmpty()) {
-        if (std::optional<QString> problem = FindFileProblem(options.files))
-            return problem;
-    }
-    if (!options.settingsPath.isEmpty()) {
-        if (std::optional<QString> problem = ReadSavedSettings(options.settingsPath, tickets_))
-            return problem;
-    }
     window_ = CreateWindowFromNib(*start_.texts, "PrintDialog", "Window");
     if (!window_)
-        return u"The dialog's own window can't be read."_s;
+        return Say("Window Unreadable");
     setUpWindow();
     return std::nullopt;
 }
 
-QString PrintDialog::documentName() const
+QString PrintDialog::jobName() const
 {
-    const CommandLine& options = start_.commandLine;
-    if (!options.title.isEmpty())
-        return options.title;
-    if (options.files.isEmpty())
-        return options.ppdPath.isEmpty() ? PrintText(*start_.texts, "Standard Input") : QString();
-    return QFileInfo(QString::fromLocal8Bit(options.files.front())).fileName();
+    return start_.request.title.value_or(start_.request.document.value_or(QString()));
 }
 
 void PrintDialog::setUpWindow()
 {
     const Bundle& texts = *start_.texts;
-    const QString document = documentName();
-    window_->setWindowTitle(document.isEmpty() ? PrintText(texts, "Window Title No Document")
-                                               : PrintText(texts, "Window Title").arg(document));
-    QSize size = kUsualSize;
-    if (const QScreen* screen = window_->screen())
-        size = size.boundedTo(screen->availableSize());
-    window_->resize(size);
+    const QString job = jobName();
+    window_->setWindowTitle(job.isEmpty() ? PrintText(texts, "Window Title No Document")
+                                          : PrintText(texts, "Window Title").arg(job));
+    OrderButtons(*window_);
+    window_->resize(kUsualSize.boundedTo(RoomOnScreen(*window_)));
 
     paneArea_.emplace(*window_);
     fields_.emplace(*window_, texts);
@@ -108,24 +96,26 @@ void PrintDialog::setUpWindow()
         *window_, [this](const HitEvent& hit) { return handleHit(hit); },
         [this](const CommandEvent& command) { return handleCommand(command); });
     AddPanelShortcuts(*window_);
-    if (!start_.commandLine.ppdPath.isEmpty()) { // nothing is submitted
+    if (!start_.request.ppdPath.isEmpty()) { // nothing is submitted
         SetControlText(FindControl(window_.get(), {kPrintSignature, kPrintButton}), PrintText(texts, "Save"));
         SetControlVisible(FindControl(window_.get(), {kPrintSignature, kSaveSettingsButton}), false);
     }
 }
 
-// Starts with what the command line says over what the saved settings say.
+// Starts with what the caller has set over what the settings say.
 void PrintDialog::showFields()
 {
-    const CommandLine& options = start_.commandLine;
-    HostSettings settings = StartingSettings(options, ReadTickets(tickets_.printSettings, tickets_.pageFormat));
-    settings.jobName = documentName();
+    HostSettings settings =
+        StartingSettings(start_.request.presets, ReadTickets(tickets_.printSettings, tickets_.pageFormat));
+    settings.jobName = jobName();
     fields_->show(settings);
     WriteTickets(settings, tickets_.printSettings, tickets_.pageFormat);
 }
 
-int PrintDialog::run()
+DialogOutcome PrintDialog::run()
 {
+    if (!start_.scripted) // a script begins where every other begins
+        memory_ = RecallDialog();
     showFields();
     startPrinters();
     qApp->installEventFilter(this);
@@ -136,14 +126,18 @@ int PrintDialog::run()
     RunModalLoop(*window_);
     qApp->removeEventFilter(this);
     sending_.reset();
+    if (!start_.scripted)
+        rememberDialog();
     pane_.reset(); // Cancel: nothing more goes to the tickets
-    return status_;
+    if (!end_)     // the window was closed
+        close(hasFailed_ ? DialogEnd::Failed : DialogEnd::Cancelled);
+    return {*end_, end_ == DialogEnd::Accepted ? std::move(accepted_) : std::nullopt};
 }
 
-void PrintDialog::end(int status)
+void PrintDialog::close(DialogEnd end)
 {
-    status_ = status;
-    EndModalLoop(*window_, status == 0 ? ModalResult::OK : ModalResult::Cancel);
+    end_ = end;
+    EndModalLoop(*window_, end == DialogEnd::Accepted ? ModalResult::OK : ModalResult::Cancel);
 }
 
 EventResult PrintDialog::handleHit(const HitEvent& hit)
@@ -154,6 +148,9 @@ EventResult PrintDialog::handleHit(const HitEvent& hit)
     case kPrinterChoice:
         choosePrinter(hit.value);
         return EventResult::Handled;
+    case kPerSheetChoice: // panels that it concerns look at the ticket
+        WriteTickets(fields_->settings(), tickets_.printSettings, tickets_.pageFormat);
+        return EventResult::NotHandled;
     case kTryAgainButton:
         startPrinters();
         return EventResult::Handled;
@@ -178,7 +175,7 @@ EventResult PrintDialog::handleCommand(const CommandEvent& command)
         if (sending_)
             sending_->cancel();
         else
-            EndModalLoop(*window_, ModalResult::Cancel);
+            close(hasFailed_ ? DialogEnd::Failed : DialogEnd::Cancelled);
         return EventResult::Handled;
     default:
         return EventResult::NotHandled;

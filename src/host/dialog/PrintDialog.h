@@ -1,10 +1,11 @@
 #pragma once
 
-#include "host/commandline/CommandLine.h"
 #include "host/dialog/DialogFields.h"
+#include "host/dialog/DialogMemory.h"
 #include "host/dialog/ElidedText.h"
 #include "host/dialog/PaneArea.h"
 #include "host/dialog/PrinterFinder.h"
+#include "host/job/JobRequest.h"
 #include "host/pane/Pane.h"
 #include "host/ppd/PPDFacts.h"
 #include "host/script/ScriptPlayer.h"
@@ -19,25 +20,35 @@ namespace kesta::host {
 
 // What the dialog starts from.
 struct DialogStart {
-    CommandLine commandLine;
+    JobRequest request = {};
     const Bundle* texts = nullptr;
-    PlugInOrError plugIn;
+    PlugInOrError plugIn = {};
+    // Has an accepted job printed while the window shows how far that is; where it fails, the window stays. Without it,
+    // the accepted job is all that is wanted, and its document may come later.
+    SendFunction send = {};
+    // Hear of what the window tells the user, and of what a user who is a script can't be asked. May be empty.
+    std::function<void(const Message&)> failed = {};
+    std::function<void(const Message&)> noted = {};
     bool scripted = false; // nobody is there to be asked for a file name
 };
 
-// The print dialog: its window, the chosen printer with its pane, and the job's tickets.
+struct DialogOutcome {
+    DialogEnd end = DialogEnd::Cancelled;
+    std::optional<AcceptedJob> job = {}; // that was accepted
+};
+
+// The print dialog: its window, the chosen printer with its pane, and the job's tickets. It opens no document and
+// prints nothing itself.
 class PrintDialog : public QObject, public ScriptedDialog {
 public:
     explicit PrintDialog(DialogStart start);
     ~PrintDialog() override;
 
-    // Why the dialog can't be shown, in one line: its window, the saved settings or a file to print
-    // can't be read. Nothing when it can.
-    std::optional<QString> prepare();
+    // Why the dialog can't be shown: its window can't be read. Nothing when it can.
+    std::optional<Message> prepare();
 
-    // Shows the window until the user prints or cancels. The program's exit status: 1 when the last attempt to print
-    // failed, else 0, also after Cancel.
-    int run();
+    // Shows the window until the user prints or cancels.
+    DialogOutcome run();
 
     QWidget& window() override { return *window_; }
     bool isBusy() const override { return finder_.isBusy() || finder_.isListing() || sending_.has_value(); }
@@ -45,6 +56,7 @@ public:
     QByteArray jobSettings() const override;
     QString summaryText() override;
     void updateSummary() override;
+    std::optional<DialogEnd> end() const override { return end_; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -55,7 +67,7 @@ private:
     EventResult handleHit(const HitEvent& hit);
     EventResult handleCommand(const CommandEvent& command);
     void showFields();
-    QString documentName() const;
+    QString jobName() const;
 
     // DialogPrinters.cpp: the printer and its pane
     void startPrinters();
@@ -64,6 +76,8 @@ private:
     void choosePrinter(int position);
     void presetFromPrinter();
     void openPane();
+    void recallPanel();
+    void rememberDialog() const;
     void closePane(); // what the pane shows goes to the tickets first
     void enableButtons();
     PaneMessage whyNoPane() const;
@@ -77,13 +91,16 @@ private:
     void saveSettings();
     std::optional<QString> askForFile(); // where to save; nothing when the user cancels
     bool saveAfterPrint();
+    TicketReader ticketReader() const;
+    std::optional<AcceptedJob> composeJob();
     void send();
     void sent(const SubmissionResult& result);
-    void failedToPrint(const QString& reason);
-    void end(int status);
+    void failed(const Message& reason, const QString& title);
+    void failedToPrint(const Message& reason);
+    void close(DialogEnd end);
 
     DialogStart start_;
-    JobTickets tickets_;
+    JobTickets& tickets_; // the request's settings
     PrintSession session_;
     std::unique_ptr<QWidget> window_;
     std::optional<PaneArea> paneArea_;
@@ -93,11 +110,14 @@ private:
     PrinterFinder finder_;
     std::optional<DialogPrinter> printer_;
     PPDFacts facts_; // of the printer
+    DialogMemory memory_;
     std::optional<Pane> pane_;
     OSStatus paneStatus_ = noErr; // of the last attempt to open one
     std::optional<BackgroundTask> sending_;
+    std::optional<AcceptedJob> accepted_;
+    std::optional<DialogEnd> end_;
+    bool hasFailed_ = false; // the last attempt to print or save
     bool summaryIsDue_ = false;
-    int status_ = 0;
 };
 
 } // namespace kesta::host

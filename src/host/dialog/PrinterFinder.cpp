@@ -1,8 +1,10 @@
 #include "host/dialog/PrinterFinder.h"
 
 #include "host/dialog/PrintTexts.h"
+#include "platform/plugins/Sentence.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -18,7 +20,7 @@ void PrinterFinder::say(const QString& titleKey, const QString& text, bool canTr
     listener_.word({.title = PrintText(texts_, titleKey), .text = text, .canTryAgain = canTryAgain});
 }
 
-void PrinterFinder::start(const QString& wanted)
+void PrinterFinder::start(const QString& wanted, const QString& usual)
 {
     busy_ = true;
     hasList_ = false;
@@ -30,7 +32,8 @@ void PrinterFinder::start(const QString& wanted)
         listener_.listChanged();
         arrived();
     }));
-    find(wanted);
+    find(wanted.isEmpty() ? usual : wanted);
+    usual_ = wanted.isEmpty() ? usual : QString();
 }
 
 void PrinterFinder::choose(int position)
@@ -77,17 +80,21 @@ void PrinterFinder::arrived()
 
 void PrinterFinder::reportMissing()
 {
+    if (!usual_.isEmpty() && asked_ == std::exchange(usual_, {})) { // gone since
+        find({});
+        return;
+    }
     if (asked_.isEmpty() && !list_.queues.empty()) { // no default printer: the first one will do
         choose(1);
         return;
     }
     busy_ = false;
     if (!list_.problem.isEmpty())
-        say(u"No Server Title"_s, list_.problem, true);
+        say(u"No Server Title"_s, Sentence(list_.problem, texts_), true);
     else if (list_.queues.empty() && asked_.isEmpty())
         say(u"No Printers Title"_s, PrintText(texts_, "No Printers Message"), true);
     else
-        say(u"Unknown Printer Title"_s, found_->problem, true);
+        say(u"Unknown Printer Title"_s, Sentence(found_->problem, texts_), true);
 }
 
 void PrinterFinder::fetchPPD()

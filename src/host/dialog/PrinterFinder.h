@@ -32,8 +32,9 @@ public:
 
     PrinterFinder(const Bundle& texts, PrintServer server, Listener listener);
 
-    // Asks for the list of printers and for the one that is wanted: "queue", "queue/instance", or the default one.
-    void start(const QString& wanted);
+    // Asks for the list of printers and for the one that is wanted: "queue" or "queue/instance". With an empty name it
+    // is the usual one, if it is still there, or else the default one.
+    void start(const QString& wanted, const QString& usual = {});
     void choose(int position); // in queues(), from 1
 
     const std::vector<Queue>& queues() const { return list_.queues; }
@@ -52,6 +53,7 @@ private:
     PrintServer server_;
     Listener listener_;
     QString asked_;
+    QString usual_; // that was asked for; empty when it was another one
     QueueList list_;
     bool hasList_ = false;
     bool busy_ = false;

@@ -8,6 +8,8 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <cstring>
+
 using namespace Qt::StringLiterals;
 
 namespace kesta::host {
@@ -25,15 +27,44 @@ QString LanguageOf(const Bundle& texts)
     return u"en"_s;
 }
 
+// Qt's catalogue of a language and, where Qt has none, what the dialog calls the usual buttons.
+class QtTexts : public QTranslator {
+public:
+    explicit QtTexts(const Bundle& texts) : texts_(texts) {}
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* source, const char* comment, int count) const override
+    {
+        const QString text = QTranslator::translate(context, source, comment, count);
+        if (!text.isEmpty() || std::strcmp(context, "QPlatformTheme") != 0)
+            return text;
+        for (const char* word : {"OK", "Cancel", "Help"}) {
+            if (std::strcmp(source, word) == 0)
+                return own(QLatin1StringView(word) + " Command"_L1);
+        }
+        return {};
+    }
+
+private:
+    QString own(const QString& key) const
+    {
+        const QString text = LocalizedString(texts_, key);
+        return text == QLatin1StringView(kStringNotFound) ? QString() : text;
+    }
+
+    const Bundle& texts_;
+};
+
 } // namespace
 
 std::unique_ptr<QTranslator> InstallQtTexts(const Bundle& texts)
 {
     const QString language = LanguageOf(texts);
-    auto translator = std::make_unique<QTranslator>();
-    if (language == u"en" ||
-        !translator->load(QLocale(language), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (language == u"en")
         return nullptr;
+    auto translator = std::make_unique<QtTexts>(texts);
+    static_cast<void>(translator->load(QLocale(language), u"qtbase"_s, u"_"_s,
+                                       QLibraryInfo::path(QLibraryInfo::TranslationsPath))); // or our words alone
     QCoreApplication::installTranslator(translator.get());
     return translator;
 }

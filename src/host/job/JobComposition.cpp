@@ -1,6 +1,6 @@
 #include "host/job/JobComposition.h"
 
-#include "host/job/TicketTransport.h"
+#include "host/job/SealedTicket.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,17 +23,17 @@ int RequestedOrientation(Orientation orientation)
     return 3;
 }
 
-std::optional<QString> AddChecked(JobOptions& options, const JobOption& option)
+std::optional<Message> AddChecked(JobOptions& options, const JobOption& option)
 {
     if (option.name.startsWith(QLatin1StringView(kTicketOptionPrefix), Qt::CaseInsensitive))
-        return u"the option \"%1\" is made by this program: leave it out."_s.arg(option.name);
-    if (const auto fault = JobOptionFault(option))
-        return *fault + u'.';
+        return Say("Option Made Here", option.name);
+    if (auto fault = JobOptionFault(option))
+        return fault;
     SetJobOption(options, option.name, option.value);
     return std::nullopt;
 }
 
-std::optional<QString> AddAll(JobOptions& options, const JobOptions& more)
+std::optional<Message> AddAll(JobOptions& options, const JobOptions& more)
 {
     for (const JobOption& option : more) {
         if (auto fault = AddChecked(options, option))
@@ -74,7 +74,7 @@ JobOptions PPDJobOptions(const Dictionary& ppdChoices)
 ComposedOptions ComposeJobOptions(const JobSources& sources)
 {
     ComposedOptions composed;
-    std::optional<QString> fault = AddAll(composed.options, sources.queueDefaults);
+    std::optional<Message> fault = AddAll(composed.options, sources.queueDefaults);
     if (!fault)
         fault = AddAll(composed.options, PPDJobOptions(sources.ppdChoices));
     if (!fault)
@@ -82,11 +82,13 @@ ComposedOptions ComposeJobOptions(const JobSources& sources)
     if (fault)
         return {{}, *fault};
     AddFields(composed.options, sources.fields);
-    if (sources.ticket.isEmpty())
+    if (const auto problem = TicketReaderProblem(sources.reader))
+        return {{}, *problem};
+    if (sources.ticket.count() == 0)
         return composed;
-    const EncodedTicket ticket = EncodeTicket(sources.ticket);
+    const EncodedTicket ticket = EncodeJobTicket(sources.ticket, sources.reader);
     if (!ticket.problem.isEmpty())
-        return {{}, ticket.problem + u'.'};
+        return {{}, ticket.problem};
     composed.options.insert(composed.options.end(), ticket.options.begin(), ticket.options.end());
     return composed;
 }

@@ -2,6 +2,7 @@
 
 #include "host/job/HostTickets.h"
 #include "host/job/JobOptions.h"
+#include "host/job/SealedTicket.h"
 
 #include "platform/values/Value.h"
 
@@ -23,12 +24,13 @@ struct JobSources {
     Dictionary ppdChoices = {};    // of the print-settings ticket: option keyword to choice
     JobOptions commandLine = {};   // -o
     JobFields fields = {};         // the dialog's fields, or -n and -P
-    QByteArray ticket = {};        // property list of the print-settings ticket; empty: none travels
+    Dictionary ticket = {};        // entries of the print-settings ticket; empty: none travels
+    TicketReader reader = {};      // of the ticket, at the queue's print server
 };
 
 struct ComposedOptions {
-    JobOptions options;
-    QString problem; // empty, or why nothing may be sent: one line
+    JobOptions options = {};
+    Message problem = {}; // empty, or why nothing may be sent
 };
 
 // Later sources prevail over earlier ones, in the order of JobSources: -o prevails over saved settings, and what the

@@ -58,17 +58,15 @@ void ParseJobOptions(const QByteArray& text, JobOptions& options)
     cupsFreeOptions(count, parsed);
 }
 
-std::optional<QString> JobOptionFault(const JobOption& option)
+std::optional<Message> JobOptionFault(const JobOption& option)
 {
     if (option.name.isEmpty() || option.name.size() > kLongestName ||
         !std::ranges::all_of(option.name, IsNameCharacter))
-        return QStringLiteral("\"%1\" is not an option's name; give -o NAME=VALUE").arg(option.name);
+        return Say("Option Name Unusable", option.name);
     if (option.value.toUtf8().size() > kLongestValue)
-        return QStringLiteral("the value of option \"%1\" is longer than %2 bytes").arg(option.name).arg(kLongestValue);
+        return Say("Option Value Long", option.name, kLongestValue);
     if (std::ranges::any_of(option.value, IsLostInValues))
-        return QStringLiteral("the value of option \"%1\" has a control character, which would get lost on the way; "
-                              "leave it out")
-            .arg(option.name);
+        return Say("Option Value Unusable", option.name);
     return std::nullopt;
 }
 

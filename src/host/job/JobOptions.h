@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/values/Message.h"
+
 #include <QAnyStringView>
 #include <QByteArray>
 #include <QString>
@@ -34,6 +36,6 @@ void RemoveJobOption(JobOptions& options, QAnyStringView name);
 void ParseJobOptions(const QByteArray& text, JobOptions& options);
 
 // Why a name or value can't travel to the print server unharmed; nothing when it can.
-std::optional<QString> JobOptionFault(const JobOption& option);
+std::optional<Message> JobOptionFault(const JobOption& option);
 
 } // namespace kesta::host

@@ -10,15 +10,15 @@ QByteArray WriteSavedSettings(const JobTickets& tickets)
     return WriteJobSettings(tickets, kJobSecrets);
 }
 
-std::optional<QString> ReadSavedSettings(const QString& path, JobTickets& tickets)
+std::optional<Message> ReadSavedSettings(const QString& path, JobTickets& tickets)
 {
     const FileContent content = ReadFile(path, kLargestJobSettings);
     if (!content.bytes)
-        return content.error.text;
-    const std::optional<QString> problem = ReadJobSettings(*content.bytes, tickets);
+        return Verbatim(content.error.text);
+    const std::optional<Message> problem = ReadJobSettings(*content.bytes, tickets);
     if (!problem)
         return std::nullopt;
-    return QStringLiteral("The settings in %1 can't be used: %2").arg(path, *problem);
+    return Say("Settings Unusable", path, *problem);
 }
 
 } // namespace kesta::host

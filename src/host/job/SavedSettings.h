@@ -7,8 +7,8 @@ namespace kesta::host {
 // The job settings as a file that the user keeps: all of them but kJobSecrets.
 QByteArray WriteSavedSettings(const JobTickets& tickets);
 
-// The file's settings replace everything in the tickets; nothing on success. Otherwise one line that names the file and
-// says what is wrong with it, and the tickets are as they were.
-std::optional<QString> ReadSavedSettings(const QString& path, JobTickets& tickets);
+// The file's settings replace everything in the tickets; nothing on success. Otherwise what names the file and says
+// what is wrong with it, and the tickets are as they were.
+std::optional<Message> ReadSavedSettings(const QString& path, JobTickets& tickets);
 
 } // namespace kesta::host

@@ -1,5 +1,9 @@
 #include "host/job/TicketTransport.h"
 
+#include "host/job/TicketPacking.h"
+
+#include <QByteArrayList>
+
 #include <zlib.h>
 
 #include <array>
@@ -8,15 +12,18 @@
 namespace kesta::host {
 namespace {
 
-constexpr QByteArrayView kVersion = "kt1";
+constexpr QByteArrayView kVersion1 = "kt1";
+constexpr QByteArrayView kVersion2 = "kt2";
 constexpr qsizetype kRoomForHeader = 64;
 constexpr int kMostPieces = kMaximumTicketOptions / kMaximumTicketOption;
 
 // What every piece says about the whole.
 struct Header {
+    int version = 1;
     int count = 0;
     qsizetype bytes = 0;
     quint32 checksum = 0;
+    int sealedParts = 0; // from version 2 on
 
     bool operator==(const Header&) const = default;
 };
@@ -32,65 +39,59 @@ quint32 Checksum(const QByteArray& bytes)
     return static_cast<quint32>(crc32_z(0, reinterpret_cast<const Bytef*>(bytes.constData()), bytes.size()));
 }
 
-QByteArray Compress(const QByteArray& bytes)
+TicketPacking PackingOf(const Header& header)
 {
-    uLongf size = compressBound(bytes.size());
-    QByteArray compressed(static_cast<qsizetype>(size), Qt::Uninitialized);
-    const int status = compress2(reinterpret_cast<Bytef*>(compressed.data()), &size,
-                                 reinterpret_cast<const Bytef*>(bytes.constData()), bytes.size(), Z_BEST_COMPRESSION);
-    compressed.resize(status == Z_OK ? static_cast<qsizetype>(size) : 0);
-    return compressed;
-}
-
-// Writes no more than the announced size, whatever the compressed bytes hold; empty when they do not hold exactly that.
-QByteArray Uncompress(const QByteArray& compressed, qsizetype announced)
-{
-    QByteArray bytes(announced, Qt::Uninitialized);
-    uLongf size = bytes.size();
-    uLong used = compressed.size();
-    const int status = uncompress2(reinterpret_cast<Bytef*>(bytes.data()), &size,
-                                   reinterpret_cast<const Bytef*>(compressed.constData()), &used);
-    const bool whole = status == Z_OK && qsizetype(size) == announced && qsizetype(used) == compressed.size();
-    return whole ? bytes : QByteArray();
+    return header.version == 1 ? TicketPacking::Zlib : TicketPacking::Bzip2;
 }
 
 QByteArray WritePiece(const Header& header, int index, QByteArrayView text)
 {
-    return kVersion.toByteArray() + '-' + QByteArray::number(index) + '-' + QByteArray::number(header.count) + '-' +
-           QByteArray::number(header.bytes) + '-' + QByteArray::number(header.checksum, 16) + '-' + text.toByteArray();
+    QByteArrayList fields{(header.version == 1 ? kVersion1 : kVersion2).toByteArray(), QByteArray::number(index),
+                          QByteArray::number(header.count), QByteArray::number(header.bytes),
+                          QByteArray::number(header.checksum, 16)};
+    if (header.version > 1)
+        fields << QByteArray::number(header.sealedParts);
+    fields << text.toByteArray();
+    return fields.join('-');
+}
+
+// Takes what stands before the next dash from the text; the rest may hold dashes, too.
+QByteArrayView TakeField(QByteArrayView& text)
+{
+    const qsizetype end = text.indexOf('-');
+    const QByteArrayView field = text.first(qMax<qsizetype>(end, 0));
+    text = text.sliced(end + 1);
+    return field;
 }
 
 std::optional<Piece> ReadPiece(const QByteArray& value)
 {
-    // The text itself may hold dashes.
-    qsizetype start = 0;
-    std::array<QByteArray, 5> fields;
-    for (QByteArray& field : fields) {
-        const qsizetype end = value.indexOf('-', start);
-        if (end < 0)
-            return std::nullopt;
-        field = value.mid(start, end - start);
-        start = end + 1;
-    }
-    std::array<bool, 4> good{};
+    QByteArrayView rest = value;
+    const QByteArrayView version = TakeField(rest);
+    if (version != kVersion1 && version != kVersion2)
+        return std::nullopt;
+    std::array<bool, 5> good{};
     Piece piece;
-    piece.index = fields[1].toInt(&good[0]);
-    piece.header.count = fields[2].toInt(&good[1]);
-    piece.header.bytes = fields[3].toLongLong(&good[2]);
-    piece.header.checksum = fields[4].toUInt(&good[3], 16);
-    piece.text = value.mid(start);
-    const bool numbers = good == std::array{true, true, true, true};
-    return fields[0] == kVersion && numbers ? std::optional(piece) : std::nullopt;
+    piece.header.version = version == kVersion1 ? 1 : 2;
+    piece.index = TakeField(rest).toInt(&good[0]);
+    piece.header.count = TakeField(rest).toInt(&good[1]);
+    piece.header.bytes = TakeField(rest).toLongLong(&good[2]);
+    piece.header.checksum = TakeField(rest).toUInt(&good[3], 16);
+    piece.header.sealedParts = piece.header.version == 1 ? 0 : TakeField(rest).toInt(&good[4]);
+    good[4] = good[4] || piece.header.version == 1;
+    piece.text = rest.toByteArray();
+    return good == std::array{true, true, true, true, true} ? std::optional(piece) : std::nullopt;
 }
 
 bool IsSane(const Header& header)
 {
-    return header.count >= 1 && header.count <= kMostPieces && header.bytes >= 1 && header.bytes <= kMaximumTicket;
+    return header.count >= 1 && header.count <= kMostPieces && header.bytes >= 1 && header.bytes <= kMaximumTicket &&
+           (header.sealedParts == 0 || header.sealedParts == 1);
 }
 
 DecodedTicket Fault(const QString& problem)
 {
-    return {{}, problem};
+    return {.problem = problem};
 }
 
 // The values of the ticket's options, by the number in their names.
@@ -110,27 +111,29 @@ std::map<int, QByteArray> TicketOptions(const JobOptions& options)
 
 } // namespace
 
-EncodedTicket EncodeTicket(const QByteArray& propertyList)
+EncodedTicket EncodeTicket(const QByteArray& propertyList, int version, const QString& sealedPart)
 {
     if (propertyList.isEmpty() || propertyList.size() > kMaximumTicket)
-        return {{}, QStringLiteral("the job's settings are empty or larger than %1 MB").arg(kMaximumTicket >> 20)};
-    const QByteArray text =
-        Compress(propertyList).toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
+        return {.problem = Say("Ticket Empty Or Large", kMaximumTicket >> 20)};
+    Header header{.version = version,
+                  .bytes = propertyList.size(),
+                  .checksum = Checksum(propertyList),
+                  .sealedParts = sealedPart.isEmpty() ? 0 : 1};
+    const QByteArray text = PackTicket(PackingOf(header), propertyList)
+                                .toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
     constexpr qsizetype kTextAnOption = kMaximumTicketOption - kRoomForHeader;
-    const int count = int((text.size() + kTextAnOption - 1) / kTextAnOption);
-    if (count > kMostPieces)
-        return {{},
-                QStringLiteral("the job's settings take %1 KB on the way to the printer and at most %2 KB can travel; "
-                               "use fewer special pages, watermarks or recipients")
-                    .arg((text.size() + 1023) / 1024)
-                    .arg(kMostPieces * kTextAnOption / 1024)};
-    const Header header{count, propertyList.size(), Checksum(propertyList)};
+    const qsizetype room = kMostPieces * kTextAnOption - sealedPart.size();
+    if (text.size() > room)
+        return {.tooLarge = text.size(), .room = room};
+    header.count = int((text.size() + kTextAnOption - 1) / kTextAnOption);
     EncodedTicket encoded;
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < header.count; ++i) {
         const QByteArray piece = WritePiece(header, i + 1, text.mid(i * kTextAnOption, kTextAnOption));
         encoded.options.push_back(
             {QLatin1StringView(kTicketOptionPrefix) + QString::number(i + 1), QString::fromLatin1(piece)});
     }
+    if (header.sealedParts > 0)
+        encoded.options.push_back({QLatin1StringView(kTicketSealedOption), sealedPart});
     return encoded;
 }
 
@@ -141,7 +144,7 @@ DecodedTicket DecodeTicket(const JobOptions& options)
         return Fault(QStringLiteral("the options hold no ticket (%1N)").arg(QLatin1StringView(kTicketOptionPrefix)));
     const std::optional<Piece> first = ReadPiece(values.begin()->second);
     if (!first || !IsSane(first->header))
-        return Fault(QStringLiteral("the ticket's first option is damaged"));
+        return Fault(QStringLiteral("the ticket's first option is damaged or newer than this program"));
     QByteArray text;
     for (int index = 1; index <= first->header.count; ++index) {
         const auto value = values.find(index);
@@ -156,10 +159,16 @@ DecodedTicket DecodeTicket(const JobOptions& options)
         return Fault(QStringLiteral("the ticket has more pieces or text than it says"));
     const auto compressed = QByteArray::fromBase64Encoding(
         text, QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals | QByteArray::AbortOnBase64DecodingErrors);
-    const QByteArray bytes = compressed ? Uncompress(*compressed, first->header.bytes) : QByteArray();
+    const QByteArray bytes =
+        compressed ? UnpackTicket(PackingOf(first->header), *compressed, first->header.bytes) : QByteArray();
     if (bytes.isEmpty() || Checksum(bytes) != first->header.checksum)
         return Fault(QStringLiteral("the ticket is damaged: its checksum does not fit"));
-    return {bytes, {}};
+    const QString sealedPart = FindJobOption(options, kTicketSealedOption).value_or(QString());
+    if (sealedPart.isEmpty() == (first->header.sealedParts > 0))
+        return Fault(first->header.sealedParts > 0
+                         ? QStringLiteral("the ticket's sealed part is missing")
+                         : QStringLiteral("the ticket has a sealed part that is not its own"));
+    return {.propertyList = bytes, .sealedPart = sealedPart};
 }
 
 } // namespace kesta::host

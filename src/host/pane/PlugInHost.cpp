@@ -1,12 +1,10 @@
 #include "host/pane/PlugInHost.h"
 
 #include "platform/plugins/Bundle.h"
+#include "platform/plugins/BundlePlaces.h"
 #include "platform/plugins/PlugIn.h"
 
 #include <QByteArrayList>
-#include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <vector>
@@ -15,12 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace kesta::host {
 namespace {
-
-constexpr auto kPlacesBesideProgram = std::to_array<const char*>({
-    "../lib/kesta-print", // installed
-    "../plugins",         // in the build tree
-    ".",
-});
 
 UUID DialogExtensionType()
 {
@@ -42,45 +34,26 @@ template <class Function> Function ExportedFunction(const Bundle& bundle, const 
 
 } // namespace
 
-QStringList BundlePlaces(const QString& bundleName)
-{
-    QStringList places;
-    for (const QString& folder : qEnvironmentVariable("KESTA_PLUGIN_PATH").split(u':', Qt::SkipEmptyParts))
-        places << (QFileInfo(folder).fileName() == bundleName ? folder : QDir(folder).filePath(bundleName));
-    const QDir program(QCoreApplication::applicationDirPath());
-    for (const char* folder : kPlacesBesideProgram)
-        places << QDir::cleanPath(program.filePath(u"%1/%2"_s.arg(QLatin1StringView(folder), bundleName)));
-    return places;
-}
-
-QString FindBundleFolder(const QStringList& places)
-{
-    const auto found = std::ranges::find_if(places, [](const QString& place) { return QFileInfo(place).isDir(); });
-    return found == places.end() ? QString() : *found;
-}
-
 PlugInOrError LoadPlugIn()
 {
     const QStringList places = BundlePlaces(u"KestaFeatures.plugin"_s);
     const QString folder = FindBundleFolder(places);
     if (folder.isEmpty())
-        return {{},
-                u"The printer's features (KestaFeatures.plugin) were not found in %1. Set KESTA_PLUGIN_PATH "
-                u"to the folder that holds them."_s.arg(places.join(u", "_s))};
+        return {{}, Say("Plug-in Not Found", places.join(u", "_s))};
     const auto [bundle, error] = LoadBundleAt(folder);
     if (!bundle)
-        return {{}, error};
-    if (const std::optional<QString> problem = RegisterFactories(*bundle))
-        return {{}, *problem};
+        return {{}, Say("Plug-in Unusable", error)};
+    if (const std::optional<Message> problem = RegisterFactories(*bundle))
+        return {{}, Say("Plug-in Unusable", *problem)};
     PlugIn plugIn{.factory = TypedFactory(FindFactory(DialogExtensionType())),
                   .usePanels = ExportedFunction<KestaPDEUsePanelsFunction>(*bundle, "KestaPDEUsePanels"),
                   .findPanels = ExportedFunction<KestaPDEFindPanelsFunction>(*bundle, "KestaPDEFindPanels")};
     if (!plugIn.factory || !plugIn.usePanels || !plugIn.findPanels)
-        return {{}, u"%1 is not a plug-in for this program."_s.arg(folder)};
+        return {{}, Say("Plug-in Of Another Program", folder)};
     return {plugIn, {}};
 }
 
-std::optional<QString> ChoosePanels(const PlugIn& plugIn, const QStringList& panels)
+std::optional<Message> ChoosePanels(const PlugIn& plugIn, const QStringList& panels)
 {
     QByteArrayList names;
     std::vector<const char*> list;
@@ -90,10 +63,10 @@ std::optional<QString> ChoosePanels(const PlugIn& plugIn, const QStringList& pan
         list.push_back(name.constData());
     list.push_back(nullptr);
     if (plugIn.usePanels(names.empty() ? nullptr : list.data()) != 0)
-        return u"The list of panels is empty or has a panel without a name."_s;
+        return Say("Panel List Unusable");
     const char* problem = nullptr;
     if (plugIn.findPanels(&problem) != 0)
-        return problem ? QString::fromUtf8(problem) : u"A panel is missing."_s;
+        return problem ? Verbatim(QString::fromUtf8(problem)) : Say("Panel Missing");
     return std::nullopt;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "pde/interface/PlugInInterface.h"
+#include "platform/values/Message.h"
 
-#include <QString>
 #include <QStringList>
 
 #include <optional>
@@ -18,22 +18,15 @@ struct PlugIn {
 
 struct PlugInOrError {
     std::optional<PlugIn> plugIn;
-    QString error; // one line, when there is no plug-in
+    Message error; // a sentence, when there is no plug-in
 };
-
-// The folders in which a bundle of that name, such as "KestaFeatures.plugin", is looked for: those of KESTA_PLUGIN_PATH
-// (apart by colons; a bundle itself may stand there too) before the places beside the program.
-QStringList BundlePlaces(const QString& bundleName);
-
-// The first of the places that is a folder; empty when none is.
-QString FindBundleFolder(const QStringList& places);
 
 // Loads KestaFeatures.plugin and finds its factory through the registry of factories.
 PlugInOrError LoadPlugIn();
 
 // Tells the plug-in which panels to show, by the names of their interface functions; none: the product's own. Then asks
 // it whether all of them can be found, because a pane waits for its panels without end. Nothing on success, otherwise
-// one line for the user.
-std::optional<QString> ChoosePanels(const PlugIn& plugIn, const QStringList& panels);
+// a sentence for the user.
+std::optional<Message> ChoosePanels(const PlugIn& plugIn, const QStringList& panels);
 
 } // namespace kesta::host

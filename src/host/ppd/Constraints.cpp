@@ -6,8 +6,6 @@
 #include <array>
 #include <map>
 
-using namespace Qt::StringLiterals;
-
 namespace kesta::host {
 namespace {
 
@@ -22,30 +20,36 @@ QString OptionText(const ppd_option_t& option)
 }
 
 // The option and its current choice in the printer's own words.
-QString StateText(ppd_file_t* ppd, const ppd_option_t& option)
+Message State(const char* key, ppd_file_t* ppd, const ppd_option_t& option)
 {
     const ppd_choice_t* choice = ppdFindMarkedChoice(ppd, option.keyword);
-    return u"%1 \"%2\""_s.arg(OptionText(option), choice ? Text(choice->text, choice->choice) : QString());
+    return Say(key, OptionText(option), choice ? Text(choice->text, choice->choice) : QString());
+}
+
+// "One and another and a third."
+Message Joined(const std::vector<Message>& parts)
+{
+    Message joined = parts.empty() ? Message() : parts.front();
+    for (std::size_t i = 1; i < parts.size(); ++i)
+        joined = Say("And", joined, parts[i]);
+    return joined;
 }
 
 // "Folding "C fold" and Staple "Upper left" can't be used together.", or, with an accessory,
 // "Folding "C fold" can't be used while Finisher is "Catch tray"."
-QString Sentence(const ConstraintRules& rules, const ConstraintRule& rule)
+Message ConflictSentence(const ConstraintRules& rules, const ConstraintRule& rule)
 {
-    QStringList settings;
-    QStringList accessories;
+    std::vector<Message> settings;
+    std::vector<Message> accessories;
     for (const ConstraintTerm& term : rule) {
         const ppd_option_t& option = *term.option;
-        const ppd_choice_t* choice = ppdFindMarkedChoice(rules.ppd(), option.keyword);
         if (rules.isInstallable(option))
-            accessories << u"%1 is \"%2\""_s.arg(OptionText(option),
-                                                 choice ? Text(choice->text, choice->choice) : u""_s);
+            accessories.push_back(State("Accessory State", rules.ppd(), option));
         else
-            settings << StateText(rules.ppd(), option);
+            settings.push_back(State("Option State", rules.ppd(), option));
     }
-    if (accessories.isEmpty())
-        return settings.join(u" and "_s) + u" can't be used together."_s;
-    return settings.join(u" and "_s) + u" can't be used while "_s + accessories.join(u" and "_s) + u'.';
+    return accessories.empty() ? Say("Conflict Together", Joined(settings))
+                               : Say("Conflict With Accessory", Joined(settings), Joined(accessories));
 }
 
 // Paper comes first in a user's mind: what is done to the sheets gives way to the sheets themselves.
@@ -92,7 +96,7 @@ std::optional<ChoiceChange> ChangeOption(const ConstraintRules& rules, const ppd
         ppdMarkOption(rules.ppd(), option.keyword, choice->choice);
         if (!rules.breaksAny(option))
             return ChoiceChange{QString::fromUtf8(option.keyword), QString::fromUtf8(choice->choice),
-                                u"Set %1 to \"%2\""_s.arg(OptionText(option), Text(choice->text, choice->choice))};
+                                Say("Choice Change", OptionText(option), Text(choice->text, choice->choice))};
     }
     if (!old.isEmpty())
         ppdMarkOption(rules.ppd(), option.keyword, old.constData());
@@ -151,7 +155,7 @@ ConflictReport FindConflicts(const QString& ppdPath, const Dictionary& choices)
     const ConstraintRules rules(file.ppd.get());
     const std::vector<ConstraintRule> broken = rules.broken();
     for (const ConstraintRule& rule : broken)
-        report.conflicts.push_back({Sentence(rules, rule), {}});
+        report.conflicts.push_back({ConflictSentence(rules, rule), {}});
     Changes made;
     for (std::size_t i = 0; i < broken.size(); ++i)
         report.conflicts[i].changes = Resolve(rules, broken[i], made);

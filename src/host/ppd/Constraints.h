@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/values/Message.h"
 #include "platform/values/Value.h"
 
 #include <QString>
@@ -13,21 +14,21 @@ namespace kesta::host {
 struct ChoiceChange {
     QString keyword; // the option's
     QString choice;  // its new choice
-    QString text;    // "Set Punch to None", in the printer's own words
+    Message text;    // "Set Punch to None", in the printer's own words
 
     bool operator==(const ChoiceChange&) const = default;
 };
 
 // Choices that the printer forbids together.
 struct ChoiceConflict {
-    QString sentence;                  // with the printer's own words for options and choices
+    Message sentence;                  // with the printer's own words for options and choices
     std::vector<ChoiceChange> changes; // resolve it, and cause no other; none: there is no such change
 };
 
 struct ConflictReport {
     std::vector<ChoiceConflict> conflicts; // in the PPD's order
     QStringList unknown;                   // keywords or "keyword=choice" that this printer does not have
-    QString problem;                       // empty, or why the PPD can't be read
+    Message problem;                       // empty, or why the PPD can't be read
 };
 
 // Checks the choices (option keyword to choice keyword) with the PPD's defaults for everything else. Fitted accessories

@@ -7,8 +7,8 @@
 namespace kesta::host {
 
 struct OptionList {
-    QString text;    // one option a line: "Keyword/Text: choice *current choice"
-    QString problem; // empty, or why the PPD can't be read
+    QString text = {};    // one option a line: "Keyword/Text: choice *current choice"
+    Message problem = {}; // empty, or why the PPD can't be read
 };
 
 // What the printer offers, in the form of `lpoptions -l`; the choices of "marked" are the current ones, else the PPD's

@@ -32,6 +32,20 @@ std::optional<PaperRect> PaperOf(ppd_file_t& ppd, const Dictionary& chosen)
     return PaperRect{.top = 0, .left = 0, .bottom = size->length, .right = size->width};
 }
 
+TicketReader ReaderOf(ppd_file_t& ppd)
+{
+    TicketReader reader;
+    if (const ppd_attr_t* version = ppdFindAttr(&ppd, "KSTicketVersion", nullptr))
+        reader.version = QByteArray(version->value).trimmed().toInt();
+    for (const ppd_attr_t* key = ppdFindAttr(&ppd, "KSTicketKey", nullptr); key;
+         key = ppdFindNextAttr(&ppd, "KSTicketKey", nullptr)) {
+        const QByteArray text = QByteArray(key->value).trimmed();
+        if (!reader.publicKeys.contains(text))
+            reader.publicKeys << text;
+    }
+    return reader;
+}
+
 } // namespace
 
 bool PPDFacts::offers(const QString& keyword, const QString& choice) const
@@ -44,10 +58,11 @@ PPDFacts ReadPPDFacts(const QString& ppdPath, const Dictionary& chosen)
 {
     const auto [ppd, problem] = OpenPPDFile(ppdPath);
     if (!ppd)
-        return {.problem = problem};
+        return {.ticketReader = {.problem = problem}, .problem = problem};
     PPDFacts facts{.name = Text(ppd->nickname ? ppd->nickname : ppd->modelname),
                    .manufacturer = Text(ppd->manufacturer),
-                   .paper = PaperOf(*ppd, chosen)};
+                   .paper = PaperOf(*ppd, chosen),
+                   .ticketReader = ReaderOf(*ppd)};
     for (int i = 0; i < ppd->num_groups; ++i)
         AddChoices(ppd->groups[i], facts);
     if (const ppd_option_t* duplex = ppdFindOption(ppd.get(), "Duplex"))

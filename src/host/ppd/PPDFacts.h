@@ -1,6 +1,9 @@
 #pragma once
 
 #include "host/job/HostTickets.h"
+#include "host/job/SealedTicket.h"
+
+#include "platform/values/Message.h"
 
 #include <map>
 #include <set>
@@ -14,7 +17,8 @@ struct PPDFacts {
     std::optional<PaperRect> paper = {};               // of the chosen page size
     QString duplexChoice = {};                         // the default choice of the option "Duplex"; empty without one
     std::map<QString, std::set<QString>> choices = {}; // option keyword to its choice keywords
-    QString problem = {}; // empty, or why the file can't be read; then there is nothing else
+    TicketReader ticketReader = {};                    // of the queue's print server
+    Message problem = {}; // empty, or why the file can't be read; then there is nothing else
 
     bool offers(const QString& keyword, const QString& choice) const;
 };

@@ -1,27 +1,37 @@
 #include "host/ppd/PPDFile.h"
 
-#include "platform/printsystem/PPDFileCheck.h"
-
-#include <QFile>
-
-using namespace Qt::StringLiterals;
-
 namespace kesta::host {
+namespace {
+
+std::vector<ppd_choice_t*> MarkedChoices(const ppd_file_t& ppd)
+{
+    std::vector<ppd_choice_t*> marked;
+    for (int i = 0; i < cupsArrayCount(ppd.marked); ++i)
+        marked.push_back(static_cast<ppd_choice_t*>(cupsArrayIndex(ppd.marked, i)));
+    return marked;
+}
+
+} // namespace
+
+void PPDMarksBack::operator()(ppd_file_t* ppd) const
+{
+    for (ppd_choice_t* choice : MarkedChoices(*ppd))
+        choice->marked = 0;
+    cupsArrayClear(ppd->marked);
+    for (ppd_choice_t* choice : marked) {
+        choice->marked = 1;
+        cupsArrayAdd(ppd->marked, choice);
+    }
+}
 
 PPDFile OpenPPDFile(const QString& path)
 {
-    if (const std::optional<QString> problem = PPDFileProblem(path))
-        return {{}, *problem};
-    PPDFile file;
-    file.ppd.reset(ppdOpenFile(QFile::encodeName(path).constData()));
-    if (file.ppd) {
-        ppdMarkDefaults(file.ppd.get());
-        return file;
+    const OpenPPD opened = SharedPPDFile(path);
+    PPDFile file{.ppd = {}, .problem = opened.problem};
+    if (opened.ppd) {
+        file.ppd = {opened.ppd.get(), PPDMarksBack{.shared = opened.ppd, .marked = MarkedChoices(*opened.ppd)}};
+        ppdMarkDefaults(opened.ppd.get());
     }
-    int line = 0;
-    const ppd_status_t status = ppdLastError(&line);
-    file.problem =
-        u"\"%1\" can't be read, line %2: %3"_s.arg(path).arg(line).arg(QString::fromUtf8(ppdErrorString(status)));
     return file;
 }
 

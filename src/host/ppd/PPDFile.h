@@ -1,25 +1,25 @@
 #pragma once
 
-#include <QString>
+#include "platform/printsystem/PPDFile.h"
 
-#include <cups/ppd.h>
-
-#include <memory>
+#include <vector>
 
 namespace kesta::host {
 
-struct PPDClose {
-    void operator()(ppd_file_t* ppd) const { ppdClose(ppd); }
+// Marks what was marked before the host's turn.
+struct PPDMarksBack {
+    std::shared_ptr<ppd_file_t> shared = {};
+    std::vector<ppd_choice_t*> marked = {};
+
+    void operator()(ppd_file_t* ppd) const;
 };
 
 struct PPDFile {
-    std::unique_ptr<ppd_file_t, PPDClose> ppd; // with its defaults marked
-    QString problem;                           // empty, or why it can't be read: one line
+    std::unique_ptr<ppd_file_t, PPDMarksBack> ppd; // with its defaults marked
+    Message problem;                               // empty, or why it can't be read
 };
 
-// Opens a PPD of any origin, plain or gzipped, in bounded time.
+// The PPD as the process has it open, for the host's turn: the plug-in's marks are there again when it is over.
 PPDFile OpenPPDFile(const QString& path);
-
-inline constexpr char kInstallableOptionsGroup[] = "InstallableOptions";
 
 } // namespace kesta::host

@@ -212,6 +212,11 @@ bool ReadEnabled(Reader& reader, ScriptStep& step)
     return ReadTarget(reader, step) && ReadFlag(reader.words[2], u"yes", u"no", step.flag, reader);
 }
 
+bool ReadStatus(Reader& reader, ScriptStep& step)
+{
+    return reader.words.size() < 2 || ReadNumber(reader.words[1].text, step.status, reader);
+}
+
 bool ReadDirection(Reader& reader, ScriptStep& step)
 {
     return ReadFlag(reader.words[1], u"from-tickets", u"to-tickets", step.flag, reader);
@@ -249,7 +254,7 @@ constexpr auto kVerbs = std::to_array<VerbRow>({
     {"summary", ScriptVerb::Summary, 0, 0, ReadNothing, "summary"},
     {"screenshot", ScriptVerb::Screenshot, 1, 1, ReadText, "screenshot FILE"},
     {"print", ScriptVerb::Print, 0, 0, ReadNothing, "print"},
-    {"cancel", ScriptVerb::Cancel, 0, 0, ReadNothing, "cancel"},
+    {"cancel", ScriptVerb::Cancel, 0, 1, ReadStatus, "cancel [STATUS]"},
 });
 
 const VerbRow* FindVerb(const Word& word)

@@ -54,11 +54,12 @@ struct ScriptStep {
     ScriptVerb verb = ScriptVerb::Summary;
     ScriptName target = {};
     ScriptName item = {};
-    QString text = {};                // to type, to expect, or the file to write
-    FourCharCode command = 0;         // Command
-    ScriptKey key = {};               // Key
-    bool flag = false;                // Check: on; ExpectEnabled: yes; Sync: from the tickets
-    std::vector<SInt32> numbers = {}; // Select: rows from 1
+    QString text = {};                 // to type, to expect, or the file to write
+    FourCharCode command = 0;          // Command
+    ScriptKey key = {};                // Key
+    bool flag = false;                 // Check: on; ExpectEnabled: yes; Sync: from the tickets
+    std::vector<SInt32> numbers = {};  // Select: rows from 1
+    std::optional<SInt32> status = {}; // Cancel: the exit status that is expected
 
     bool operator==(const ScriptStep&) const = default;
 };

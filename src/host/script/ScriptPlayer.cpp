@@ -178,7 +178,6 @@ QString ScriptPlayer::play(const ScriptStep& step, QWidget& front)
 
 QString ScriptPlayer::playOnDialog(const ScriptStep& step, QWidget& front)
 {
-    const bool isInFront = &front == &dialog_.window();
     switch (step.verb) {
     case ScriptVerb::Sync:
         return dialog_.syncPane(step.flag) ? QString() : u"there is no pane"_s;
@@ -189,12 +188,24 @@ QString ScriptPlayer::playOnDialog(const ScriptStep& step, QWidget& front)
         return {};
     case ScriptVerb::Print:
     case ScriptVerb::Cancel:
-        if (!isInFront)
+        if (&front != &dialog_.window())
             return u"\"%1\" is open over the dialog"_s.arg(front.windowTitle());
-        return PressCommand(front, step.verb == ScriptVerb::Print ? kCommandOK : kCommandCancel);
+        return step.verb == ScriptVerb::Print ? PressCommand(front, kCommandOK) : cancelDialog(step, front);
     default:
         return u"the action is unknown"_s;
     }
+}
+
+// The status that a step names is the one that the program would have without a script.
+QString ScriptPlayer::cancelDialog(const ScriptStep& step, const QWidget& front)
+{
+    if (QString reason = PressCommand(front, kCommandCancel); !reason.isEmpty() || !step.status)
+        return reason;
+    const std::optional<DialogEnd> end = dialog_.end();
+    if (!end)
+        return u"the dialog has not closed"_s;
+    const int status = ExitStatus(*end, false);
+    return status == *step.status ? QString() : u"the program would end with status %1"_s.arg(status);
 }
 
 } // namespace kesta::host

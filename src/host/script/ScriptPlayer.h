@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/job/JobRequest.h"
 #include "host/script/ScriptFinder.h"
 #include "toolkit/windows/ModalLoop.h"
 
@@ -19,6 +20,7 @@ public:
     virtual QByteArray jobSettings() const = 0; // as the tickets are now
     virtual QString summaryText() = 0;
     virtual void updateSummary() = 0;
+    virtual std::optional<DialogEnd> end() const = 0; // nothing while it goes on
 };
 
 // Plays a script in place of a person: each step as soon as the window in front waits for input. While it lives it acts
@@ -37,6 +39,7 @@ private:
     void playNext();
     QString play(const ScriptStep& step, QWidget& front);
     QString playOnDialog(const ScriptStep& step, QWidget& front);
+    QString cancelDialog(const ScriptStep& step, const QWidget& front);
     void finish(QWidget& front);
     void fail(int line, const QString& reason);
 

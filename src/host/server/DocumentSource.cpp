@@ -1,5 +1,7 @@
 #include "host/server/DocumentSource.h"
 
+#include "platform/system/Descriptor.h"
+
 #include <QTemporaryFile>
 
 #include <algorithm>
@@ -7,7 +9,6 @@
 #include <cerrno>
 #include <cstring>
 #include <span>
-#include <utility>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -21,36 +22,19 @@ namespace {
 
 constexpr int kLookAgainMilliseconds = 100;
 
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor()
-    {
-        if (number_ > STDERR_FILENO)
-            ::close(number_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    int number() const { return number_; }
-    int release() { return std::exchange(number_, -1); }
-
-private:
-    int number_;
-};
-
 QString Reason(int error)
 {
     return QString::fromLocal8Bit(std::strerror(error));
 }
 
-QString NoAccess(const QString& path, int error)
+Message NoAccess(const QString& path, int error)
 {
-    return u"unable to access \"%1\" - %2"_s.arg(path, Reason(error));
+    return Say("File Without Access", path, Reason(error));
 }
 
-QString IsEmpty(const QString& path)
+Message IsEmpty(const QString& path)
 {
-    return u"\"%1\" is empty, so no job has been sent."_s.arg(path);
+    return Say("File Empty", path);
 }
 
 // Bytes read into the buffer, 0 at the end, -1 with errno. Looks at the cancellation while nothing comes.
@@ -87,29 +71,29 @@ std::optional<QString> Copy(int descriptor, QTemporaryFile& copy, Cancellation& 
     }
 }
 
-std::optional<QString> Spool(int descriptor, const QString& name, Document& document, Cancellation& cancellation)
+std::optional<Message> Spool(int descriptor, const Message& name, Document& document, Cancellation& cancellation)
 {
     auto copy = std::make_unique<QTemporaryFile>();
     if (!copy->open())
-        return u"unable to create temporary file - %1."_s.arg(copy->errorString());
+        return Say("No Temporary File", copy->errorString());
     if (const auto reason = Copy(descriptor, *copy, cancellation))
-        return u"unable to read %1 - %2."_s.arg(name, *reason);
+        return Say("Document Unreadable", name, *reason);
     document.size = copy->size();
     document.file = std::move(copy);
     return std::nullopt;
 }
 
-std::optional<QString> OpenStandardInput(Document& document, Cancellation& cancellation)
+std::optional<Message> OpenStandardInput(Document& document, Cancellation& cancellation)
 {
     document.name = u"(stdin)"_s;
-    auto problem = Spool(STDIN_FILENO, u"standard input"_s, document, cancellation);
+    auto problem = Spool(STDIN_FILENO, Say("Standard Input As Document"), document, cancellation);
     if (!problem && document.size == 0)
-        return u"stdin is empty, so no job has been sent."_s;
+        return Say("Standard Input Empty");
     return problem;
 }
 
 // Of what is known without reading.
-std::optional<QString> FaultOf(const QString& path, const struct stat& status)
+std::optional<Message> FaultOf(const QString& path, const struct stat& status)
 {
     if (S_ISDIR(status.st_mode))
         return NoAccess(path, EISDIR);
@@ -118,18 +102,18 @@ std::optional<QString> FaultOf(const QString& path, const struct stat& status)
     return std::nullopt;
 }
 
-std::optional<QString> OpenPath(const QByteArray& encoded, Document& document, Cancellation& cancellation)
+std::optional<Message> OpenPath(const QByteArray& encoded, Document& document, Cancellation& cancellation)
 {
     const QString path = QFile::decodeName(encoded);
     document.name = path.section(u'/', -1);
     Descriptor descriptor(::open(encoded.constData(), O_RDONLY | O_CLOEXEC));
     struct stat status {};
-    if (descriptor.number() < 0 || ::fstat(descriptor.number(), &status) != 0)
+    if (descriptor < 0 || ::fstat(descriptor, &status) != 0)
         return NoAccess(path, errno);
     if (auto fault = FaultOf(path, status))
         return fault;
     if (!S_ISREG(status.st_mode)) {
-        if (auto problem = Spool(descriptor.number(), path, document, cancellation))
+        if (auto problem = Spool(descriptor, Verbatim(path), document, cancellation))
             return problem;
     } else {
         document.file = std::make_unique<QFile>(path);
@@ -142,7 +126,7 @@ std::optional<QString> OpenPath(const QByteArray& encoded, Document& document, C
 
 } // namespace
 
-std::optional<QString> FindFileProblem(const QByteArrayList& paths)
+std::optional<Message> FindFileProblem(const QByteArrayList& paths)
 {
     for (const QByteArray& encoded : paths) {
         const QString path = QFile::decodeName(encoded);

@@ -2,6 +2,8 @@
 
 #include "host/server/BackgroundTask.h"
 
+#include "platform/values/Message.h"
+
 #include <QByteArrayList>
 #include <QFile>
 #include <QString>
@@ -20,13 +22,13 @@ struct Document {
 };
 
 struct DocumentList {
-    std::vector<Document> documents;
-    QString problem; // empty, or why nothing can be printed; then there are no documents
+    std::vector<Document> documents = {};
+    Message problem = {}; // empty, or why nothing can be printed; then there are no documents
 };
 
 // Why the first of these files that can't be printed can't be, as far as that is seen from outside: nothing is opened,
 // because a pipe can be read only once. Nothing when there is no such file.
-std::optional<QString> FindFileProblem(const QByteArrayList& paths);
+std::optional<Message> FindFileProblem(const QByteArrayList& paths);
 
 // Opens local files, or reads standard input to its end when there are none. What is not a regular file (a pipe) is
 // copied to a private temporary file first. A cancelled copy ends with a problem.

@@ -2,8 +2,6 @@
 
 #include <cups/cups.h>
 
-using namespace Qt::StringLiterals;
-
 namespace kesta::host {
 namespace {
 
@@ -17,14 +15,14 @@ const char* NoPassword(const char*, http_t*, const char*, const char*, void*)
 
 } // namespace
 
-QString ServerName(const PrintServer& server)
+Message ServerName(const PrintServer& server)
 {
-    return server.address.isEmpty() ? u"The print server"_s : u"The print server \"%1\""_s.arg(server.address);
+    return server.address.isEmpty() ? Say("Server Without Name") : Say("Server With Name", server.address);
 }
 
-QString ServerSilentMessage(const PrintServer& server)
+Message ServerSilentMessage(const PrintServer& server)
 {
-    return u"%1 does not answer. Start it, or name another one with -h, and try again."_s.arg(ServerName(server));
+    return Say("Server Silent", ServerName(server));
 }
 
 ServerConnection::ServerConnection(const PrintServer& server, Cancellation& cancellation)
@@ -57,17 +55,16 @@ int ServerConnection::WaitLonger(http_t*, void* connection)
     return self.gaveUp_ ? 0 : 1;
 }
 
-QString ServerConnection::problem() const
+Message ServerConnection::problem() const
 {
     if (!http_ || gaveUp_ || httpError(http_) != 0 || cupsLastError() == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE)
         return ServerSilentMessage(server_);
     if (cupsLastError() == IPP_STATUS_ERROR_BAD_REQUEST)
-        return u"%1 does not understand this program: add '/version=1.1' to server name."_s.arg(ServerName(server_));
+        return Say("Server Too Old", ServerName(server_));
     if (cupsLastError() == IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED ||
         cupsLastError() == IPP_STATUS_ERROR_NOT_AUTHORIZED || cupsLastError() == IPP_STATUS_ERROR_NOT_AUTHENTICATED)
-        return u"%1 asks for a password or does not let you print. Ask who runs it for access."_s.arg(
-            ServerName(server_));
-    return u"%1 says: %2"_s.arg(ServerName(server_), QString::fromUtf8(cupsLastErrorString()));
+        return Say("Server Refuses", ServerName(server_));
+    return Say("Server Says", ServerName(server_), QString::fromUtf8(cupsLastErrorString()));
 }
 
 } // namespace kesta::host

@@ -2,6 +2,8 @@
 
 #include "host/server/BackgroundTask.h"
 
+#include "platform/values/Message.h"
+
 #include <QString>
 
 #include <chrono>
@@ -16,11 +18,11 @@ struct PrintServer {
     std::chrono::milliseconds patience{10'000};
 };
 
-// The server in words: its address, or "on this computer".
-QString ServerName(const PrintServer& server);
+// The server in words.
+Message ServerName(const PrintServer& server);
 
-// "The print server ... does not answer. ..." with what to do.
-QString ServerSilentMessage(const PrintServer& server);
+// That it does not answer, with what to do.
+Message ServerSilentMessage(const PrintServer& server);
 
 // One connection. Every wait on it ends when the work is cancelled or the server is silent for longer than its
 // patience. The library keeps server, user and password functions per thread: a connection is used by the thread that
@@ -39,7 +41,7 @@ public:
     // True when a wait on this connection was ended by silence or by the user.
     bool gaveUp() const { return gaveUp_; }
     // What the last failure was, in words for the user.
-    QString problem() const;
+    Message problem() const;
 
 private:
     static int WaitLonger(_http_s* http, void* connection);

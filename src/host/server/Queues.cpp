@@ -131,38 +131,41 @@ ServerAnswer AskForQueue(ServerConnection& connection, const QString& queue)
     return answer && cupsLastError() < IPP_STATUS_ERROR_BAD_REQUEST ? ServerAnswer::Yes : ServerAnswer::None;
 }
 
-QString NoSuchQueueMessage(const QString& name)
+Message NoSuchQueueMessage(const QString& name)
 {
     if (!name.isEmpty())
-        return u"The printer or class does not exist: \"%1\". Name one that lpstat -e lists with -d."_s.arg(name);
+        return Say("Queue Unknown", name);
     for (const char* variable : {"LPDEST", "PRINTER"}) {
         const QString value = QString::fromLocal8Bit(std::getenv(variable));
         if (!value.isEmpty() && value != u"lp")
-            return u"%1 environment variable names non-existent destination \"%2\". Name a queue with -d."_s.arg(
-                QLatin1StringView(variable), value);
+            return Say("Queue Of Environment Unknown", QString::fromLatin1(variable), value);
     }
-    return u"No default destination. Name a queue with -d."_s;
+    return Say("No Default Queue");
 }
 
-bool Receive(ServerConnection& connection, QTemporaryFile& file)
+// Nothing on success.
+std::optional<Message> Receive(ServerConnection& connection, QTemporaryFile& file, const QString& queue)
 {
     std::array<char, 65'536> buffer;
     for (;;) {
         connection.expectAnswer();
         const ssize_t count = httpRead2(connection.http(), buffer.data(), buffer.size());
-        if (count <= 0)
-            return count == 0 && httpGetState(connection.http()) == HTTP_STATE_WAITING && file.flush();
-        if (file.pos() + count > kLargestPPD || file.write(buffer.data(), count) != count)
-            return false;
+        if (count < 0 || (count == 0 && httpGetState(connection.http()) != HTTP_STATE_WAITING))
+            return Say("Queue PPD Cut Off", queue);
+        if (file.pos() + count > kLargestPPD)
+            return Say("Queue PPD Large", queue, kLargestPPD >> 20);
+        if (count == 0 ? !file.flush() : file.write(buffer.data(), count) != count)
+            return Say("Queue PPD Without Room", queue, file.errorString());
+        if (count == 0)
+            return std::nullopt;
     }
 }
 
-QString MissingPPDMessage(const QString& queue, http_status_t status)
+Message MissingPPDMessage(const QString& queue, http_status_t status)
 {
     if (status == HTTP_STATUS_NOT_FOUND)
-        return u"The queue \"%1\" has no PPD file: its options can't be shown."_s.arg(queue);
-    return u"The PPD file of the queue \"%1\" could not be fetched: %2."_s.arg(queue,
-                                                                               QString::fromUtf8(httpStatus(status)));
+        return Say("Queue Without PPD", queue);
+    return Say("Queue PPD Not Fetched", queue, QString::fromUtf8(httpStatus(status)));
 }
 
 // The deadline is longer than the requests may take: it is reached only when the look-up of the server's name hangs.
@@ -196,7 +199,7 @@ QueueList FetchQueues(const PrintServer& server, Cancellation& cancellation)
         return {};
     if (!answer || cupsLastError() >= IPP_STATUS_ERROR_BAD_REQUEST)
         return {{}, connection.problem()};
-    QueueList list{ReadQueues(answer.get()), {}};
+    QueueList list{.queues = ReadQueues(answer.get())};
     MarkDefault(connection, list.queues);
     return list;
 }
@@ -221,11 +224,9 @@ QueuePPD FetchQueuePPD(const PrintServer& server, const QString& queue, Cancella
 
     QueuePPD ppd{.file = std::make_shared<QTemporaryFile>()};
     if (!ppd.file->open())
-        return {.problem = u"The PPD file of the queue \"%1\" has no place: %2."_s.arg(queue, ppd.file->errorString())};
-    if (!Receive(connection, *ppd.file))
-        return {.problem =
-                    u"The PPD file of the queue \"%1\" did not arrive whole, or is larger than %2 MB."_s.arg(queue).arg(
-                        kLargestPPD >> 20)};
+        return {.problem = Say("Queue PPD Without Room", queue, ppd.file->errorString())};
+    if (std::optional<Message> problem = Receive(connection, *ppd.file, queue))
+        return {.problem = *std::move(problem)};
     ppd.path = ppd.file->fileName();
     return ppd;
 }

@@ -28,15 +28,15 @@ struct Queue {
 };
 
 struct QueueList {
-    std::vector<Queue> queues;
-    QString problem; // empty, or why there is no list, in words for the user
+    std::vector<Queue> queues = {};
+    Message problem = {}; // empty, or why there is no list
 };
 
 // A queue's PPD, as a private file that goes away with the last copy of this record.
 struct QueuePPD {
     std::shared_ptr<QTemporaryFile> file = {};
     QString path = {};    // of that file; empty when the queue has no PPD or could not be asked
-    QString problem = {}; // empty when there is a path
+    Message problem = {}; // empty when there is a path
     bool hasNone = false; // the server answered: this queue has no PPD
 };
 
@@ -44,7 +44,7 @@ struct QueuePPD {
 struct NamedQueue {
     Queue queue;
     JobOptions defaults;
-    QString problem; // empty, or why there is none: lp's words where lp has them
+    Message problem; // empty, or why there is none
 };
 
 // Each asks the server and waits for it, no longer than its patience a request.

@@ -59,9 +59,10 @@ public:
 private:
     bool create(const QString& title);
     bool send(Document& document, bool isLast);
-    bool sendBytes(QFile& file, qint64 size);
+    bool sendBytes(Document& document);
     void report() const;
     SubmissionResult refused() const;
+    Message whyInterrupted() const;
     SubmissionResult interrupted();
     bool cancelAtServer();
     const char* format() const;
@@ -75,7 +76,7 @@ private:
     ServerConnection connection_;
     SubmissionProgress done_;
     int jobID_ = 0;
-    QString readProblem_; // the document, not the server, is to blame
+    Message readProblem_; // the document, not the server, is to blame
 };
 
 const char* Sending::format() const
@@ -106,14 +107,14 @@ bool Sending::create(const QString& title)
     return jobID_ > 0;
 }
 
-bool Sending::sendBytes(QFile& file, qint64 size)
+bool Sending::sendBytes(Document& document)
 {
     std::array<char, 65'536> buffer;
-    qint64 left = size;
+    qint64 left = document.size;
     while (left > 0) {
-        const qint64 count = file.read(buffer.data(), std::min<qint64>(left, buffer.size()));
+        const qint64 count = document.file->read(buffer.data(), std::min<qint64>(left, buffer.size()));
         if (count <= 0) {
-            readProblem_ = u"\"%1\" became shorter while it was read"_s.arg(file.fileName());
+            readProblem_ = Say("Document Shortened", document.name);
             return false;
         }
         connection_.expectAnswer();
@@ -133,7 +134,7 @@ bool Sending::send(Document& document, bool isLast)
     connection_.expectAnswer();
     const http_status_t status = cupsStartDocument(connection_.http(), job_.queue.toUtf8().constData(), jobID_,
                                                    document.name.toUtf8().constData(), format(), isLast ? 1 : 0);
-    if (status != HTTP_STATUS_CONTINUE || !sendBytes(*document.file, document.size))
+    if (status != HTTP_STATUS_CONTINUE || !sendBytes(document))
         return false;
     connection_.expectAnswer();
     return cupsFinishDocument(connection_.http(), job_.queue.toUtf8().constData()) < IPP_STATUS_ERROR_BAD_REQUEST;
@@ -142,18 +143,15 @@ bool Sending::send(Document& document, bool isLast)
 SubmissionResult Sending::refused() const
 {
     if (cancellation_.requested())
-        return {.message = u"The job was cancelled; nothing was printed."_s, .cancelled = true};
+        return {.message = Say("Job Cancelled"), .cancelled = true};
     if (!connection_.http() || connection_.gaveUp() || httpError(connection_.http()) != 0 ||
         cupsLastError() == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE)
-        return {.message = u"%1 Nothing was printed to queue \"%2\"."_s.arg(ServerSilentMessage(server_), job_.queue)};
+        return {.message = Say("Job Not Sent", ServerSilentMessage(server_), job_.queue)};
     if (cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND)
-        return {.message = u"The printer or class does not exist: \"%1\". Name one that lpstat -e lists with -d."_s.arg(
-                    job_.queue)};
-    const QString wayOut = cupsLastError() == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS
-                               ? u"Print again when the queue accepts jobs, or to another one with -d."_s
-                               : u"Nothing was printed."_s;
-    return {.message = u"%1 refused the job for queue \"%2\": %3. %4"_s.arg(ServerName(server_), job_.queue,
-                                                                            LastReason(), wayOut)};
+        return {.message = Say("Queue Unknown", job_.queue)};
+    const Message wayOut =
+        cupsLastError() == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS ? Say("Print When Accepting") : Say("Nothing Printed");
+    return {.message = Say("Job Refused", ServerName(server_), job_.queue, LastReason(), wayOut)};
 }
 
 bool Sending::cancelAtServer()
@@ -166,20 +164,22 @@ bool Sending::cancelAtServer()
            cupsCancelJob2(connection.http(), job_.queue.toUtf8().constData(), jobID_, 0) < IPP_STATUS_ERROR_BAD_REQUEST;
 }
 
+Message Sending::whyInterrupted() const
+{
+    if (!readProblem_.isEmpty())
+        return readProblem_;
+    if (connection_.gaveUp() || httpError(connection_.http()) != 0)
+        return Say("Server Gone", ServerName(server_));
+    return Say("Server Says", ServerName(server_), LastReason());
+}
+
 SubmissionResult Sending::interrupted()
 {
-    const QString reason = !readProblem_.isEmpty() ? readProblem_
-                           : connection_.gaveUp() || httpError(connection_.http()) != 0
-                               ? u"%1 went away"_s.arg(ServerName(server_))
-                               : u"%1 says: %2"_s.arg(ServerName(server_), LastReason());
-    const bool cancelled = cancelAtServer();
-    const QString fate =
-        cancelled ? u"The job %1 was cancelled"_s.arg(jobName())
-                  : u"The job %1 could not be cancelled: look whether it is there (lpstat -o)"_s.arg(jobName());
+    const Message reason = whyInterrupted();
+    const Message fate = cancelAtServer() ? Say("Job Withdrawn", jobName()) : Say("Job Left Behind", jobName());
     if (cancellation_.requested())
-        return {.message = fate + u'.', .cancelled = true};
-    return {.message = u"The document could not be sent to queue \"%1\": %2. %3; then print again."_s.arg(
-                job_.queue, reason, fate)};
+        return {.message = Say("Job Stopped", fate), .cancelled = true};
+    return {.message = Say("Document Not Sent", job_.queue, reason, fate), .documentAtFault = !readProblem_.isEmpty()};
 }
 
 SubmissionResult Sending::run(std::vector<Document>& documents)
@@ -189,13 +189,13 @@ SubmissionResult Sending::run(std::vector<Document>& documents)
     for (const Document& document : documents)
         done_.total += document.size;
     report();
-    if (!create(job_.title.isEmpty() ? documents.front().name : job_.title))
+    if (!create(job_.title.value_or(documents.front().name)))
         return refused();
     for (Document& document : documents) {
         if (!send(document, &document == &documents.back()))
             return interrupted();
     }
-    return {.jobID = jobID_, .message = u"request id is %1 (%2 file(s))"_s.arg(jobName()).arg(job_.files.size())};
+    return {.jobID = jobID_, .message = Say("Request ID", jobName(), job_.files.size())};
 }
 
 } // namespace
@@ -205,7 +205,9 @@ SubmissionResult SubmitJob(const PrintServer& server, const PrintJob& job, Cance
 {
     DocumentList list = OpenDocuments(job.files, cancellation);
     if (!list.problem.isEmpty())
-        return {.message = list.problem, .cancelled = cancellation.requested()};
+        return {.message = list.problem,
+                .cancelled = cancellation.requested(),
+                .documentAtFault = !cancellation.requested()};
     return Sending(server, job, cancellation, progress).run(list.documents);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/job/JobOptions.h"
+#include "host/job/JobRequest.h"
 #include "host/server/PrintServer.h"
 
 #include <QByteArrayList>
@@ -8,13 +8,14 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace kesta::host {
 
 struct PrintJob {
-    QString queue = {};        // the name without instance
-    QString title = {};        // empty: the first file's name, or "(stdin)"
-    QByteArrayList files = {}; // local paths; none: the document is on standard input
+    QString queue = {};                // the name without instance
+    std::optional<QString> title = {}; // nothing: the first file's name, or "(stdin)"
+    QByteArrayList files = {};         // local paths; none: the document is on standard input
     JobOptions options = {};
 };
 
@@ -24,9 +25,10 @@ struct SubmissionProgress {
 };
 
 struct SubmissionResult {
-    int jobID = 0;          // 0: nothing was printed
-    QString message = {};   // "request id is QUEUE-N (1 file(s))", or what went wrong and what to do
-    bool cancelled = false; // by the user
+    int jobID = 0;                // 0: nothing was printed
+    Message message = {};         // the job's number at the server, or what went wrong and what to do
+    bool cancelled = false;       // by the user
+    bool documentAtFault = false; // it can't be read or is empty: no printer would take it
     bool sent() const { return jobID != 0; }
 };
 
@@ -41,5 +43,9 @@ SubmissionResult SubmitJob(const PrintServer& server, const PrintJob& job, Cance
 // The same aside; both functions run on the calling thread. Destroying the task cancels the job.
 BackgroundTask SubmitJobAside(const PrintServer& server, const PrintJob& job, ProgressFunction progress,
                               std::function<void(SubmissionResult)> done);
+
+// How a dialog's accepted job gets to the printer: sent aside, both functions run on the calling thread.
+using SendFunction =
+    std::function<BackgroundTask(const AcceptedJob&, ProgressFunction, std::function<void(SubmissionResult)>)>;
 
 } // namespace kesta::host

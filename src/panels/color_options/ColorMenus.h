@@ -7,7 +7,7 @@ namespace kesta {
 struct Bundle;
 }
 
-namespace kesta::color {
+namespace kesta::color_options {
 
 // The value of the item that asks for a name; no setting has it.
 inline constexpr SInt32 kAskForName = kUnset + 1;
@@ -17,10 +17,7 @@ struct MenuAndPosition {
     int position = 1; // of the item that stands for what is set, from 1
 };
 
-// The choices of a setting, and one more for a value that is none of them, so that it is shown and stays choosable.
-MenuAndPosition ChoiceMenu(const Bundle& bundle, const NumberSetting& setting, const FullColorOptions& record);
-
 // The printer's default, its built-in profiles by number, the name that is set, and the item that asks for one.
 MenuAndPosition NameMenu(const Bundle& bundle, const NameSetting& setting, const FullColorOptions& record);
 
-} // namespace kesta::color
+} // namespace kesta::color_options

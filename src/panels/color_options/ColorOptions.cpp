@@ -3,7 +3,7 @@
 #include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"
 
-namespace kesta::color {
+namespace kesta::color_options {
 namespace {
 
 Dictionary WithChanges(const Dictionary& read, const Dictionary& before, const Dictionary& after)
@@ -32,7 +32,7 @@ void ReadTicket(ColorOptions& options, const Ticket& settings)
 
 void WriteTicket(const ColorOptions& options, Ticket& settings)
 {
-    const TicketWriter writer(settings, kColorClient);
+    const TicketWriter writer(settings, kKestaClient);
     Dictionary dictionary =
         WithChanges(options.asRead, FullColorOptions(options.asRead).asTicket(), options.record.asTicket());
     if (dictionary.count() == 0)
@@ -41,4 +41,4 @@ void WriteTicket(const ColorOptions& options, Ticket& settings)
         writer.set(key::FullColorOptions, std::move(dictionary));
 }
 
-} // namespace kesta::color
+} // namespace kesta::color_options

@@ -3,7 +3,7 @@
 #include "model/FullColorOptions.h"
 #include "platform/printsystem/Ticket.h"
 
-namespace kesta::color {
+namespace kesta::color_options {
 
 // What the panel edits, and the ticket's dictionary that it came from.
 struct ColorOptions {
@@ -19,4 +19,4 @@ void ReadTicket(ColorOptions& options, const Ticket& settings);
 // of others among them, stays as it was read. A ticket without any color option has no dictionary.
 void WriteTicket(const ColorOptions& options, Ticket& settings);
 
-} // namespace kesta::color
+} // namespace kesta::color_options

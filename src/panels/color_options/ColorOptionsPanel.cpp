@@ -2,30 +2,20 @@
 
 #include "panels/color_options/ColorMenus.h"
 #include "panels/color_options/SwatchStrip.h"
-#include "pde/forms/TextFieldUtilities.h"
-#include "pde/ticket/TicketUtilities.h"
-#include "platform/plugins/Bundle.h"
-#include "toolkit/controls/SliderField.h"
-#include "toolkit/controls/SpinField.h"
-#include "toolkit/windows/InterfaceFile.h"
+#include "pde/forms/CustomValueDialog.h"
+#include "pde/forms/FormPanel.h"
 #include "toolkit/windows/ModalLoop.h"
 
 #include <algorithm>
 
-namespace kesta::color {
+namespace kesta::color_options {
 namespace {
+
+using _ColorOptionsPanelContext = FormContext<ColorOptions>;
 
 QWidget* Find(const _ColorOptionsPanelContext& panel, Control number)
 {
     return FindControl(panel.pane, {kSignature, number});
-}
-
-void ShowNumber(QWidget* control, SInt32 number)
-{
-    if (auto* slider = qobject_cast<SliderField*>(control))
-        slider->setNumber(number);
-    else if (auto* field = qobject_cast<SpinField*>(control))
-        field->setNumber(number);
 }
 
 void ShowMenu(QWidget* control, MenuAndPosition shown)
@@ -36,21 +26,14 @@ void ShowMenu(QWidget* control, MenuAndPosition shown)
     }
 }
 
-// A field that the user is typing into keeps its text as typed.
-void ShowOptions(const _ColorOptionsPanelContext& panel, SInt32 typedInto = 0)
+void ShowNamesAndState(const _ColorOptionsPanelContext& panel)
 {
     const FullColorOptions& record = panel.options.record;
-    for (const NumberSetting& setting : NumberSettings()) {
-        if (setting.control != typedInto)
-            ShowNumber(Find(panel, setting.control), setting.get(record));
-    }
-    for (const NumberSetting& setting : ChoiceSettings())
-        ShowMenu(Find(panel, setting.control), ChoiceMenu(*panel.bundle, setting, record));
     for (const NameSetting& setting : NameSettings())
         ShowMenu(Find(panel, setting.control), NameMenu(*panel.bundle, setting, record));
     SetControlEnabled(Find(panel, kFastDirection), UsesTrappingDirections(record));
     SetControlEnabled(Find(panel, kSlowDirection), UsesTrappingDirections(record));
-    SetControlEnabled(Find(panel, kResetButton), HasAdjustments(record));
+    SetControlEnabled(Find(panel, kResetButton), HasAdjustments(panel.options));
     if (QWidget* strip = Find(panel, kAfterStrip))
         strip->update();
 }
@@ -76,76 +59,14 @@ void Choose(const NameSetting& setting, SInt32 chosen, FullColorOptions& record)
         setting.set(record, {chosen, std::nullopt});
 }
 
-const auto* SettingOf(auto settings, SInt32 control)
+// Whether the record now has just what the user is typing into a field.
+bool IsAsTyped(const ColorOptions& options, const HitEvent& hit)
 {
-    const auto found = std::ranges::find_if(settings, [&](const auto& one) { return one.control == control; });
-    return found == settings.end() ? nullptr : &*found;
+    const auto binding = std::ranges::find(kBindings, hit.control.number, &Binding<ColorOptions>::control);
+    return binding != kBindings.end() && binding->rule.map.empty() && binding->value.get(options) == hit.value;
 }
 
-} // namespace
-
-PanelDescription Prologue(_ColorOptionsPanelContext& panel)
-{
-    panel.bundle = &BundleNamed(kColorOptionsIdentifier);
-    return {.title = LocalizedString(*panel.bundle, "ColorOptions"), .creator = "KPDE"_code};
-}
-
-OSStatus Initialize(_ColorOptionsPanelContext& panel, QWidget& pane, PrintSession& session)
-{
-    panel.pane = &pane;
-    return Sync(panel, session, SyncDirection::TicketsToControls);
-}
-
-OSStatus Sync(_ColorOptionsPanelContext& panel, PrintSession& session, SyncDirection direction)
-{
-    const auto [settings, status] = GetTicketFromSession(session, kPMPrintSettingsTicket);
-    if (!settings)
-        return status;
-    if (direction == SyncDirection::ControlsToTickets) {
-        WriteTicket(panel.options, *settings);
-    } else {
-        ReadTicket(panel.options, *settings);
-        ShowOptions(panel);
-    }
-    return noErr;
-}
-
-OSStatus Open(_ColorOptionsPanelContext& panel)
-{
-    if (panel.view || !panel.pane)
-        return noErr;
-    std::unique_ptr<QWidget> window = CreateWindowFromNib(*panel.bundle, "ColorOptionsPanel", "ColorOptions");
-    if (!window)
-        return noErr; // the panel stays empty
-    panel.view = EmbedAndShowControl(std::move(window), *panel.pane);
-    ShowOptions(panel);
-    panel.handler = InstallEventHandler(
-        *panel.pane, [&panel](const HitEvent& hit) { return ColorOptionsPanelEventHandler(panel, hit); },
-        [&panel](const DrawEvent& draw) { return ColorOptionsDrawEventHandler(panel, draw); });
-    return noErr;
-}
-
-EventResult ColorOptionsPanelEventHandler(_ColorOptionsPanelContext& panel, const HitEvent& hit)
-{
-    if (hit.control.signature != kSignature)
-        return EventResult::NotHandled;
-    FullColorOptions& record = panel.options.record;
-    SInt32 typedInto = 0;
-    if (const NumberSetting* number = SettingOf(NumberSettings(), hit.control.number)) {
-        if (number->set(record, hit.value) == noErr)
-            typedInto = hit.control.number;
-    } else if (const NumberSetting* choice = SettingOf(ChoiceSettings(), hit.control.number)) {
-        choice->set(record, hit.ticketValue);
-    } else if (const NameSetting* name = SettingOf(NameSettings(), hit.control.number)) {
-        Choose(*name, hit.ticketValue, record);
-    } else if (hit.control.number == kResetButton) {
-        ResetAdjustments(record);
-    }
-    ShowOptions(panel, typedInto);
-    return EventResult::NotHandled;
-}
-
-EventResult ColorOptionsDrawEventHandler(const _ColorOptionsPanelContext& panel, const DrawEvent& draw)
+EventResult DrawStrip(const _ColorOptionsPanelContext& panel, const DrawEvent& draw)
 {
     switch (draw.control.number) {
     case kBeforeStrip:
@@ -159,20 +80,44 @@ EventResult ColorOptionsDrawEventHandler(const _ColorOptionsPanelContext& panel,
     }
 }
 
-namespace {
+void Read(ColorOptions& options, const Ticket& settings, ppd_file_t*)
+{
+    ReadTicket(options, settings);
+}
 
-constexpr PanelOperations<_ColorOptionsPanelContext> kOperations{
-    .Prologue = Prologue,
-    .Initialize = Initialize,
-    .Sync = Sync,
-    .Open = Open,
+void HandleHit(_ColorOptionsPanelContext& panel, const HitEvent& hit);
+
+constexpr FormPanel<ColorOptions> kPanel{
+    .bundle = kColorOptionsIdentifier,
+    .title = "ColorOptions",
+    .interfaceFile = "ColorOptionsPanel",
+    .window = "ColorOptions",
+    .signature = kSignature,
+    .bindings = kBindings,
+    .Read = Read,
+    .Write = WriteTicket,
+    .Show = ShowNamesAndState,
+    .Hit = HandleHit,
+    .Draw = DrawStrip,
 };
 
+// One number may change others: all are shown anew.
+void HandleHit(_ColorOptionsPanelContext& panel, const HitEvent& hit)
+{
+    const auto names = NameSettings();
+    const auto name = std::ranges::find(names, hit.control.number, &NameSetting::control);
+    if (name != names.end())
+        Choose(*name, hit.ticketValue, panel.options.record);
+    else if (hit.control.number == kResetButton)
+        ResetAdjustments(panel.options);
+    const SInt32 typedInto = IsAsTyped(panel.options, hit) ? hit.control.number : 0;
+    FormSlots<kPanel>::Controls(panel).show(panel.options, Showing::Opened, typedInto);
+}
+
 } // namespace
-} // namespace kesta::color
+} // namespace kesta::color_options
 
 KestaStatus GetColorOptionPanelInterface(const PanelInterfaceHolder** holder)
 {
-    *holder = &kesta::PanelSlots<kesta::color::kOperations>::kHolder;
-    return kesta::noErr;
+    return kesta::GiveForm<kesta::color_options::kPanel>(holder);
 }

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace kesta::color {
+namespace kesta::color_options {
 namespace {
 
 using Record = FullColorOptions;
@@ -12,6 +12,21 @@ using Text = FullColorOptions::Text;
 constexpr SInt32 kTrappingOn = 1;
 constexpr SInt32 kNamedText = 1;
 
+// Numbered as profiles of the color industry number them.
+constexpr auto _RenderingIntentMap = std::to_array<SettingRow>({
+    {"PrinterDefault", kUnset},
+    {"Perceptual", 0},
+    {"Relative Colorimetric", 1},
+    {"Saturation Intent", 2},
+    {"Absolute Colorimetric", 3},
+});
+constexpr auto _SwitchMap = std::to_array<SettingRow>({
+    {"PrinterDefault", kUnset},
+    {"Off", 0},
+    {"On", 1},
+});
+static_assert(_RenderingIntentMap.size() == 5 && _SwitchMap.size() == 3);
+
 template <auto getter> SInt32 Get(const Record& record)
 {
     SInt32 value = kUnset;
@@ -19,10 +34,16 @@ template <auto getter> SInt32 Get(const Record& record)
     return value;
 }
 
-template <auto setter> OSStatus Set(Record& record, SInt32 value)
+template <auto setter> void Set(Record& record, SInt32 value)
 {
-    return (record.*setter)(value);
+    (record.*setter)(value);
 }
+
+// Of the panel's options, by functions of the record in them.
+template <auto get, auto set>
+constexpr Access<ColorOptions> kOfRecord{[](const ColorOptions& options) { return get(options.record); },
+                                         [](ColorOptions& options, SInt32 value) { set(options.record, value); }};
+template <auto getter, auto setter> constexpr Access<ColorOptions> kRecord = kOfRecord<Get<getter>, Set<setter>>;
 
 std::array<SInt32, 3> CastOf(const Record& record)
 {
@@ -36,15 +57,17 @@ template <std::size_t which> SInt32 GetCast(const Record& record)
     return CastOf(record)[which];
 }
 
-template <std::size_t which> OSStatus SetCast(Record& record, SInt32 value)
+template <std::size_t which> void SetCast(Record& record, SInt32 value)
 {
-    if (value == kUnset)
-        return record.setColorCast(kUnset, kUnset, kUnset);
+    if (value == kUnset) {
+        record.setColorCast(kUnset, kUnset, kUnset);
+        return;
+    }
     std::array<SInt32, 3> cast = CastOf(record);
     for (SInt32& one : cast)
         one = one == kUnset ? 0 : std::clamp(one, -100, 100);
     cast[which] = value;
-    return record.setColorCast(cast[0], cast[1], cast[2]);
+    record.setColorCast(cast[0], cast[1], cast[2]);
 }
 
 SInt32 GetSlowDirection(const Record& record)
@@ -66,14 +89,14 @@ SInt32 InTrappingRange(SInt32 value)
     return value == kUnset ? kUnset : std::clamp(value, 0, 20);
 }
 
-OSStatus SetSlowDirection(Record& record, SInt32 value)
+void SetSlowDirection(Record& record, SInt32 value)
 {
-    return record.setTrappingAdjustment(value, InTrappingRange(GetFastDirection(record)));
+    record.setTrappingAdjustment(value, InTrappingRange(GetFastDirection(record)));
 }
 
-OSStatus SetFastDirection(Record& record, SInt32 value)
+void SetFastDirection(Record& record, SInt32 value)
 {
-    return record.setTrappingAdjustment(InTrappingRange(GetSlowDirection(record)), value);
+    record.setTrappingAdjustment(InTrappingRange(GetSlowDirection(record)), value);
 }
 
 template <auto getter> ColorProfile GetProfile(const Record& record)
@@ -102,25 +125,6 @@ template <auto setter> OSStatus SetName(Record& record, const ColorProfile& prof
 
 // clang-format off
 using R = Record;
-constexpr auto kNumbers = std::to_array<NumberSetting>({
-    {kLightness,     Get<&R::lightness>,  Set<&R::setLightness>},
-    {kContrast,      Get<&R::contrast>,   Set<&R::setContrast>},
-    {kSaturation,    Get<&R::saturation>, Set<&R::setSaturation>},
-    {kCyanRed,       GetCast<0>,          SetCast<0>},
-    {kMagentaGreen,  GetCast<1>,          SetCast<1>},
-    {kYellowBlue,    GetCast<2>,          SetCast<2>},
-    {kFastDirection, GetFastDirection,    SetFastDirection},
-    {kSlowDirection, GetSlowDirection,    SetSlowDirection},
-});
-
-constexpr auto kChoices = std::to_array<NumberSetting>({
-    {kImageRendering,   Get<&R::imageObjectRendering>,   Set<&R::setImageObjectRendering>},
-    {kTextRendering,    Get<&R::textObjectRendering>,    Set<&R::setTextObjectRendering>},
-    {kGraphicRendering, Get<&R::graphicObjectRendering>, Set<&R::setGraphicObjectRendering>},
-    {kTrapping,         Get<&R::trapping>,               Set<&R::setTrapping>},
-    {kBlackOverprint,   Get<&R::blackOverprint>,         Set<&R::setBlackOverprint>},
-});
-
 constexpr auto kNames = std::to_array<NameSetting>({
     {kRGBImages,           kNamedRGBProfile,         GetProfile<&R::rgbImagesProfile>,           SetProfile<&R::setRGBImagesProfile>},
     {kRGBTextAndGraphics,  kNamedRGBProfile,         GetProfile<&R::rgbTextAndGraphicsProfile>,  SetProfile<&R::setRGBTextAndGraphicsProfile>},
@@ -132,38 +136,54 @@ constexpr auto kNames = std::to_array<NameSetting>({
     {kToneCurve,           kNamedText,               GetName<&R::trc>,                           SetName<&R::setTRC>},
 });
 // clang-format on
-static_assert(kNumbers.size() == 8 && kChoices.size() == 5 && kNames.size() == 8); // the record's 21 fields
-
-// The first six numbers are those that the swatches show.
-constexpr std::span<const NumberSetting> kAdjustments(kNumbers.data(), 6);
-static_assert(kAdjustments.back().control == kYellowBlue);
+constexpr BindingRule kIntent{.map = _RenderingIntentMap, .other = "Other Value"};
+constexpr BindingRule kSwitch{.map = _SwitchMap, .other = "Other Value"};
 
 } // namespace
 
-std::span<const NumberSetting> NumberSettings()
-{
-    return kNumbers;
-}
-
-std::span<const NumberSetting> ChoiceSettings()
-{
-    return kChoices;
-}
+// clang-format off
+const std::array<Binding<ColorOptions>, 13> kBindings{{
+    {kLightness,        kRecord<&R::lightness, &R::setLightness>},
+    {kContrast,         kRecord<&R::contrast, &R::setContrast>},
+    {kSaturation,       kRecord<&R::saturation, &R::setSaturation>},
+    {kCyanRed,          kOfRecord<GetCast<0>, SetCast<0>>},
+    {kMagentaGreen,     kOfRecord<GetCast<1>, SetCast<1>>},
+    {kYellowBlue,       kOfRecord<GetCast<2>, SetCast<2>>},
+    {kFastDirection,    kOfRecord<GetFastDirection, SetFastDirection>},
+    {kSlowDirection,    kOfRecord<GetSlowDirection, SetSlowDirection>},
+    {kImageRendering,   kRecord<&R::imageObjectRendering, &R::setImageObjectRendering>, kIntent},
+    {kTextRendering,    kRecord<&R::textObjectRendering, &R::setTextObjectRendering>, kIntent},
+    {kGraphicRendering, kRecord<&R::graphicObjectRendering, &R::setGraphicObjectRendering>, kIntent},
+    {kTrapping,         kRecord<&R::trapping, &R::setTrapping>, kSwitch},
+    {kBlackOverprint,   kRecord<&R::blackOverprint, &R::setBlackOverprint>, kSwitch},
+}};
+// clang-format on
+static_assert(kBindings.size() + kNames.size() == 21); // the record's fields
 
 std::span<const NameSetting> NameSettings()
 {
     return kNames;
 }
 
-bool HasAdjustments(const FullColorOptions& record)
+namespace {
+
+// The first six numbers are those that the swatches show.
+Bindings<ColorOptions> Adjustable()
 {
-    return std::ranges::any_of(kAdjustments, [&](const NumberSetting& one) { return one.get(record) != kUnset; });
+    return Bindings<ColorOptions>(kBindings).first(6);
 }
 
-void ResetAdjustments(FullColorOptions& record)
+} // namespace
+
+bool HasAdjustments(const ColorOptions& options)
 {
-    for (const NumberSetting& one : kAdjustments)
-        one.set(record, kUnset);
+    return std::ranges::any_of(Adjustable(), [&](const auto& one) { return one.value.get(options) != kUnset; });
+}
+
+void ResetAdjustments(ColorOptions& options)
+{
+    for (const Binding<ColorOptions>& one : Adjustable())
+        one.value.set(options, kUnset);
 }
 
 bool UsesTrappingDirections(const FullColorOptions& record)
@@ -171,4 +191,4 @@ bool UsesTrappingDirections(const FullColorOptions& record)
     return Get<&Record::trapping>(record) == kTrappingOn;
 }
 
-} // namespace kesta::color
+} // namespace kesta::color_options

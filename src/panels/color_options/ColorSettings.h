@@ -1,12 +1,14 @@
 #pragma once
 
-#include "model/FullColorOptions.h"
+#include "panels/color_options/ColorOptions.h"
+#include "pde/menus/Binding.h"
 
-#include <span>
+#include <array>
 
-namespace kesta::color {
+namespace kesta::color_options {
 
 // The numbers of the controls in ColorOptionsPanel/ColorOptions.
+inline constexpr FourCharCode kSignature = "Colr"_code;
 enum Control : SInt32 {
     kLightness = 101,
     kContrast = 102,
@@ -34,20 +36,13 @@ enum Control : SInt32 {
     kToneCurve = 405,
 };
 
-// A number of the record, kUnset for none, as its one control edits it. Setters answer as the record's.
+// The numbers of the record, kUnset for none, as their controls edit them: fields for adjustments, casts and the
+// directions of trapping, then choices. A setter leaves the record as it is where the record's does.
 //
 // A color cast is one setting of three values: setting one of them sets those that are not set to 0, and taking one
 // away takes all. Where the record refuses values together, those that a ticket brought out of range are brought into
 // it with the first change.
-struct NumberSetting {
-    Control control;
-    SInt32 (*get)(const FullColorOptions&);
-    OSStatus (*set)(FullColorOptions&, SInt32);
-};
-
-// Those with a field: adjustments, casts and the directions of trapping; then those with a choice.
-std::span<const NumberSetting> NumberSettings();
-std::span<const NumberSetting> ChoiceSettings();
+extern const std::array<Binding<ColorOptions>, 13> kBindings;
 
 // Something of the printer's by number, or, by the named kind, by name. Where there are names only, the named kind
 // is 1.
@@ -59,8 +54,8 @@ struct NameSetting {
 };
 std::span<const NameSetting> NameSettings();
 
-bool HasAdjustments(const FullColorOptions& record);
-void ResetAdjustments(FullColorOptions& record); // lightness to casts: not set
+bool HasAdjustments(const ColorOptions& options);
+void ResetAdjustments(ColorOptions& options); // lightness to casts: not set
 bool UsesTrappingDirections(const FullColorOptions& record);
 
-} // namespace kesta::color
+} // namespace kesta::color_options

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace kesta::color {
+namespace kesta::color_options {
 namespace {
 
 constexpr double kMiddle = 0.5;
@@ -56,4 +56,4 @@ Rgb Adjusted(const Rgb& color, const Adjustments& by)
     return Each(made, [](double part) { return std::clamp(part, 0.0, 1.0); });
 }
 
-} // namespace kesta::color
+} // namespace kesta::color_options

@@ -4,7 +4,7 @@
 
 #include <array>
 
-namespace kesta::color {
+namespace kesta::color_options {
 
 // How much of each there is, 0 to 1.
 struct Rgb {
@@ -53,4 +53,4 @@ Adjustments AdjustmentsOf(const FullColorOptions& record);
 // and at the end brought into 0 to 1. Without adjustments a color stays exactly as it is.
 Rgb Adjusted(const Rgb& color, const Adjustments& adjustments);
 
-} // namespace kesta::color
+} // namespace kesta::color_options

@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
-namespace kesta::color {
+namespace kesta::color_options {
 namespace {
 
 constexpr double kRadius = 4; // points
@@ -43,4 +43,4 @@ void DrawSwatches(QPainter& painter, const QRect& bounds, const Adjustments& adj
     painter.restore();
 }
 
-} // namespace kesta::color
+} // namespace kesta::color_options

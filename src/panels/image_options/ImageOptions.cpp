@@ -1,9 +1,6 @@
 #include "panels/image_options/ImageOptions.h"
 
 #include "pde/interface/TicketKeys.h"
-#include "pde/ticket/TicketUtilities.h"
-
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -25,13 +22,14 @@ static_assert(kQualityPictures.size() == JCLPrintQualityMap.size());
 
 void ReadQuality(ImageOptions& options, const Ticket& settings, ppd_file_t* ppd)
 {
-    options.quality = PPDGetTicketValueForChoiceOrDefault(ppd, settings, "JCLPrintQuality").value_or(options.quality);
+    ReadBindings(kBindings, options, settings, ppd);
 }
 
 void WriteQuality(const ImageOptions& options, Ticket& settings)
 {
-    WriteTicketValue(TicketWriter(settings, kPrintingManagerClient), key::ImageResolution, options.quality);
-    PPDSetChoiceForTicketValue(settings, "JCLPrintQuality", options.quality);
+    const TicketWriter writer(settings, kPrintingManagerClient);
+    WriteTicketValue(writer, key::ImageResolution, options.quality);
+    WriteBindings(kBindings, options, writer);
 }
 
 void ReadInvertImage(ImageOptions& options, const Ticket& settings)

@@ -1,35 +1,41 @@
 #include "panels/image_options/ImageOptionsPanel.h"
 
-#include "pde/menus/MenuUtilities.h"
-#include "pde/ticket/TicketUtilities.h"
-#include "platform/plugins/Bundle.h"
+#include "panels/image_options/ImageOptions.h"
+#include "pde/forms/FormPanel.h"
 #include "toolkit/controls/PictureView.h"
-#include "toolkit/windows/InterfaceFile.h"
 
 #include <QAbstractButton>
 
 namespace kesta::image_options {
 namespace {
 
-QWidget* Find(const _ImageOptionsContext& panel, Control number)
-{
-    return FindControl(panel.pane, {kSignature, number});
-}
-
-QAbstractButton* CheckBox(const _ImageOptionsContext& panel, Control number)
-{
-    return qobject_cast<QAbstractButton*>(Find(panel, number));
-}
-
-PopupButton* QualityPopup(const _ImageOptionsContext& panel)
-{
-    return FindPopupButton(panel.pane, {kSignature, kQualityPopup});
-}
+using _ImageOptionsContext = FormContext<ImageOptions>;
 
 void ShowPicture(const _ImageOptionsContext& panel, Control number, const QString& picture)
 {
-    if (auto* view = qobject_cast<PictureView*>(Find(panel, number)))
+    if (auto* view = FindControlAs<PictureView>(panel.pane, {kSignature, number}))
         view->setPicture(picture);
+}
+
+void ShowPictures(const _ImageOptionsContext& panel)
+{
+    ShowPicture(panel, kQualityIllustration, QualityIllustration(panel.options.quality));
+    ShowPicture(panel, kInvertIllustration, InvertIllustration(panel.options.invert));
+}
+
+constexpr FormPanel<ImageOptions> kPanel{
+    .title = "ImageOptions",
+    .interfaceFile = "ImageOptionsPanel",
+    .window = "Panel",
+    .signature = kSignature,
+    .bindings = kBindings,
+    .Show = ShowPictures,
+};
+using Form = FormSlots<kPanel>;
+
+QAbstractButton* CheckBox(const _ImageOptionsContext& panel, Control number)
+{
+    return FindControlAs<QAbstractButton>(panel.pane, {kSignature, number});
 }
 
 void Check(QAbstractButton* box, bool checked)
@@ -50,22 +56,6 @@ void InvertImageSync(_ImageOptionsContext& panel, SyncDirection direction, Ticke
     Check(mirror, panel.options.invert.mirrorImage);
 }
 
-} // namespace
-
-PanelDescription Prologue(_ImageOptionsContext& panel)
-{
-    panel.bundle = &BundleNamed(kPlugInIdentifier);
-    return {.title = LocalizedString(*panel.bundle, "ImageOptions"), .creator = "KPDE"_code};
-}
-
-OSStatus Initialize(_ImageOptionsContext& panel, QWidget& pane, PrintSession& session)
-{
-    panel.pane = &pane;
-    panel.options.invert = {};
-    panel.ppd = PPDGetCurrent();
-    return Sync(panel, session, SyncDirection::TicketsToControls);
-}
-
 // The quality is written in both directions, so that a job has it from the start.
 OSStatus Sync(_ImageOptionsContext& panel, PrintSession& session, SyncDirection direction)
 {
@@ -75,60 +65,29 @@ OSStatus Sync(_ImageOptionsContext& panel, PrintSession& session, SyncDirection 
     if (direction == SyncDirection::TicketsToControls)
         ReadQuality(panel.options, *settings, panel.ppd);
     else
-        SaveUIValuesToData(panel);
+        Form::Controls(panel).takeAll(panel.options);
     InvertImageSync(panel, direction, *settings);
     if (direction == SyncDirection::TicketsToControls)
-        RestoreUIValuesFromData(panel);
+        Form::Show(panel, Showing::TicketRead);
     WriteQuality(panel.options, *settings);
     return noErr;
 }
 
+OSStatus Initialize(_ImageOptionsContext& panel, QWidget& pane, PrintSession& session)
+{
+    panel.pane = &pane;
+    panel.ppd = PPDGetCurrent();
+    return Sync(panel, session, SyncDirection::TicketsToControls);
+}
+
+// It opens once.
 OSStatus Open(_ImageOptionsContext& panel)
 {
-    if (panel.view)
-        return kInvalidContext;
-    std::unique_ptr<QWidget> window = CreateWindowFromNib(*panel.bundle, "ImageOptionsPanel", "Panel");
-    if (!window || !panel.pane)
-        return noErr; // the panel stays empty
-    panel.view = EmbedAndShowControl(std::move(window), *panel.pane);
-    PPDPopulatePopupWithChoices(QualityPopup(panel), panel.ppd, "JCLPrintQuality", Conflicting::Keep);
-    RestoreUIValuesFromData(panel);
-    panel.handler = InstallEventHandler(
-        *panel.pane, [&panel](const HitEvent& hit) { return ImageOptionsPanelEventHandler(panel, hit); });
-    return noErr;
+    return panel.view ? OSStatus{kInvalidContext} : Form::Open(panel);
 }
-
-// What has no control, or nothing to choose from, keeps its value.
-void SaveUIValuesToData(_ImageOptionsContext& panel)
-{
-    const PopupButton* quality = QualityPopup(panel);
-    if (quality && quality->selectedItem())
-        panel.options.quality = GetPopupButtonTicketValue(quality);
-    if (const QAbstractButton* mirror = CheckBox(panel, kMirrorCheckBox))
-        panel.options.invert.mirrorImage = mirror->isChecked();
-}
-
-void RestoreUIValuesFromData(const _ImageOptionsContext& panel)
-{
-    SetPopupButtonToTicketValue(QualityPopup(panel), panel.options.quality);
-    Check(CheckBox(panel, kMirrorCheckBox), panel.options.invert.mirrorImage);
-    ShowPicture(panel, kQualityIllustration, QualityIllustration(panel.options.quality));
-    ShowPicture(panel, kInvertIllustration, InvertIllustration(panel.options.invert));
-}
-
-EventResult ImageOptionsPanelEventHandler(_ImageOptionsContext& panel, const HitEvent& hit)
-{
-    if (hit.control.signature == kSignature) {
-        SaveUIValuesToData(panel);
-        RestoreUIValuesFromData(panel);
-    }
-    return EventResult::NotHandled;
-}
-
-namespace {
 
 constexpr PanelOperations<_ImageOptionsContext> kOperations{
-    .Prologue = Prologue,
+    .Prologue = Form::Prologue,
     .Initialize = Initialize,
     .Sync = Sync,
     .Open = Open,
@@ -139,6 +98,5 @@ constexpr PanelOperations<_ImageOptionsContext> kOperations{
 
 KestaStatus GetImageOptionsPanelInterface(const PanelInterfaceHolder** holder)
 {
-    *holder = &kesta::PanelSlots<kesta::image_options::kOperations>::kHolder;
-    return kesta::noErr;
+    return kesta::GivePanel<kesta::image_options::kOperations>(holder);
 }

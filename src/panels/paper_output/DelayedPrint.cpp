@@ -1,4 +1,4 @@
-#include "panels/paper_output/JobTypeSetups.h"
+#include "panels/paper_output/DelayedPrint.h"
 
 #include "panels/paper_output/DelayedPrintTime.h"
 #include "pde/forms/DialogCommands.h"

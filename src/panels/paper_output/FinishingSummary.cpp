@@ -1,7 +1,7 @@
 #include "panels/paper_output/FinishingSummary.h"
 
 #include "panels/paper_output/FinishingRules.h"
-#include "panels/special_pages/paper/SeparatorsDialog.h"
+#include "panels/special_pages/paper/SeparatorsRules.h"
 #include "panels/special_pages/paper/StockSummary.h"
 #include "platform/plugins/Bundle.h"
 #include "printer/FinishingKinds.h"

@@ -1,9 +1,11 @@
 #include "panels/paper_output/PaperOutputHandler.h"
 
 #include "panels/booklet_watermark/booklet/BookletDialog.h"
+#include "panels/paper_output/DelayedPrint.h"
 #include "panels/paper_output/FinishingRules.h"
-#include "panels/paper_output/JobTypeSetups.h"
 #include "panels/paper_output/PaperOutputView.h"
+#include "panels/paper_output/SavedJob.h"
+#include "panels/paper_output/SecurePrint.h"
 #include "panels/special_pages/paper/SeparatorsDialog.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"
@@ -22,10 +24,11 @@ void FollowPaper(_PaperOutputContext& panel)
         ShowFinishing(panel);
 }
 
-void ChooseJobType(_PaperOutputContext& panel, SInt32 jobType)
+void FollowJobType(_PaperOutputContext& panel)
 {
-    panel.options.jobType.number = jobType;
-    if (EnableDisableJobTypeSetupButton(panel))
+    const PopupButton* popup = FindPopupButton(panel.pane, {kSignature, kJobTypePopup});
+    const bool isPicked = !popup || !popup->isGoneThrough(); // on the way to another one nobody wants its setup
+    if (EnableDisableJobTypeSetupButton(panel) && isPicked)
         ClickControl(FindHere(panel, kJobTypeSetupButton));
 }
 
@@ -63,6 +66,7 @@ void ChooseSeparators(_PaperOutputContext& panel)
 {
     ModalResult result = ModalResult::Cancel;
     RunModalSeparatorsDialog(*panel.bundle, panel.options.separatorCount, panel.options.separatorStock, result);
+    ShowPaper(panel);
 }
 
 } // namespace
@@ -71,27 +75,17 @@ EventResult pdeShellPaperOutputEventHandler(_PaperOutputContext& panel, const Hi
 {
     FollowPaper(panel);
     PaperOutputOptions& options = panel.options;
+    BoundOptions(panel).take(hit, options);
+    BoundFinishing(panel).take(hit, options); // a staple's command has shown it already
     switch (hit.control.number) {
     case kJobTypePopup:
-        ChooseJobType(panel, hit.ticketValue);
+        FollowJobType(panel);
         break;
     case kJobTypeSetupButton:
         SetUpJobType(panel);
         break;
     case kTwoSidedPopup:
         options.duplex = options.duplexPopupValue = hit.ticketValue;
-        break;
-    case kStaplePopup:
-        ChooseStaple(options, hit.ticketValue); // its command has shown it already
-        break;
-    case kPunchPopup:
-        options.punch = hit.ticketValue;
-        break;
-    case kDestinationPopup:
-        options.outputBin = hit.ticketValue;
-        break;
-    case kQualityPopup:
-        options.printQuality = hit.ticketValue;
         break;
     }
     ShowPictures(panel);
@@ -107,7 +101,6 @@ EventResult pdeShellPaperOutputEventHandler(_PaperOutputContext& panel, const Co
         ChooseSeparators(panel);
     else if (ApplyFinishingCommand(panel.options, chosen.command) && panel.options.booklet.isOn())
         ShowTwoSided(panel, kTwoSidedLongEdge);
-    ShowPaper(panel); // the paper's own commands have come this way, too
     ShowFinishing(panel);
     return EventResult::NotHandled;
 }

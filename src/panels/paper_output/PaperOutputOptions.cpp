@@ -1,8 +1,8 @@
 #include "panels/paper_output/PaperOutputOptions.h"
 
-#include "panels/special_pages/paper/SeparatorsDialog.h"
+#include "panels/paper_output/PaperOutputBindings.h"
+#include "panels/special_pages/paper/SeparatorsRules.h"
 #include "pde/interface/TicketKeys.h"
-#include "pde/menus/Mappings.h"
 #include "pde/ticket/TicketUtilities.h"
 
 #include <algorithm>
@@ -23,13 +23,6 @@ void ReadStock(Stock& stock, const Ticket& settings, ppd_file_t* ppd)
         DefaultStock(stock, JobContext::Job);
     stock.setColor(PPDGetTicketValueForChoiceOrDefault(ppd, settings, "MediaColor").value_or(kUnset));
     stock.setType(PPDGetTicketValueForChoiceOrDefault(ppd, settings, "MediaType").value_or(kUnset));
-}
-
-SInt32 ReadPrintQuality(const Ticket& settings)
-{
-    const std::optional<SInt32> quality = ReadTicketValue(settings, key::FinishingOutputColor);
-    const bool isOffered = std::ranges::find(_PrintQualityMap, quality, &SettingRow::value) != _PrintQualityMap.end();
-    return isOffered ? *quality : kStandardQuality;
 }
 
 void ReadFax(PaperOutputOptions& options, const Ticket& settings)
@@ -139,8 +132,7 @@ SInt32 ReadOrientation(const Ticket& pageFormat)
 void ReadTicket(PaperOutputOptions& options, const Ticket& settings, ppd_file_t* ppd)
 {
     ReadStock(options.stock, settings, ppd);
-    options.outputBin = PPDGetTicketValueForChoiceOrDefault(ppd, settings, "OutputBin").value_or(kUnset);
-    options.printQuality = ReadPrintQuality(settings);
+    ReadBindings(kBindings, options, settings, ppd);
     SyncSeparatorsFromTicket(&settings, options.separatorCount, options.separatorStock);
     ReadJobType(options.jobType, settings);
     ReadFax(options, settings);
@@ -158,8 +150,7 @@ OSStatus WriteTicket(PaperOutputOptions& options, Ticket& ticket, WriteScope sco
     settings.set(key::JobLevelStock, options.stock.asTicket());
     PPDSetChoiceForTicketValue(ticket, "MediaColor", options.stock.color());
     PPDSetChoiceForTicketValue(ticket, "MediaType", options.stock.type());
-    PPDSetChoiceForTicketValue(ticket, "OutputBin", options.outputBin);
-    WriteTicketValue(settings, key::FinishingOutputColor, options.printQuality);
+    WriteBindings(kBindings, options, settings);
     const OSStatus status = SyncSeparatorsToTicket(&ticket, options.separatorCount, options.separatorStock);
     WriteJobType(options.jobType, settings);
     WriteFax(options, settings);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "panels/paper_output/FinishingMenus.h"
-#include "panels/paper_output/PaperOutputOptions.h"
+#include "panels/paper_output/PaperOutputBindings.h"
 #include "panels/special_pages/paper/StockMenu.h"
 #include "pde/interface/JobTypeCheck.h"
 #include "pde/interface/PanelOperations.h"
@@ -11,43 +11,6 @@
 extern "C" KestaStatus GetPaperOutputPanelInterface(const PanelInterfaceHolder** holder);
 
 namespace kesta::paper_output {
-
-// The numbers of the controls in Paper_Output/Panel.
-inline constexpr FourCharCode kSignature = "Papr"_code;
-enum Control : SInt32 {
-    kJobTypePicture = 101,
-    kJobTypePopup = 102,
-    kJobTypeSetupButton = 103,
-    kPaperPicture = 104,
-    kPaperSummary = 105,
-    kStockMenuButton = 106,
-    kTwoSidedPicture = 108,
-    kTwoSidedLabel = 109,
-    kTwoSidedPopup = 110,
-    kStaplePicture = 111,
-    kStaplePopup = 113,
-    kPunchPicture = 114,
-    kPunchPopup = 116,
-    kFinishingPicture = 117,
-    kFinishingMenuButton = 119,
-    kFinishingSummary = 120,
-    kDestinationLabel = 125,
-    kDestinationPopup = 126,
-    kQualityPicture = 127,
-    kQualityPopup = 128,
-};
-// The views of which the panel is put together.
-enum View : SInt32 {
-    kJobTypeView = 1000,
-    kPaperView = 1001,
-    kTwoSidedView = 1002,
-    kStaplingView = 1003,
-    kPunchView = 1004,
-    kOfficeFinishingRow = 1005, // for stapling and holes, side by side
-    kFinishingView = 1006,      // in place of the two, with a booklet maker
-    kDestinationView = 1007,
-    kQualityView = 1008,
-};
 
 inline constexpr FourCharCode kSeparatorsCommand = "Xsep"_code; // of the paper menu
 

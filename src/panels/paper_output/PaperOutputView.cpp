@@ -4,11 +4,10 @@
 #include "panels/paper_output/FinishingSummary.h"
 #include "panels/paper_output/PaperOutputPictures.h"
 #include "pde/forms/ViewUtilities.h"
-#include "pde/menus/Mappings.h"
+#include "pde/interface/SummaryPlaces.h"
 #include "pde/menus/MenuUtilities.h"
 #include "platform/plugins/Bundle.h"
 #include "printer/InstallableOptions.h"
-#include "product/Westmarch2.h"
 #include "toolkit/controls/MenuButton.h"
 #include "toolkit/controls/PictureView.h"
 #include "toolkit/controls/SummaryTextView.h"
@@ -25,6 +24,11 @@ constexpr int kFieldSpacing = 16;
 PopupButton* Popup(const _PaperOutputContext& panel, Control number)
 {
     return FindPopupButton(panel.pane, {kSignature, number});
+}
+
+FormPlace PlaceOf(const _PaperOutputContext& panel)
+{
+    return {.root = panel.pane, .signature = kSignature, .bundle = *panel.bundle, .ppd = panel.ppd};
 }
 
 void SetMenu(PopupButton* popup, Menu menu)
@@ -91,12 +95,11 @@ void FillFinishing(const _PaperOutputContext& panel)
 }
 
 // A simple tray is the only place for what is printed.
-void FillDestination(const _PaperOutputContext& panel)
+void HideDestination(const _PaperOutputContext& panel)
 {
     const bool isOffered = !getInstalledFeature("OCT") && !getInstalledFeature("SimpleCatchTrayKey");
     SetControlVisible(FindHere(panel, kDestinationLabel), isOffered);
     SetControlVisible(FindHere(panel, kDestinationPopup), isOffered);
-    PPDPopulatePopupWithChoices(Popup(panel, kDestinationPopup), panel.ppd, "OutputBin", Conflicting::Skip);
 }
 
 void FillStockMenu(_PaperOutputContext& panel)
@@ -104,6 +107,7 @@ void FillStockMenu(_PaperOutputContext& panel)
     auto* button = FindControlAs<MenuButton>(panel.pane, {kSignature, kStockMenuButton});
     panel.stockMenu.bundle = panel.bundle;
     panel.stockMenu.stock = &panel.options.stock;
+    panel.stockMenu.summary = [&panel] { return PaperSummary(*panel.bundle, panel.ppd, panel.options); };
     panel.stockMenu.summaryView = FindHere(panel, kPaperSummary);
     panel.stockMenu.iconView = FindControlAs<PictureView>(panel.pane, {kSignature, kPaperPicture});
     InitializeStockMenuButton(button, panel.stockMenu);
@@ -117,12 +121,11 @@ void FillStockMenu(_PaperOutputContext& panel)
 
 void FillMenus(_PaperOutputContext& panel)
 {
-    PopulatePopupButtonFromMap(*panel.bundle, Popup(panel, kJobTypePopup), _JobTypeMap, JobContext::Job);
+    BoundOptions(panel).fill();
     FillStockMenu(panel);
     PPDPopulatePopupWithChoices(Popup(panel, kTwoSidedPopup), panel.ppd, "Duplex", Conflicting::Keep);
-    PopulatePopupButtonFromMap(*panel.bundle, Popup(panel, kQualityPopup), _PrintQualityMap, JobContext::Job);
     FillFinishing(panel);
-    FillDestination(panel);
+    HideDestination(panel);
 }
 
 // The window's summary leaves out what a job without settings would have.
@@ -195,6 +198,16 @@ QWidget* FindHere(const _PaperOutputContext& panel, SInt32 number)
     return FindControl(panel.pane, {kSignature, number});
 }
 
+BoundControls<PaperOutputOptions> BoundOptions(const _PaperOutputContext& panel)
+{
+    return {PlaceOf(panel), kBindings};
+}
+
+BoundControls<PaperOutputOptions> BoundFinishing(const _PaperOutputContext& panel)
+{
+    return {PlaceOf(panel), kFinishingBindings};
+}
+
 void BuildView(_PaperOutputContext& panel)
 {
     const std::unique_ptr<QWidget> window = CreateWindowFromNib(*panel.bundle, "Paper_Output", "Panel");
@@ -220,9 +233,7 @@ void RestoreSummaries(_PaperOutputContext& panel)
 
 void ShowOptions(_PaperOutputContext& panel)
 {
-    SetPopupButtonToTicketValue(Popup(panel, kJobTypePopup), panel.options.jobType.number);
-    SetPopupButtonToTicketValue(Popup(panel, kQualityPopup), panel.options.printQuality);
-    SetPopupButtonToTicketValue(Popup(panel, kDestinationPopup), panel.options.outputBin);
+    BoundOptions(panel).show(panel.options, Showing::TicketRead);
     EnableDisableJobTypeSetupButton(panel);
     ShowPaper(panel);
     ShowFinishing(panel);
@@ -231,14 +242,12 @@ void ShowOptions(_PaperOutputContext& panel)
 void ShowPaper(const _PaperOutputContext& panel)
 {
     ShowStock(panel.stockMenu);
-    ShowSummary(panel, kPaperSummary, kStockMenuButton, PaperSummary(*panel.bundle, panel.ppd, panel.options));
 }
 
 void ShowFinishing(const _PaperOutputContext& panel)
 {
     ChangeFinishingMenus(panel, [&](Menu& menu) { MarkFinishingMenu(menu, panel.options); });
-    SetPopupButtonToTicketValue(Popup(panel, kStaplePopup), panel.options.staple);
-    SetPopupButtonToTicketValue(Popup(panel, kPunchPopup), panel.options.punch);
+    BoundFinishing(panel).show(panel.options, Showing::TicketRead);
     const QString summary = CreateFinishingString(*panel.bundle, panel.options, panel.accessories);
     ShowSummary(panel, kFinishingSummary, kFinishingMenuButton, summary.chopped(summary.endsWith(u'\n') ? 1 : 0));
     ShowPictures(panel);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panels/paper_output/PaperOutputPanel.h"
+#include "pde/forms/BoundControls.h"
 
 class QWidget;
 
@@ -12,6 +13,10 @@ QWidget* FindHere(const _PaperOutputContext& panel, SInt32 number);
 // Puts the panel together from the views that the accessories ask for, and fills its menus. Without the interface file
 // the panel stays empty.
 void BuildView(_PaperOutputContext& panel);
+
+// The pop-ups of PaperOutputBindings.h.
+BoundControls<PaperOutputOptions> BoundOptions(const _PaperOutputContext& panel);
+BoundControls<PaperOutputOptions> BoundFinishing(const _PaperOutputContext& panel);
 
 // The two summaries go when the panel is closed, with the room that they took kept free for the next Open.
 void DisposeSummaries(_PaperOutputContext& panel);

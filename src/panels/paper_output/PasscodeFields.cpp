@@ -1,6 +1,5 @@
 #include "panels/paper_output/PasscodeFields.h"
 
-#include "panels/paper_output/JobTypeSetups.h"
 #include "pde/forms/TextFieldUtilities.h"
 #include "pde/menus/LocalizationUtilities.h"
 #include "pde/ticket/LocalizedText.h"

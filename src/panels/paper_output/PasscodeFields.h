@@ -13,8 +13,18 @@ struct TextLengthEvent;
 
 namespace kesta::jobtypes {
 
-// The two fields for a passcode of a setup window, with their labels, numbered as JobTypeSetups.h says. The window must
-// outlive it; a window without the fields has an empty passcode.
+// The numbers of the controls in SecurePrint/SecurePrint and SavedJob/withPasscode.
+enum PasscodeControl : SInt32 {
+    kPasscodeLabel = 1,
+    kPasscodeField = 2,
+    kPasscodeLimits = 3,
+    kConfirmationLabel = 4,
+    kConfirmationField = 5,
+    kConfirmationLimits = 6,
+};
+
+// The two fields for a passcode of a setup window, with their labels. The window must outlive it; a window without the
+// fields has an empty passcode.
 class PasscodeFields {
 public:
     // Limits what may be typed to passcodes.

@@ -1,4 +1,4 @@
-#include "panels/paper_output/JobTypeSetups.h"
+#include "panels/paper_output/SavedJob.h"
 
 #include "panels/paper_output/PasscodeFields.h"
 #include "panels/paper_output/SavedJobRules.h"
@@ -22,7 +22,7 @@ namespace kesta::jobtypes {
 namespace {
 
 constexpr QLatin1StringView kSavedJobHelp("Paper_Output/Job_Type/saved_job_e.htm");
-constexpr auto kSaveRadios = std::to_array<Control>({kSaveRadio, kSavePrintRadio});
+constexpr auto kSaveRadios = std::to_array<SavedJobControl>({kSaveRadio, kSavePrintRadio});
 static_assert(kSaveRadios.size() == SavedJobSaveOptionRadioMap.size());
 
 struct SavedJobDialog {

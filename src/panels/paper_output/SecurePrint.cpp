@@ -1,4 +1,4 @@
-#include "panels/paper_output/JobTypeSetups.h"
+#include "panels/paper_output/SecurePrint.h"
 
 #include "panels/paper_output/PasscodeFields.h"
 #include "pde/forms/DialogCommands.h"

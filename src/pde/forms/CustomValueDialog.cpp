@@ -1,4 +1,4 @@
-#include "pde/forms/TextFieldUtilities.h"
+#include "pde/forms/CustomValueDialog.h"
 
 #include "pde/forms/DialogCommands.h"
 #include "toolkit/windows/InterfaceFile.h"
@@ -6,7 +6,6 @@
 namespace kesta {
 namespace {
 
-constexpr ControlID kValueField{"Util"_code, 1};
 constexpr QLatin1StringView kHelpPage("image_options/db_custom_color_d.htm");
 
 } // namespace
@@ -15,7 +14,7 @@ OSStatus RunModalCustomValueDialog(const Bundle& bundle, const TextLimits& limit
                                    ModalResult& result)
 {
     const std::unique_ptr<QWidget> window = CreateWindowFromNib(bundle, "Utilities", "CustomValue");
-    QLineEdit* field = FindTextField(window.get(), kValueField);
+    QLineEdit* field = FindTextField(window.get(), {customvalue::kSignature, customvalue::kValueField});
     if (!field)
         return kInterfaceFileUnreadable;
     LimitInputLengthAndCharacters(field, limits);

@@ -9,6 +9,9 @@ namespace kesta {
 
 struct Bundle;
 
+// Of the button that some dialogs have for going back to what they began with, which is their own affair.
+inline constexpr FourCharCode kCommandDefaults = "Dflt"_code;
+
 // What the buttons that every dialog has do: OK and Cancel end the dialog, Help opens the page of the bundle's book.
 EventResult HandleDialogCommand(const Bundle& bundle, QWidget& window, FourCharCode command, const QString& helpPage);
 

@@ -1,17 +1,10 @@
 #pragma once
 
-#include "platform/values/Types.h"
-
 #include <QString>
-
-#include <optional>
 
 class QWidget;
 
 namespace kesta {
-
-struct Bundle;
-enum class ModalResult : SInt32;
 
 // What may be typed into a field; a limit below 1 and an empty set are no limit. Lengths in UTF-16 units.
 struct TextLimits {
@@ -26,10 +19,5 @@ struct TextLimits {
 // length event (a minimum below 1 counts as 1 here); so does choosing from a combo box's list, always as long enough. A
 // second call replaces the limits of the first.
 void LimitInputLengthAndCharacters(QWidget* control, const TextLimits& limits);
-
-// Asks for one text, starting from the given one. OK leaves the typed text, cancel none; when the window can't be
-// loaded, its status is returned and neither argument changes.
-OSStatus RunModalCustomValueDialog(const Bundle& bundle, const TextLimits& limits, std::optional<QString>& text,
-                                   ModalResult& result);
 
 } // namespace kesta

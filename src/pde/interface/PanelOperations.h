@@ -2,6 +2,7 @@
 
 #include "pde/interface/PanelInterface.h"
 #include "pde/interface/PlugInBundle.h"
+#include "pde/interface/SyncDirection.h"
 #include "platform/printsystem/PrintSession.h"
 
 #include <QByteArray>
@@ -15,8 +16,6 @@
 namespace kesta {
 
 inline constexpr char kPanelKind[] = "com.kesta.print.pde.kestafeatureskind";
-
-enum class SyncDirection : bool { ControlsToTickets = false, TicketsToControls = true };
 
 struct PanelDescription {
     QString title;
@@ -36,6 +35,7 @@ template <class Context> struct PanelOperations {
     OSStatus (*Open)(Context&);
     OSStatus (*Close)(Context&) = [](Context&) -> OSStatus { return noErr; };
     void (*Terminate)(Context&, OSStatus) = [](Context&, OSStatus) {};
+    OSStatus syncWithoutContext = kSyncWithoutContext; // what Sync answers without context or session
 };
 
 // Lets no exception across a plug-in's boundary.
@@ -86,7 +86,7 @@ template <const auto& kOperations> struct PanelSlots {
     static OSStatus Sync(KestaContextRef context, PrintSession* session, bool toControls)
     {
         if (!context || !session)
-            return kSyncWithoutContext;
+            return kOperations.syncWithoutContext;
         return Guarded([&] { return kOperations.Sync(ContextOf(context), *session, SyncDirection{toControls}); });
     }
     static OSStatus GetSummaryText(KestaContextRef context, const char* const** titles, const char* const** summaries)
@@ -131,5 +131,12 @@ template <const auto& kOperations> struct PanelSlots {
     };
     static constexpr PanelInterfaceHolder kHolder{&kTable};
 };
+
+// What a panel's exported function does.
+template <const auto& kOperations> KestaStatus GivePanel(const PanelInterfaceHolder** holder)
+{
+    *holder = &PanelSlots<kOperations>::kHolder;
+    return noErr;
+}
 
 } // namespace kesta

@@ -2,6 +2,7 @@
 
 #include "platform/plugins/Bundle.h"
 #include "platform/plugins/HelpBook.h"
+#include "platform/system/SafeFile.h"
 #include "platform/values/PropertyList.h"
 
 #include <QFile>
@@ -20,8 +21,7 @@ OSStatus DisplayHelp(const Bundle& bundle, const QString& page, const QString& a
 
 const Bundle* LoadPrivateBundle(const Bundle& bundle, const QString& plugInName)
 {
-    const bool isPlainName = !plugInName.isEmpty() && !plugInName.contains(u'/');
-    if (!isPlainName || bundle.path.isEmpty())
+    if (!IsPlainFileName(plugInName) || bundle.path.isEmpty())
         return nullptr;
     const Bundle* found = LoadBundleAt(bundle.path + "/Contents/PlugIns/"_L1 + plugInName + ".plugin"_L1).bundle;
     return found && !LoadCode(*found) ? found : nullptr;

@@ -126,6 +126,8 @@ void FillPanelChoice(const PDEShellContext& shell)
             menu.items.push_back({.title = panel.title, .value = panel.index});
     }
     choice->setMenu(std::move(menu));
+    for (const SInt32 button : {kPreviousButton, kNextButton})
+        SetControlEnabled(FindControl(shell.parentPane, {kSignature, button}), choice->maximum() > 1);
 }
 
 // A button without its picture would be a riddle.

@@ -26,7 +26,7 @@ BundleOrError BundleOfPanel(const Bundle& plugIn, std::string_view functionName)
 {
     const auto own = std::ranges::find(_PanelPlugIns, functionName, &PanelPlugIn::functionName);
     if (own == _PanelPlugIns.end())
-        return {&plugIn, {}};
+        return {&plugIn};
     const QString plain = QString::fromUtf8(own->path);
     const QString belowRoot = GetLibraryRoot(plugIn) + plain;
     const bool isRootChosen = !qEnvironmentVariableIsEmpty(kLibraryRootVariable);
@@ -58,7 +58,7 @@ PanelFunctionOrProblem FindPanelFunction(const Bundle& plugIn, const std::string
     const auto [bundle, error] = BundleOfPanel(plugIn, functionName);
     const QString name = QString::fromStdString(functionName);
     if (!bundle)
-        return {nullptr, LocalizedFormat(plugIn, "Panel Not Loaded", {name, error})};
+        return {nullptr, LocalizedFormat(plugIn, "Panel Not Loaded", {name, Sentence(error, HostTexts())})};
     if (const BundleFunction function = FunctionNamed(*bundle, name))
         return {reinterpret_cast<PanelInterfaceFunction>(function), {}};
     return {nullptr, LocalizedFormat(plugIn, "Panel Not Found", {name, bundle->path})};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/plugins/Sentence.h"
 #include "platform/values/Types.h"
 
 #include <QString>
@@ -8,10 +9,6 @@
 namespace kesta {
 
 struct Bundle;
-
-// The format with its placeholders %1 to %9 replaced by the arguments, each where a translator put it and as often; one
-// without an argument stays. What an argument contains is never taken for a placeholder.
-QString FormatText(QStringView format, const QStringList& arguments);
 
 // The text of a key in the bundle's default table, "STRING NOT FOUND" when it has none, as a format.
 QString LocalizedFormat(const Bundle& bundle, QAnyStringView key, const QStringList& arguments);

@@ -13,12 +13,12 @@ std::map<QString, Bundle>& Bundles()
     return bundles;
 }
 
-std::optional<QString> TextOf(const Bundle& bundle, QAnyStringView key, QAnyStringView table)
+std::optional<QString> TextOf(const Bundle& bundle, QAnyStringView key, QAnyStringView table, int count)
 {
     const Dictionary* texts = bundle.strings.dictionary(table);
     if (const QString* text = texts ? texts->string(key) : nullptr)
         return *text;
-    return bundle.parts ? bundle.parts->catalogues.text(key, table) : std::nullopt;
+    return bundle.parts ? bundle.parts->catalogues.text(key, table, count) : std::nullopt;
 }
 
 } // namespace
@@ -57,17 +57,16 @@ BundleOrError LoadBundleAt(const QString& path)
         return {nullptr, opened.error};
     const Bundle* before = FindBundle(opened.bundle->identifier);
     if (before && before->path == opened.bundle->path)
-        return {before, QString()};
+        return {before};
     if (before && !before->path.isEmpty())
-        return {nullptr, QStringLiteral("%1: %2 is loaded already, from %3")
-                             .arg(opened.bundle->path, before->identifier, before->path)};
+        return {nullptr, Say("Bundle Loaded Twice", opened.bundle->path, before->identifier, before->path)};
     const QString identifier = opened.bundle->identifier;
-    return {&LoadBundle(identifier, *std::move(opened.bundle)), QString()};
+    return {&LoadBundle(identifier, *std::move(opened.bundle))};
 }
 
-QString LocalizedString(const Bundle& bundle, QAnyStringView key, QAnyStringView table)
+QString LocalizedString(const Bundle& bundle, QAnyStringView key, QAnyStringView table, int count)
 {
-    return TextOf(bundle, key, table).value_or(QString::fromLatin1(kStringNotFound));
+    return TextOf(bundle, key, table, count).value_or(QString::fromLatin1(kStringNotFound));
 }
 
 QString TextsLanguage(const Bundle& bundle)
@@ -75,10 +74,10 @@ QString TextsLanguage(const Bundle& bundle)
     return bundle.parts ? bundle.parts->catalogues.language() : QString();
 }
 
-std::optional<QString> LoadCode(const Bundle& bundle)
+std::optional<Message> LoadCode(const Bundle& bundle)
 {
     if (!bundle.parts)
-        return QStringLiteral("%1: a bundle in memory has no code").arg(bundle.identifier);
+        return Say("Bundle Without Code", bundle.identifier);
     return bundle.parts->code.load();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/values/Message.h"
 #include "platform/values/Value.h"
 
 #include <memory>
@@ -38,22 +39,23 @@ const Bundle& LoadBundle(QAnyStringView identifier, Bundle bundle);
 
 struct BundleOrError {
     const Bundle* bundle = nullptr;
-    QString error; // one line with the place, when there is no bundle
+    Message error = {}; // a sentence with the place, when there is no bundle
 };
 // Opens the bundle in the folder and registers it; its code is loaded by the first look-up of a function. A bundle that
 // is loaded already is answered as it is; another one under the same identifier is an error.
 BundleOrError LoadBundleAt(const QString& path);
 
 // The text of a key in the user's language, else in a wider one (de_AT, de), else in English; "STRING NOT FOUND" when
-// no catalogue has it. The languages are those of QLocale() when the bundle was loaded.
-QString LocalizedString(const Bundle& bundle, QAnyStringView key, QAnyStringView table = "Localizable");
+// no catalogue has it. The languages are those of QLocale() when the bundle was loaded. With a count, the plural form
+// for so many things, with "%n" still in it.
+QString LocalizedString(const Bundle& bundle, QAnyStringView key, QAnyStringView table = "Localizable", int count = -1);
 
 // The language that the bundle's texts are in, as its catalogue names it ("he", "de_AT"): of the first language of the
 // user that there is a catalogue for. Empty for a bundle in memory or without catalogues.
 QString TextsLanguage(const Bundle& bundle);
 
-// Loads the bundle's code, once; nothing on success, otherwise one line that says why not.
-std::optional<QString> LoadCode(const Bundle& bundle);
+// Loads the bundle's code, once; nothing on success, otherwise a sentence that says why not.
+std::optional<Message> LoadCode(const Bundle& bundle);
 
 // Null when the bundle does not export a function of that name or its code can't be loaded. The caller knows its type.
 BundleFunction FunctionNamed(const Bundle& bundle, QAnyStringView name);

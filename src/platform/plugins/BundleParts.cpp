@@ -20,25 +20,20 @@ constexpr PropertyListLimits kInfoLimits{.bytes = 1024 * 1024, .values = 10'000,
 
 struct InfoOrError {
     Dictionary info;
-    QString error;
+    Message error = {};
 };
 
 InfoOrError ReadInfo(const QString& file)
 {
     const FileContent content = ReadFile(file, kInfoLimits.bytes);
     if (!content.bytes)
-        return {{}, content.error.text};
+        return {{}, Say("Bundle Damaged", content.error.text)};
     PropertyListResult list = ParsePropertyList(*content.bytes, kInfoLimits);
     if (!list.value)
-        return {{}, file + QStringLiteral(": ") + list.error};
+        return {{}, Say("Bundle Damaged", file + QStringLiteral(": ") + list.error)};
     if (!list.value->dictionary())
-        return {{}, file + QStringLiteral(": the list is not a dictionary")};
-    return {std::move(*list.value->dictionary()), QString()};
-}
-
-bool IsPlainName(const QString& name)
-{
-    return !name.isEmpty() && !name.startsWith(u'.') && !name.contains(u'/') && !name.contains(QChar());
+        return {{}, Say("Bundle List Not A Dictionary", file)};
+    return {std::move(*list.value->dictionary())};
 }
 
 QStringList VariantsOf(const QString& language, const QStringList& names)
@@ -89,12 +84,12 @@ Catalogues::Catalogues(const QString& folder, const QString& name)
     }
 }
 
-std::optional<QString> Catalogues::text(QAnyStringView key, QAnyStringView table) const
+std::optional<QString> Catalogues::text(QAnyStringView key, QAnyStringView table, int count) const
 {
     const QByteArray source = key.toString().toUtf8();
     const QByteArray context = table.toString().toUtf8();
     for (const auto& translator : translators_) {
-        const QString text = translator->translate(context.constData(), source.constData());
+        const QString text = translator->translate(context.constData(), source.constData(), nullptr, count);
         if (!text.isNull())
             return text;
     }
@@ -106,7 +101,7 @@ QString Catalogues::language() const
     return translators_.empty() ? QString() : translators_.front()->language();
 }
 
-std::optional<QString> BundleCode::load()
+std::optional<Message> BundleCode::load()
 {
     if (handle_ || error_)
         return error_;
@@ -115,7 +110,7 @@ std::optional<QString> BundleCode::load()
         return error_;
     handle_ = dlopen(QFile::encodeName(path_).constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     if (!handle_)
-        error_ = QString::fromLocal8Bit(dlerror()).simplified();
+        error_ = Say("Bundle Code Unusable", QString::fromLocal8Bit(dlerror()).simplified());
     return error_;
 }
 
@@ -128,18 +123,18 @@ OpenedBundle OpenBundle(const QString& path)
 {
     const QString folder = QFileInfo(path).canonicalFilePath();
     if (folder.isEmpty() || !QFileInfo(folder).isDir())
-        return {std::nullopt, QStringLiteral("%1: no such bundle").arg(path)};
+        return {std::nullopt, Say("Bundle Missing", path)};
     const QString contents = folder + QStringLiteral("/Contents/");
     auto [info, error] = ReadInfo(contents + QStringLiteral("Info.plist"));
     if (!error.isEmpty())
         return {std::nullopt, error};
     const QString* identifier = info.string("CFBundleIdentifier");
     if (!identifier || identifier->isEmpty())
-        return {std::nullopt, contents + QStringLiteral("Info.plist: no CFBundleIdentifier")};
+        return {std::nullopt, Say("Bundle Without Identifier", contents + QStringLiteral("Info.plist"))};
     const QString name = QFileInfo(folder).completeBaseName();
     const QString* executable = info.string("CFBundleExecutable");
-    if (executable && !IsPlainName(*executable))
-        return {std::nullopt, contents + QStringLiteral("Info.plist: CFBundleExecutable is not a plain name")};
+    if (executable && !IsPlainFileName(*executable))
+        return {std::nullopt, Say("Bundle Executable Not Plain", contents + QStringLiteral("Info.plist"))};
 
     Bundle bundle{.resourcesPath = contents + QStringLiteral("Resources"), .path = folder, .identifier = *identifier};
     const QString code =

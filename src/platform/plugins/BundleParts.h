@@ -15,7 +15,7 @@ public:
     // Those of the folder's files NAME_LOCALE.qm that the user's languages name; unreadable ones count as absent.
     Catalogues(const QString& folder, const QString& name);
 
-    std::optional<QString> text(QAnyStringView key, QAnyStringView table) const;
+    std::optional<QString> text(QAnyStringView key, QAnyStringView table, int count) const;
     QString language() const; // of the preferred catalogue; empty without one
 
 private:
@@ -27,14 +27,14 @@ class BundleCode {
 public:
     explicit BundleCode(QString path) : path_(std::move(path)) {}
 
-    // Loads it on the first call; nothing on success, otherwise one line, the same on every call.
-    std::optional<QString> load();
+    // Loads it on the first call; nothing on success, otherwise a sentence, the same on every call.
+    std::optional<Message> load();
     BundleFunction function(const QString& name) const; // null when there is none, or before loading
 
 private:
     QString path_;
     void* handle_ = nullptr;
-    std::optional<QString> error_;
+    std::optional<Message> error_;
 };
 
 class BundleParts {
@@ -46,7 +46,7 @@ public:
 // What LoadBundleAt reads, before it is registered.
 struct OpenedBundle {
     std::optional<Bundle> bundle;
-    QString error;
+    Message error = {};
 };
 OpenedBundle OpenBundle(const QString& path);
 

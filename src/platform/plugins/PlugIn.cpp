@@ -27,25 +27,26 @@ Registry& TheRegistry()
     return registry;
 }
 
-std::optional<QString> ProblemOf(const Bundle& bundle, const QString& what)
+// The bundle as its user finds it.
+QString PlaceOf(const Bundle& bundle)
 {
-    return QStringLiteral("%1: %2").arg(bundle.path.isEmpty() ? bundle.identifier : bundle.path, what);
+    return bundle.path.isEmpty() ? bundle.identifier : bundle.path;
 }
 
 // Registers one of the factories that Info.plist gives for a type.
-std::optional<QString> RegisterDeclared(const Bundle& bundle, const UUID& type, const Value& entry)
+std::optional<Message> RegisterDeclared(const Bundle& bundle, const UUID& type, const Value& entry)
 {
     const QString text = entry.string() ? *entry.string() : QString();
     const std::optional<UUID> factory = UUIDFromString(text);
     if (!factory)
-        return ProblemOf(bundle, QStringLiteral("CFPlugInTypes holds a factory that is no UUID"));
+        return Say("Plug-in Factory Not A UUID", PlaceOf(bundle));
     const Dictionary* names = bundle.info.dictionary("CFPlugInFactories");
     const QString* name = names ? names->string(text) : nullptr;
     if (!name)
-        return ProblemOf(bundle, QStringLiteral("CFPlugInFactories does not name the function of %1").arg(text));
+        return Say("Plug-in Factory Not Named", PlaceOf(bundle), text);
     const BundleFunction function = FunctionNamed(bundle, *name);
     if (!function)
-        return ProblemOf(bundle, QStringLiteral("no function %1").arg(*name));
+        return Say("Plug-in Function Missing", PlaceOf(bundle), *name);
     RegisterFactory(*factory, type, function);
     return std::nullopt;
 }
@@ -77,19 +78,19 @@ void RegisterFactory(const UUID& factory, const UUID& type, PlugInFactory functi
         makers.push_back(factory);
 }
 
-std::optional<QString> RegisterFactories(const Bundle& bundle)
+std::optional<Message> RegisterFactories(const Bundle& bundle)
 {
     const Dictionary* types = bundle.info.dictionary("CFPlugInTypes");
     if (!types)
-        return ProblemOf(bundle, QStringLiteral("Info.plist has no CFPlugInTypes"));
-    if (std::optional<QString> problem = bundle.parts ? LoadCode(bundle) : std::nullopt)
+        return Say("Plug-in Without Types", PlaceOf(bundle));
+    if (std::optional<Message> problem = bundle.parts ? LoadCode(bundle) : std::nullopt)
         return problem;
     for (const auto& [text, factories] : *types) {
         const std::optional<UUID> type = UUIDFromString(text);
         if (!type || !factories.array())
-            return ProblemOf(bundle, QStringLiteral("CFPlugInTypes holds what is no type with its factories"));
+            return Say("Plug-in Type Unusable", PlaceOf(bundle));
         for (const Value& factory : *factories.array()) {
-            if (std::optional<QString> problem = RegisterDeclared(bundle, *type, factory))
+            if (std::optional<Message> problem = RegisterDeclared(bundle, *type, factory))
                 return problem;
         }
     }

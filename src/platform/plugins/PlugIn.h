@@ -2,6 +2,8 @@
 
 #include "platform/values/Types.h"
 
+#include "platform/values/Message.h"
+
 #include <QAnyStringView>
 #include <QString>
 
@@ -30,8 +32,8 @@ using PlugInFactory = void (*)();
 void RegisterFactory(const UUID& factory, const UUID& type, PlugInFactory function);
 
 // Registers what the bundle's Info.plist declares: "CFPlugInFactories" (factory to function name) and "CFPlugInTypes"
-// (type to an array of factories). Loads the code. Nothing on success, otherwise one line.
-std::optional<QString> RegisterFactories(const Bundle& bundle);
+// (type to an array of factories). Loads the code. Nothing on success, otherwise a sentence.
+std::optional<Message> RegisterFactories(const Bundle& bundle);
 
 // The factory first registered for the type; null when there is none.
 PlugInFactory FindFactory(const UUID& type);

@@ -27,7 +27,7 @@ bool EndsInside(const QFile& file, const ProgramHeader& part)
 
 } // namespace
 
-std::optional<QString> SharedObjectProblem(const QString& path)
+std::optional<Message> SharedObjectProblem(const QString& path)
 {
     QFile file(path);
     FileHeader header;
@@ -38,7 +38,7 @@ std::optional<QString> SharedObjectProblem(const QString& path)
         ProgramHeader part;
         const quint64 place = header.e_phoff + sizeof(ProgramHeader) * static_cast<quint64>(number);
         if (!ReadHeader(file, place, part) || (part.p_type == PT_LOAD && !EndsInside(file, part)))
-            return QStringLiteral("%1: the file is cut off").arg(path);
+            return Say("Bundle Code Cut Off", path);
     }
     return std::nullopt;
 }

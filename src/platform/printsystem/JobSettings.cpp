@@ -48,34 +48,38 @@ Dictionary Without(std::span<const NestedEntry> leftOut, Dictionary entries)
     return entries;
 }
 
-using Problem = std::optional<QString>; // one line; nothing when all is well
+using Problem = std::optional<Message>; // nothing when all is well
 
-Problem NotOurs(const QString& what)
+Problem NotOurs(const Message& what)
 {
-    return QStringLiteral("not a job settings file: %1").arg(what).simplified();
+    return Say("Settings Of Another Kind", what);
 }
 
-QString Quoted(const QString& name)
+// A name of the file's, as far as it fits into a sentence.
+QString Shown(const QString& name)
 {
-    return u'"' + name.left(80) + u'"';
+    return name.left(80).simplified();
 }
 
+// Entries of other names are a later version's additions, and none of our business.
 Problem CheckRoot(const Dictionary& root)
 {
+    bool isOurs = false;
     for (const auto& [name, value] : root) {
         if (name != kPPD && name != kClients && !IsTicketName(name))
-            return NotOurs(QStringLiteral("it has an entry %1").arg(Quoted(name)));
+            continue;
         if (!value.dictionary())
-            return NotOurs(QStringLiteral("%1 is not a dictionary").arg(name));
+            return NotOurs(Say("Settings Not A Dictionary", name));
+        isOurs = true;
     }
-    return std::nullopt;
+    return isOurs ? std::nullopt : NotOurs(Say("Settings Without Parts"));
 }
 
 Problem CheckStrings(const Dictionary& dictionary, const QString& name)
 {
     for (const auto& [key, value] : dictionary) {
         if (!value.string())
-            return NotOurs(QStringLiteral("%1 in %2 is not a string").arg(Quoted(key), name));
+            return NotOurs(Say("Settings Not A String", Shown(key), Shown(name)));
     }
     return std::nullopt;
 }
@@ -90,12 +94,12 @@ Problem CheckClients(const Dictionary& root)
         const Dictionary* clients = value.dictionary();
         const Dictionary* entries = IsTicketName(name) ? root.dictionary(name) : nullptr;
         if (!clients || (!entries && clients->count() > 0))
-            return NotOurs(QStringLiteral("%1 in Clients has no ticket or is not a dictionary").arg(Quoted(name)));
-        if (Problem problem = CheckStrings(*clients, name + QStringLiteral(" of Clients")))
+            return NotOurs(Say("Settings Clients Without Ticket", Shown(name)));
+        if (Problem problem = CheckStrings(*clients, name))
             return problem;
         for (const auto& [key, client] : *clients) {
             if (!entries->find(key))
-                return NotOurs(QStringLiteral("Clients names %1, which %2 does not have").arg(Quoted(key), name));
+                return NotOurs(Say("Settings Clients Without Entry", Shown(key), name));
         }
     }
     return std::nullopt;
@@ -144,14 +148,14 @@ QByteArray WriteJobSettings(const JobTickets& tickets, std::span<const NestedEnt
     return WritePropertyList(root);
 }
 
-std::optional<QString> ReadJobSettings(const QByteArray& bytes, JobTickets& tickets)
+std::optional<Message> ReadJobSettings(const QByteArray& bytes, JobTickets& tickets)
 {
     const PropertyListResult list = ParsePropertyList(bytes, kLimits);
     if (!list.value)
-        return list.error;
+        return Verbatim(list.error);
     const Dictionary* root = list.value->dictionary();
     if (!root)
-        return NotOurs(QStringLiteral("its root is not a dictionary"));
+        return NotOurs(Say("Settings Root Not A Dictionary"));
     if (Problem problem = Check(*root))
         return problem;
 

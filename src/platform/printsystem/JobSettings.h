@@ -3,6 +3,7 @@
 #include "platform/printsystem/PrintSession.h"
 #include "platform/printsystem/PrintSystemKeys.h"
 #include "platform/printsystem/Ticket.h"
+#include "platform/values/Message.h"
 
 #include <span>
 
@@ -23,8 +24,8 @@ QByteArray WriteJobSettings(const JobTickets& tickets, std::span<const NestedEnt
 
 inline constexpr qsizetype kLargestJobSettings = 16 * 1024 * 1024; // bytes of a file
 
-// Replaces everything in the tickets; nothing on success. Otherwise one line that says what is wrong and where, and the
-// tickets are as they were.
-std::optional<QString> ReadJobSettings(const QByteArray& bytes, JobTickets& tickets);
+// Replaces everything in the tickets; nothing on success. Otherwise what is wrong and where, and the tickets are as
+// they were. Entries of the root that this version does not know are left alone.
+std::optional<Message> ReadJobSettings(const QByteArray& bytes, JobTickets& tickets);
 
 } // namespace kesta

@@ -6,6 +6,8 @@
 
 #include <zlib.h>
 
+#include <algorithm>
+#include <array>
 #include <map>
 #include <memory>
 #include <string_view>
@@ -48,62 +50,98 @@ std::string_view MainKeyword(std::string_view line)
     return keyword == "UIConstraints" || keyword == "NonUIConstraints" ? std::string_view() : keyword;
 }
 
-std::optional<QString> LineProblem(std::string_view content)
-{
-    std::map<std::string_view, int> count;
-    int lines = 0;
-    while (!content.empty()) {
-        const std::size_t end = content.find_first_of("\r\n");
-        const std::string_view keyword = MainKeyword(content.substr(0, end));
-        content.remove_prefix(end == std::string_view::npos ? content.size() : end + 1);
-        if (++lines > kMaximumLines)
-            return QStringLiteral("it has more than %1 lines").arg(kMaximumLines);
-        if (!keyword.empty() && ++count[keyword] > kMaximumOfOneKeyword)
-            return QStringLiteral("it has more than %1 lines of *%2")
-                .arg(kMaximumOfOneKeyword)
-                .arg(QString::fromLatin1(keyword.data(), qMin<qsizetype>(keyword.size(), 40)));
+// Takes the lines off a text one by one; they may end in either way.
+class Lines {
+public:
+    explicit Lines(std::string_view text) : text_(text), newline_(text.find('\n')), carriageReturn_(text.find('\r')) {}
+
+    bool atEnd() const { return start_ >= text_.size(); }
+    std::string_view next()
+    {
+        const std::size_t end = std::min({newline_, carriageReturn_, text_.size()});
+        const std::string_view line = text_.substr(start_, end - start_);
+        start_ = end + 1;
+        if (newline_ < start_)
+            newline_ = text_.find('\n', start_);
+        if (carriageReturn_ < start_)
+            carriageReturn_ = text_.find('\r', start_);
+        return line;
     }
-    return std::nullopt;
-}
+
+private:
+    std::string_view text_;
+    std::size_t start_ = 0;
+    std::size_t newline_, carriageReturn_; // the next ones, each looked for once: few files have both
+};
 
 // Whether the last of the things that are opened is not closed: the file was not written or fetched whole.
-bool BreaksOff(const QByteArray& content)
-{
-    const auto isOpen = [&content](const char* opening, const char* closing) {
-        return content.lastIndexOf(opening) > content.lastIndexOf(closing);
+class OpenThings {
+public:
+    void see(std::string_view keyword)
+    {
+        for (std::size_t i = 0; i < kPairs.size(); ++i) {
+            if (keyword == kPairs[i].opening || keyword == kPairs[i].closing)
+                isOpen_[i] = keyword == kPairs[i].opening;
+        }
+    }
+    bool any() const { return std::ranges::find(isOpen_, true) != isOpen_.end(); }
+
+private:
+    struct Pair {
+        std::string_view opening, closing;
     };
-    return isOpen("\n*OpenUI", "\n*CloseUI") || isOpen("\n*JCLOpenUI", "\n*JCLCloseUI") ||
-           isOpen("\n*OpenGroup", "\n*CloseGroup");
+    static constexpr std::array<Pair, 3> kPairs{
+        {{"OpenUI", "CloseUI"}, {"JCLOpenUI", "JCLCloseUI"}, {"OpenGroup", "CloseGroup"}}};
+    std::array<bool, kPairs.size()> isOpen_{};
+};
+
+std::optional<Message> LineProblem(std::string_view content)
+{
+    std::map<std::string_view, int> count; // no hashes: whoever wrote the file might have chosen keywords of one hash
+    OpenThings things;
+    int number = 0;
+    for (Lines lines(content); !lines.atEnd();) {
+        const std::string_view line = lines.next();
+        const std::string_view keyword = MainKeyword(line);
+        if (++number > kMaximumLines)
+            return Say("PPD Many Lines", kMaximumLines);
+        if (keyword.empty())
+            continue;
+        if (++count[keyword] > kMaximumOfOneKeyword)
+            return Say("PPD Many Lines Of", kMaximumOfOneKeyword,
+                       QString::fromLatin1(keyword.data(), qMin<qsizetype>(keyword.size(), 40)));
+        // The library passes over it in silence, and what the key is to keep secret would travel openly.
+        if (keyword == "KSTicketKey" && line.find(':') == line.npos)
+            return Say("PPD Key Without Value");
+        things.see(keyword);
+    }
+    return things.any() ? std::optional(Say("PPD Breaks Off")) : std::nullopt;
 }
 
-std::optional<QString> ContentProblem(const QByteArray& content)
+std::optional<Message> ContentProblem(const QByteArray& content)
 {
     if (content.size() > kMaximumSize)
-        return QStringLiteral("it is larger than %1 MB").arg(kMaximumMegabytes);
+        return Say("PPD Large", kMaximumMegabytes);
     if (!content.startsWith("*PPD-Adobe:"))
-        return QStringLiteral("it does not begin as a PPD file does");
+        return Say("PPD Of Another Kind");
     if (content.contains('\0'))
-        return QStringLiteral("it holds bytes that are not text");
-    if (std::optional<QString> problem = LineProblem({content.constData(), static_cast<std::size_t>(content.size())}))
-        return problem;
-    return BreaksOff(content) ? std::optional(QStringLiteral("it breaks off in the middle")) : std::nullopt;
+        return Say("PPD Not Text");
+    return LineProblem({content.constData(), static_cast<std::size_t>(content.size())});
 }
 
 } // namespace
 
-std::optional<QString> PPDFileProblem(const QString& path)
+std::optional<Message> PPDFileProblem(const QString& path)
 {
-    const auto sentence = [&](const QString& reason) {
-        return QStringLiteral("The printer description %1 can't be used: %2.").arg(path, reason);
-    };
+    const auto sentence = [&](const Message& reason) { return Say("PPD Unusable", path, reason); };
     if (!QFileInfo::exists(path))
-        return sentence(QStringLiteral("there is no such file"));
+        return sentence(Say("No Such File"));
     if (!QFileInfo(path).isFile()) // reading a pipe or a device might never end
-        return sentence(QStringLiteral("it is not a file"));
+        return sentence(Say("Not A File"));
     const std::optional<QByteArray> content = ReadUnpacked(path);
     if (!content)
-        return sentence(QStringLiteral("it can't be read"));
-    const std::optional<QString> problem = ContentProblem(*content);
+        return sentence(Say("File Unreadable"));
+    const std::optional<Message> problem = ContentProblem(*content);
     return problem ? std::optional(sentence(*problem)) : std::nullopt;
 }
 

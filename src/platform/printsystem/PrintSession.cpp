@@ -32,4 +32,9 @@ QString PMPrinterGetDeviceURI(const PMPrinter& printer)
     return printer.deviceURI;
 }
 
+bool PMSessionCanCarry(const PrintSession& session, const Dictionary& printSettings)
+{
+    return !session.canCarry || session.canCarry(printSettings);
+}
+
 } // namespace kesta

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "platform/values/Types.h"
+#include "platform/values/Value.h"
 
 #include <QAnyStringView>
 #include <QString>
 
+#include <functional>
 #include <map>
 #include <optional>
 
@@ -27,6 +28,7 @@ struct PMPrinter {
 struct PrintSession {
     std::map<QString, std::uint32_t> data = {};
     std::optional<PMPrinter> printer = {};
+    std::function<bool(const Dictionary& printSettings)> canCarry = {}; // null: whatever there is
 };
 
 void PMSessionSetDataInSession(PrintSession& session, QAnyStringView name, std::uint32_t value);
@@ -34,6 +36,9 @@ std::optional<std::uint32_t> PMSessionGetDataFromSession(const PrintSession& ses
 
 // Null while no printer is chosen; else good until the session changes printers.
 const PMPrinter* PMSessionGetCurrentPrinter(const PrintSession& session);
+
+// Whether a job with these print settings can be sent; asked before something large is added to them.
+bool PMSessionCanCarry(const PrintSession& session, const Dictionary& printSettings);
 
 inline constexpr char kPMPPDDescriptionType[] = "PMPPDDescriptionType";
 

@@ -1,6 +1,5 @@
 #include "platform/system/LinuxConfiguration.h"
 
-#include "platform/system/RoutingTable.h"
 #include "platform/system/SafeFile.h"
 
 #include <algorithm>
@@ -8,14 +7,15 @@
 #include <array>
 #include <ifaddrs.h>
 #include <memory>
-#include <net/if.h>
 #include <pwd.h>
+#include <sys/socket.h>
+#include <systemd/sd-login.h>
 #include <unistd.h>
+#include <vector>
 
 namespace kesta {
 namespace {
 
-constexpr char kSeat[] = "/run/systemd/seats/seat0";
 constexpr char kMachineInfo[] = "/etc/machine-info";
 constexpr qsizetype kLargestFile = 64 * 1024; // bytes
 
@@ -45,6 +45,51 @@ QString Unquoted(QStringView text)
     return plain;
 }
 
+QString TextOf(in_addr address)
+{
+    std::array<char, INET_ADDRSTRLEN> text{};
+    inet_ntop(AF_INET, &address, text.data(), text.size());
+    return QString::fromLatin1(text.data());
+}
+
+// This machine's address on the way to every address that no route names; nothing without such a way. A datagram
+// socket's connection sends nothing. The other end is of a network that is reserved for documentation.
+std::optional<QString> AddressOfDefaultRoute()
+{
+    sockaddr_in other{}, own{};
+    other.sin_family = AF_INET;
+    other.sin_port = htons(9);
+    inet_pton(AF_INET, "203.0.113.1", &other.sin_addr);
+    socklen_t size = sizeof own;
+    const int number = socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    const bool isConnected = connect(number, reinterpret_cast<const sockaddr*>(&other), sizeof other) == 0 &&
+                             getsockname(number, reinterpret_cast<sockaddr*>(&own), &size) == 0;
+    if (number >= 0)
+        close(number);
+    return isConnected ? std::optional(TextOf(own.sin_addr)) : std::nullopt;
+}
+
+struct InterfaceAddress {
+    QString interface;
+    QString address;
+};
+
+std::vector<InterfaceAddress> InterfaceAddresses()
+{
+    ifaddrs* list = nullptr;
+    if (getifaddrs(&list) != 0)
+        return {};
+    const std::unique_ptr<ifaddrs, decltype(&freeifaddrs)> all(list, freeifaddrs);
+    std::vector<InterfaceAddress> addresses;
+    for (const ifaddrs* entry = list; entry; entry = entry->ifa_next) {
+        if (!entry->ifa_addr || entry->ifa_addr->sa_family != AF_INET)
+            continue;
+        const auto* address = reinterpret_cast<const sockaddr_in*>(entry->ifa_addr);
+        addresses.push_back({QString::fromLocal8Bit(entry->ifa_name), TextOf(address->sin_addr)});
+    }
+    return addresses;
+}
+
 } // namespace
 
 std::optional<QString> LinuxConfiguration::setting(const char* file, QLatin1String name) const
@@ -59,11 +104,16 @@ std::optional<QString> LinuxConfiguration::setting(const char* file, QLatin1Stri
     return std::nullopt;
 }
 
+std::optional<uid_t> UserOfTheFirstSeat()
+{
+    uid_t user = 0;
+    return sd_seat_get_active("seat0", nullptr, &user) >= 0 ? std::optional(user) : std::nullopt;
+}
+
 std::optional<QString> LinuxConfiguration::consoleUser() const
 {
-    bool isNumber = false;
-    const uid_t active = setting(kSeat, QLatin1String("ACTIVE_UID")).value_or(QString()).toUInt(&isNumber);
-    const std::optional<QString> name = isNumber ? LoginName(active) : std::nullopt;
+    const std::optional<uid_t> active = activeUser_();
+    const std::optional<QString> name = active ? LoginName(*active) : std::nullopt;
     return name ? name : LoginName(getuid());
 }
 
@@ -80,29 +130,18 @@ std::optional<QString> LinuxConfiguration::computerName() const
 
 std::optional<QString> LinuxConfiguration::primaryInterface() const
 {
-    const std::vector<DefaultRoute> routes = DefaultRoutes();
-    const auto best = std::ranges::min_element(routes, {}, &DefaultRoute::metric);
-    std::array<char, IF_NAMESIZE> name{};
-    if (best == routes.end() || !if_indextoname(static_cast<unsigned>(best->interfaceIndex), name.data()))
-        return std::nullopt;
-    return QString::fromLocal8Bit(name.data());
+    const std::optional<QString> address = AddressOfDefaultRoute();
+    const std::vector<InterfaceAddress> all = InterfaceAddresses();
+    const auto found = std::ranges::find_if(all, [&](const InterfaceAddress& each) { return address == each.address; });
+    return found == all.end() ? std::nullopt : std::optional(found->interface);
 }
 
 QStringList LinuxConfiguration::ipv4Addresses(const QString& interface) const
 {
-    ifaddrs* list = nullptr;
-    if (getifaddrs(&list) != 0)
-        return {};
-    const std::unique_ptr<ifaddrs, decltype(&freeifaddrs)> all(list, freeifaddrs);
     QStringList addresses;
-    for (const ifaddrs* entry = list; entry; entry = entry->ifa_next) {
-        if (!entry->ifa_addr || entry->ifa_addr->sa_family != AF_INET ||
-            QString::fromLocal8Bit(entry->ifa_name) != interface)
-            continue;
-        std::array<char, INET_ADDRSTRLEN> text{};
-        const auto* address = reinterpret_cast<const sockaddr_in*>(entry->ifa_addr);
-        inet_ntop(AF_INET, &address->sin_addr, text.data(), text.size());
-        addresses.append(QString::fromLatin1(text.data()));
+    for (const InterfaceAddress& each : InterfaceAddresses()) {
+        if (each.interface == interface)
+            addresses.append(each.address);
     }
     return addresses;
 }

@@ -2,13 +2,24 @@
 
 #include "platform/system/SystemConfiguration.h"
 
+#include <sys/types.h>
+
 namespace kesta {
 
-// What this machine says: logind's files, /etc/machine-info, the kernel's routes and interfaces.
+// Who sits at the machine's first seat, as the login service knows it; nothing without that service, or when nobody
+// does.
+std::optional<uid_t> UserOfTheFirstSeat();
+
+// What this machine says: the login service, /etc/machine-info, the kernel's routes and interfaces.
 class LinuxConfiguration : public SystemConfiguration {
 public:
-    // The files are looked for below the root, "" for the machine's own.
-    explicit LinuxConfiguration(QString root = {}) : root_(std::move(root)) {}
+    using ActiveUser = std::optional<uid_t> (*)();
+
+    // Files are looked for below the root, "" for the machine's own.
+    explicit LinuxConfiguration(QString root = {}, ActiveUser activeUser = UserOfTheFirstSeat)
+        : root_(std::move(root)), activeUser_(activeUser)
+    {
+    }
 
     std::optional<QString> consoleUser() const override;
     std::optional<QString> computerName() const override;
@@ -21,6 +32,7 @@ private:
     std::optional<QString> setting(const char* file, QLatin1String name) const;
 
     QString root_;
+    ActiveUser activeUser_;
 };
 
 } // namespace kesta

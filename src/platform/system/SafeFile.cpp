@@ -1,5 +1,7 @@
 #include "platform/system/SafeFile.h"
 
+#include "platform/system/Descriptor.h"
+
 #include "platform/system/Clock.h"
 
 #include <QFile>
@@ -25,33 +27,6 @@ constexpr int kMostLinks = 40;
 constexpr SInt64 kBetweenReadings = 50; // milliseconds
 constexpr int kReadingsAtRest = 4;
 constexpr int kMostReadings = 40; // two seconds
-
-// A file descriptor that closes itself.
-class Descriptor {
-public:
-    Descriptor() = default;
-    ~Descriptor() { close(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    // Whether it is open now; else errno says why not.
-    bool open(const QString& path, int flags, mode_t mode = 0)
-    {
-        close();
-        number_ = ::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, mode);
-        return number_ >= 0;
-    }
-    operator int() const { return number_; }
-    // 0 or errno; some file systems tell only now that a write failed.
-    int close()
-    {
-        const int number = std::exchange(number_, -1);
-        return number < 0 || ::close(number) == 0 ? 0 : errno;
-    }
-
-private:
-    int number_ = -1;
-};
 
 // Of a new file, less the umask.
 mode_t ModeOf(FileAccess access)
@@ -324,6 +299,11 @@ FileContent ReadFile(const QString& path, qsizetype limit)
     if (code != 0)
         return {std::nullopt, ErrorOf(path, code)};
     return {std::move(bytes)};
+}
+
+bool IsPlainFileName(const QString& name)
+{
+    return !name.isEmpty() && !name.startsWith(u'.') && !name.contains(u'/') && !name.contains(QChar());
 }
 
 std::optional<QString> KeepAsDamaged(const QString& path)

@@ -46,6 +46,9 @@ FileContent ReadFile(const QString& path, qsizetype limit);
 using Understands = std::function<bool(const QByteArray& bytes)>;
 FileContent ReadFileAtRest(const QString& path, qsizetype limit, const Understands& understands);
 
+// Whether a name from outside is one of a file in the folder that it is looked for in: no path, not hidden, not empty.
+bool IsPlainFileName(const QString& name);
+
 // Moves a file that could not be understood to its name with ".damaged" after it; an older one there goes.
 // The new name, nothing when it could not be moved.
 std::optional<QString> KeepAsDamaged(const QString& path);

@@ -56,11 +56,6 @@ bool CanKeepShared(const QString& folder, const QString& path)
     return IsAllowed(folder, R_OK | W_OK | X_OK) && (!file || (S_ISREG(*file) && IsAllowed(path, R_OK | W_OK)));
 }
 
-bool IsFileName(const QString& name)
-{
-    return !name.isEmpty() && !name.startsWith(u'.') && !name.contains(u'/') && !name.contains(QChar());
-}
-
 std::optional<Dictionary> ParseRoot(const QByteArray& bytes, QString& problem)
 {
     PropertyListResult list = ParsePropertyList(bytes);
@@ -123,7 +118,7 @@ int WriteRoot(const QString& path, const QByteArray& before, const Dictionary& r
 std::optional<QString> CopyPreferenceFileURL(QAnyStringView file)
 {
     const QString name = file.toString();
-    if (!IsFileName(name))
+    if (!IsPlainFileName(name))
         return std::nullopt;
     const QString shared = MachineDirectory() + QLatin1String(kFolder);
     const QString sharedPath = shared + u'/' + name;

@@ -17,7 +17,7 @@ QString PreferenceFile(QAnyStringView file)
 {
     const QString name = file.toString();
     const QString folder = ConfigDirectory();
-    if (folder.isEmpty() || name.isEmpty() || name.startsWith(u'.') || name.contains(u'/') || name.contains(QChar()))
+    if (folder.isEmpty() || !IsPlainFileName(name))
         return {};
     return folder + u'/' + name;
 }

@@ -5,12 +5,58 @@
 
 #include <QCompleter>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPointer>
+#include <QStyleOptionMenuItem>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
 #include <algorithm>
 
 namespace kesta {
+namespace {
+
+// The open list looks like the menus of pop-ups.
+class MenuRows : public QStyledItemDelegate {
+public:
+    explicit MenuRows(HistoryComboBox* combo) : QStyledItemDelegate(combo), combo_(*combo) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QStyleOptionMenuItem row = rowFor(option, index);
+        painter->fillRect(option.rect, option.palette.base());
+        combo_.style()->drawControl(QStyle::CE_MenuItem, &row, painter, &combo_);
+    }
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QStyleOptionMenuItem row = rowFor(option, index);
+        return combo_.style()->sizeFromContents(QStyle::CT_MenuItem, &row, row.fontMetrics.size(0, row.text), &combo_);
+    }
+
+private:
+    QStyleOptionMenuItem rowFor(const QStyleOptionViewItem& option, const QModelIndex& index) const
+    {
+        QStyleOptionMenuItem row;
+        row.initFrom(&combo_);
+        row.rect = option.rect;
+        row.font = combo_.font();
+        row.fontMetrics = combo_.fontMetrics();
+        row.text = index.data().toString().replace(u'&', QLatin1String("&&"));
+        row.state = QStyle::State_Enabled;
+        row.state.setFlag(QStyle::State_Selected, option.state & QStyle::State_Selected);
+        row.menuHasCheckableItems = true;
+        row.checkType = QStyleOptionMenuItem::NonExclusive;
+        row.checked = index.row() == combo_.currentIndex();
+        row.menuItemType = index.data(Qt::AccessibleDescriptionRole).toString() == QLatin1String("separator")
+                               ? QStyleOptionMenuItem::Separator
+                               : QStyleOptionMenuItem::Normal;
+        return row;
+    }
+
+    const HistoryComboBox& combo_;
+};
+
+} // namespace
 
 HistoryComboBox::HistoryComboBox(QWidget* parent) : QComboBox(parent)
 {
@@ -20,6 +66,7 @@ HistoryComboBox::HistoryComboBox(QWidget* parent) : QComboBox(parent)
     setMinimumContentsLength(12);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setCompleter(nullptr); // a completed text would enter unasked
+    setItemDelegate(new MenuRows(this));
     SendTextEvents(*this);
     // A combo box takes a typed text that reads like an item for the item: here it stays a text.
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
@@ -58,14 +105,14 @@ void HistoryComboBox::refill()
 
 std::optional<SInt32> HistoryComboBox::fixedValue() const
 {
-    if (chosenFixed_ < 0)
-        return std::nullopt;
+    if (chosenFixed_ < 0 || currentText() != fixed_[static_cast<std::size_t>(chosenFixed_)].title)
+        return std::nullopt; // an assistive program sets the text without typing it
     return fixed_[static_cast<std::size_t>(chosenFixed_)].value;
 }
 
 QString HistoryComboBox::typedText() const
 {
-    return chosenFixed_ < 0 ? currentText() : QString();
+    return fixedValue() ? QString() : currentText();
 }
 
 bool HistoryComboBox::setFixedValue(SInt32 value)

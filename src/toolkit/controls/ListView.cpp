@@ -5,9 +5,12 @@
 
 #include <QAbstractTableModel>
 #include <QCollator>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPainter>
+#include <QScrollBar>
 #include <QSortFilterProxyModel>
 
 #include <algorithm>
@@ -17,11 +20,32 @@ namespace kesta {
 class ListView::Model : public QAbstractTableModel {
 public:
     std::vector<ListColumn> columns;
-    std::vector<ListRow> rows;
+    bool canDrag = false;
+
+    void setRows(std::size_t count, std::function<ListRow(int)> make)
+    {
+        rows_.assign(count, {});
+        isMade_.assign(count, false);
+        make_ = std::move(make);
+    }
+    const ListRow& row(std::size_t row) const
+    {
+        if (!isMade_[row]) {
+            rows_[row] = make_(static_cast<int>(row));
+            isMade_[row] = true;
+        }
+        return rows_[row];
+    }
+    const std::vector<ListRow>& allRows() const
+    {
+        for (std::size_t i = 0; i < rows_.size(); ++i)
+            row(i);
+        return rows_;
+    }
 
     int rowCount(const QModelIndex& parent = {}) const override
     {
-        return parent.isValid() ? 0 : static_cast<int>(rows.size());
+        return parent.isValid() ? 0 : static_cast<int>(rows_.size());
     }
     int columnCount(const QModelIndex& parent = {}) const override
     {
@@ -29,9 +53,29 @@ public:
     }
     QVariant data(const QModelIndex& index, int role) const override
     {
-        const std::vector<QString>& cells = rows[static_cast<std::size_t>(index.row())].cells;
+        if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)
+            return {};
+        const ListRow& shown = row(static_cast<std::size_t>(index.row()));
+        const std::vector<QString>& cells = shown.cells;
         const auto column = static_cast<std::size_t>(index.column());
-        return role == Qt::DisplayRole && column < cells.size() ? QVariant(cells[column]) : QVariant();
+        if (role == Qt::AccessibleTextRole)
+            return column == 0 && !shown.spoken.isEmpty() ? QVariant(shown.spoken) : QVariant();
+        return column < cells.size() ? QVariant(cells[column]) : QVariant();
+    }
+    Qt::ItemFlags flags(const QModelIndex& index) const override
+    {
+        if (!canDrag)
+            return QAbstractTableModel::flags(index);
+        return index.isValid() ? QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled
+                               : Qt::ItemIsDropEnabled; // between rows
+    }
+    Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
+    // Which row it is says the selection; what is in it is no affair of other programs.
+    QMimeData* mimeData(const QModelIndexList&) const override
+    {
+        auto* data = new QMimeData;
+        data->setData(mimeTypes().constFirst(), QByteArray());
+        return data;
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
@@ -47,6 +91,11 @@ public:
         change();
         endResetModel();
     }
+
+private:
+    std::function<ListRow(int)> make_;
+    mutable std::vector<ListRow> rows_;
+    mutable std::vector<bool> isMade_;
 };
 
 // The collator names its locale: with the C locale's it would ignore numbers and case.
@@ -159,16 +208,30 @@ void ListView::resizeEvent(QResizeEvent* event)
 
 void ListView::setRows(std::vector<ListRow> rows)
 {
+    const auto count = static_cast<int>(rows.size());
+    setRows(count, [rows = std::move(rows)](int row) { return rows[static_cast<std::size_t>(row)]; });
+}
+
+void ListView::setRows(int count, std::function<ListRow(int)> make)
+{
     ++settingByCode_;
-    model_->replace([&] { model_->rows = std::move(rows); });
+    const int place = verticalScrollBar()->value();
+    model_->replace([&] { model_->setRows(static_cast<std::size_t>(count), std::move(make)); });
     fitColumns();
+    executeDelayedItemsLayout(); // the scroll bar learns the number of rows
+    verticalScrollBar()->setValue(place);
     --settingByCode_;
     viewport()->update();
 }
 
+int ListView::rowCount() const
+{
+    return model_->rowCount();
+}
+
 const std::vector<ListRow>& ListView::rows() const
 {
-    return model_->rows;
+    return model_->allRows();
 }
 
 std::vector<int> ListView::selectedRows() const
@@ -193,13 +256,19 @@ void ListView::selectRowsAsUser(const std::vector<int>& rows)
     QItemSelection selection;
     for (const int row : rows) {
         const QModelIndex index = order_->mapFromSource(model_->index(row, 0));
-        if (index.isValid() && (hasMultipleSelection() || selection.empty()))
-            selection.select(index, index);
+        if (!index.isValid() || (!hasMultipleSelection() && !selection.empty()))
+            continue;
+        if (!selection.empty() && selection.back().bottom() + 1 == index.row()) // thousands of rows are one range
+            selection.back() = QItemSelectionRange(selection.back().topLeft(), index);
+        else
+            selection.append(QItemSelectionRange(index));
     }
     constexpr auto kWholeRows = QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
     if (!selection.empty())
-        selectionModel()->setCurrentIndex(selection.indexes().back(), QItemSelectionModel::NoUpdate);
+        selectionModel()->setCurrentIndex(selection.back().bottomRight(), QItemSelectionModel::NoUpdate);
     selectionModel()->select(selection, kWholeRows);
+    if (!selection.empty())
+        scrollTo(selection.front().topLeft());
 }
 
 bool ListView::hasMultipleSelection() const
@@ -231,12 +300,51 @@ void ListView::setEmptyText(const QString& text)
     viewport()->update();
 }
 
+void ListView::setRowDragging(RowDragging dragging)
+{
+    dragging_ = std::move(dragging);
+    model_->canDrag = true;
+    setDragDropMode(QAbstractItemView::InternalMove);
+    setDragDropOverwriteMode(false);
+    setDropIndicatorShown(true);
+}
+
+int ListView::rowBefore(const QDropEvent& event) const
+{
+    const std::vector<int> rows = selectedRows();
+    if (event.source() != this || rows.size() != 1)
+        return -1;
+    const QPoint position = event.position().toPoint();
+    const QModelIndex under = indexAt(position);
+    const bool isLowerHalf = under.isValid() && position.y() > visualRect(under).center().y();
+    const int before = under.isValid() ? under.row() + isLowerHalf : rowCount();
+    return dragging_.allows(rows.front(), before) ? before : -1;
+}
+
+void ListView::dragMoveEvent(QDragMoveEvent* event)
+{
+    QTreeView::dragMoveEvent(event); // scrolls, and shows where it would go
+    event->setAccepted(rowBefore(*event) >= 0);
+}
+
+void ListView::dropEvent(QDropEvent* event)
+{
+    const int before = rowBefore(*event);
+    stopAutoScroll();
+    setState(NoState);
+    event->setDropAction(Qt::IgnoreAction); // else the view would take the row out of the model
+    event->setAccepted(before >= 0);
+    if (before >= 0)
+        dragging_.move(selectedRows().front(), before);
+    viewport()->update();
+}
+
 EventResult ListView::sendChosen(const QModelIndex& index)
 {
     if (!index.isValid())
         return EventResult::NotHandled;
     const int row = order_->mapToSource(index).row();
-    const SInt64 reference = model_->rows[static_cast<std::size_t>(row)].reference;
+    const SInt64 reference = model_->row(static_cast<std::size_t>(row)).reference;
     return SendControlEvent(*this, ItemChosenEvent{.position = row + 1, .ticketValue = static_cast<SInt32>(reference)});
 }
 
@@ -253,10 +361,10 @@ void ListView::keyPressEvent(QKeyEvent* event)
 void ListView::paintEvent(QPaintEvent* event)
 {
     QTreeView::paintEvent(event);
-    if (!model_->rows.empty() || emptyText_.isEmpty())
+    if (model_->rowCount() > 0 || emptyText_.isEmpty())
         return;
     QPainter painter(viewport());
-    painter.setPen(ColorsOf(palette()).text2);
+    painter.setPen(ColorsOf(palette()).placeholder);
     constexpr int kInset = 16; // points
     const QRect room = viewport()->rect().adjusted(kInset, kInset, -kInset, -kInset);
     painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, emptyText_);

@@ -4,6 +4,7 @@
 
 #include <QTreeView>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -18,6 +19,13 @@ struct ListColumn {
 struct ListRow {
     std::vector<QString> cells;
     SInt64 reference = 0; // what the row stands for
+    QString spoken = {};  // the whole row for screen readers; empty: cell by cell
+};
+
+// Dragging the one selected row to another place: before the row of that number, from 0 to the number of rows.
+struct RowDragging {
+    std::function<bool(int row, int before)> allows;
+    std::function<void(int row, int before)> move;
 };
 
 // Rows of texts in columns. Rows are numbered from 0 in the order in which they were set, however the view sorts them.
@@ -39,6 +47,10 @@ public:
 
     void setRows(std::vector<ListRow> rows); // nothing is selected then
     const std::vector<ListRow>& rows() const;
+    // For many rows: each is made when it is first needed. The place in the view stays.
+    void setRows(int count, std::function<ListRow(int row)> make);
+    int rowCount() const;
+    void setRowDragging(RowDragging dragging);
 
     std::vector<int> selectedRows() const; // as shown from top to bottom
     void setSelectedRows(const std::vector<int>& rows);
@@ -58,16 +70,20 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     class Model;
     class Order;
     EventResult sendChosen(const QModelIndex& index);
+    int rowBefore(const QDropEvent& event) const; // that a drop there would put a row before; -1 when it may not
     void fitColumns();
     void stretchColumns();
 
     std::unique_ptr<Model> model_;
     std::unique_ptr<Order> order_;
+    RowDragging dragging_;
     QString emptyText_;
     int settingByCode_ = 0;
 };

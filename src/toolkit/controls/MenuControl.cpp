@@ -2,9 +2,11 @@
 
 #include "toolkit/controls/AccessibleControls.h"
 #include "toolkit/controls/ControlEvent.h"
+#include "toolkit/controls/OpenMenu.h"
 
+#include <QCoreApplication>
+#include <QCursor>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QPointer>
 #include <QTimer>
 
@@ -113,7 +115,8 @@ void MenuControl::addActions(QMenu& shown, const std::vector<MenuItem>& items, c
         if (item.separator) {
             shown.addSeparator();
         } else if (!item.submenu.empty()) {
-            QMenu* submenu = shown.addMenu(title);
+            auto* submenu = new OpenMenu(title, &shown);
+            shown.addMenu(submenu);
             submenu->setEnabled(item.enabled);
             addActions(*submenu, item.submenu, path);
         } else {
@@ -133,24 +136,42 @@ void MenuControl::openMenu()
     SendControlEvent(*this, MenuEnableItemsEvent{});
     if (!alive || !isEnabled() || menu_.items.empty())
         return;
-    const QPointer<QMenu> shown = new QMenu(this); // a handler may delete the control, and the menu with it
+    const QPointer<QMenu> shown = new OpenMenu(this); // a handler may delete the control, and the menu with it
     addActions(*shown, menu_.items, {});
     const int current = currentItem();
     if (current >= 1 && current <= shown->actions().size())
         QTimer::singleShot(0, shown, [shown, current] { shown->setActiveAction(shown->actions()[current - 1]); });
     ShowBelow(*shown, *this);
     delete shown;
+    if (alive)
+        forgetMouse();
+}
+
+// While the menu was open, the mouse may have left without a word.
+void MenuControl::forgetMouse()
+{
+    if (rect().contains(mapFromGlobal(QCursor::pos())))
+        return;
+    QEvent leave(QEvent::Leave);
+    setAttribute(Qt::WA_UnderMouse, false);
+    QCoreApplication::sendEvent(this, &leave);
+    update();
 }
 
 void MenuControl::keyPressEvent(QKeyEvent* event)
 {
-    const bool altDown = event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier;
-    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_F4 || altDown)
-        openMenu();
-    else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
-        event->ignore(); // abstract buttons move the focus
-    else
-        QAbstractButton::keyPressEvent(event);
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_F4:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Down:
+        return openMenu();
+    case Qt::Key_Up:
+        return event->ignore(); // abstract buttons move the focus
+    default:
+        return QAbstractButton::keyPressEvent(event);
+    }
 }
 
 } // namespace kesta

@@ -14,7 +14,7 @@ namespace kesta {
 // Positions from 1: of the item in the menu, then of the item in its submenu, and so on.
 using MenuPath = std::vector<int>;
 
-// What pop-up and menu buttons have in common: a menu as plain data, opened by a click, Space, Alt+Down or F4.
+// What pop-up and menu buttons have in common: a menu as plain data, opened by a click, Space, Return, Down or F4.
 class MenuControl : public QAbstractButton {
     Q_OBJECT
 
@@ -28,6 +28,9 @@ public:
     // the way is disabled, or there is no such item, or it is a separator or a submenu's title.
     bool chooseItem(const MenuPath& path);
     bool chooseItem(int position, int submenuPosition = 0);
+
+    // Null when the path leads to no item or through a disabled submenu.
+    const MenuItem* itemAt(const MenuPath& path) const;
 
     void openMenu();
 
@@ -43,7 +46,7 @@ protected:
 
 private:
     void addActions(QMenu& shown, const std::vector<MenuItem>& items, const MenuPath& owner);
-    const MenuItem* itemAt(const MenuPath& path) const;
+    void forgetMouse();
     bool chooseFromOpenMenu(const MenuPath& path);
 
     Menu menu_;

@@ -1,12 +1,13 @@
 #include "toolkit/controls/PopupButton.h"
 
 #include "toolkit/controls/ControlEvent.h"
+#include "toolkit/controls/OpenMenu.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QPointer>
-#include <QStyleHints>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 #include <QToolTip>
@@ -16,6 +17,8 @@
 
 namespace kesta {
 namespace {
+
+constexpr int kInset = 1; // points, of the text in its field: what Qt's own styles keep free
 
 QStyleOptionComboBox StyleOption(const PopupButton& button)
 {
@@ -28,13 +31,15 @@ QStyleOptionComboBox StyleOption(const PopupButton& button)
 
 QRect TextRect(const PopupButton& button, const QStyleOptionComboBox& option)
 {
-    return button.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &button);
+    const QRect field =
+        button.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &button);
+    return field.adjusted(kInset, 0, -kInset, 0);
 }
 
 QSize SizeForText(const PopupButton& button, int textWidth)
 {
     const QStyleOptionComboBox option = StyleOption(button);
-    const QSize text(textWidth, button.fontMetrics().height());
+    const QSize text(textWidth + 2 * kInset, button.fontMetrics().height());
     return button.style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, &button);
 }
 
@@ -64,6 +69,7 @@ void PopupButton::menuChanged()
 void PopupButton::setValue(int position)
 {
     value_ = maximum_ < 1 ? 0 : std::clamp(position, 1, maximum_);
+    goneThrough_ = false;
     const QString title = selectedItem() ? selectedItem()->title : QString();
     if (title == text())
         return;
@@ -87,6 +93,7 @@ void PopupButton::sendChosen(const MenuPath& path, const MenuItem& item)
     const bool topLevel = path.size() == 1;
     if (topLevel)
         setValue(path.front());
+    goneThrough_ = goingThrough_;
     const QPointer<PopupButton> alive = this;
     if (item.command != kNoCommand)
         SendControlEvent(*this,
@@ -95,19 +102,28 @@ void PopupButton::sendChosen(const MenuPath& path, const MenuItem& item)
         SendControlEvent(*this, HitEvent{.value = path.front(), .ticketValue = item.value});
 }
 
-// The first item that can be chosen, from there on in steps.
-void PopupButton::chooseFrom(int first, int step)
+bool PopupButton::goThrough(int position)
+{
+    const QPointer<PopupButton> alive = this;
+    goingThrough_ = true;
+    const bool chosen = chooseItem(position);
+    if (alive)
+        goingThrough_ = false;
+    return chosen;
+}
+
+// To the first item that can be chosen, from there on in steps.
+void PopupButton::goFrom(int first, int step)
 {
     for (int position = first; position >= 1 && position <= menu().count(); position += step) {
-        if (position != value_ && chooseItem(position))
+        if (position != value_ && goThrough(position))
             return;
     }
 }
 
-bool PopupButton::chooseByTyping(const QString& typed)
+bool PopupButton::goByTyping(const QString& typed)
 {
-    const bool goesOn =
-        sinceTyped_.isValid() && sinceTyped_.elapsed() < QGuiApplication::styleHints()->keyboardInputInterval();
+    const bool goesOn = GoesOn(sinceTyped_);
     typed_ = goesOn ? typed_ + typed : typed;
     sinceTyped_.start();
     const int count = menu().count();
@@ -117,29 +133,44 @@ bool PopupButton::chooseByTyping(const QString& typed)
         const MenuItem& item = menu().items[static_cast<std::size_t>(position) - 1];
         if (!item.title.startsWith(typed_, Qt::CaseInsensitive))
             continue;
-        if (position == value_ || chooseItem(position))
+        if (position == value_ || goThrough(position))
             return true;
     }
     return false;
 }
 
+// False when the key is none that goes through the items.
+bool PopupButton::goByKey(const QKeyEvent& key)
+{
+    switch (key.key()) {
+    case Qt::Key_Up:
+        goFrom(value_ - 1, -1);
+        return true;
+    case Qt::Key_Down:
+        goFrom(value_ + 1, 1);
+        return true;
+    case Qt::Key_Home:
+        goFrom(1, 1);
+        return true;
+    case Qt::Key_End:
+        goFrom(menu().count(), -1);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return goneThrough_ && chooseItem(value_);
+    default:
+        if (!WritesTitle(key, !typed_.isEmpty() && GoesOn(sinceTyped_)))
+            return false;
+        goByTyping(key.text());
+        return true;
+    }
+}
+
 void PopupButton::keyPressEvent(QKeyEvent* event)
 {
+    const QPointer<PopupButton> alive = this;
     const bool plain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
-    const QString typed = event->text();
-    const bool goesOn = !typed_.isEmpty() && sinceTyped_.isValid() &&
-                        sinceTyped_.elapsed() < QGuiApplication::styleHints()->keyboardInputInterval();
-    if (plain && event->key() == Qt::Key_Up)
-        chooseFrom(value_ - 1, -1);
-    else if (plain && event->key() == Qt::Key_Down)
-        chooseFrom(value_ + 1, 1);
-    else if (plain && event->key() == Qt::Key_Home)
-        chooseFrom(1, 1);
-    else if (plain && event->key() == Qt::Key_End)
-        chooseFrom(menu().count(), -1);
-    else if (plain && !typed.isEmpty() && typed.front().isPrint() && (event->key() != Qt::Key_Space || goesOn))
-        chooseByTyping(typed);
-    else
+    if (!(plain && goByKey(*event)) && alive)
         MenuControl::keyPressEvent(event);
 }
 

@@ -8,7 +8,7 @@ namespace kesta {
 
 // A button that shows the chosen item of its menu. Its value is the menu position from 1, never above its maximum,
 // which is a number of its own; 0 while nothing can be chosen. Up, Down, Home, End and typing the beginning of a title
-// choose another item at once.
+// go through the items without the menu; Return then picks the one that is shown, and opens the menu otherwise.
 //
 // Choosing sends the item's command, then a hit with the new value. An item of a submenu sends its command only. An
 // item above the maximum can't be chosen.
@@ -25,6 +25,9 @@ public:
     int value() const { return value_; }
     void setValue(int position);          // brought into 1..maximum
     const MenuItem* selectedItem() const; // null when there is none at the value
+    // Whether the keyboard came to the value on its way through the items: a handler that opens a window for an item
+    // waits until it is picked, which sends the hit again.
+    bool isGoneThrough() const { return goneThrough_; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -41,11 +44,15 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void chooseFrom(int first, int step);
-    bool chooseByTyping(const QString& typed);
+    bool goThrough(int position);
+    void goFrom(int first, int step);
+    bool goByTyping(const QString& typed);
+    bool goByKey(const QKeyEvent& key);
 
     int maximum_ = 0;
     int value_ = 0;
+    bool goingThrough_ = false;
+    bool goneThrough_ = false;
     QString typed_; // the beginning of a title, as typed so far
     QElapsedTimer sinceTyped_;
 };

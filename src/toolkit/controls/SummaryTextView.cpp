@@ -1,13 +1,45 @@
 #include "toolkit/controls/SummaryTextView.h"
 
+#include <QPainter>
+#include <QStyle>
+
 #include <algorithm>
 
 namespace kesta {
 
+namespace {
+
+constexpr auto kDash = QLatin1StringView("- "); // before each fact
+
+struct Fact {
+    QString text;
+    bool hasDash = false;
+    QRect rect; // of the text, left to right
+};
+
+// What a wrapped line goes on with stands below its beginning, not below the dash.
+std::vector<Fact> LaidOut(const QString& text, const QFontMetrics& metrics, int width)
+{
+    std::vector<Fact> facts;
+    int top = 0;
+    for (const QString& line : text.split(u'\n')) {
+        const bool hasDash = line.startsWith(kDash);
+        const QString rest = hasDash ? line.sliced(kDash.size()) : line;
+        const int indent = hasDash ? metrics.horizontalAdvance(kDash) : 0;
+        const QRect room(indent, top, std::max(1, width - indent), QWIDGETSIZE_MAX);
+        const int height = metrics.boundingRect(room, Qt::TextWordWrap, rest).height();
+        facts.push_back(
+            {rest, hasDash, QRect(room.topLeft(), QSize(room.width(), std::max(height, metrics.height())))});
+        top += facts.back().rect.height() + metrics.leading();
+    }
+    return facts;
+}
+
+} // namespace
+
 SummaryTextView::SummaryTextView(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText); // texts hold names that users typed
-    setTextInteractionFlags(Qt::TextSelectableByMouse);
     setWordWrap(true);
     setAlignment(Qt::AlignTop | Qt::AlignLeading);
 }
@@ -32,7 +64,23 @@ QSize SummaryTextView::sizeHint() const
 // What layouts go by, as the lines wrap.
 int SummaryTextView::heightForWidth(int width) const
 {
-    return withRoom({width, QLabel::heightForWidth(width)}).height();
+    const QRect last = LaidOut(text(), fontMetrics(), width).back().rect;
+    return withRoom({width, last.bottom() + 1}).height();
+}
+
+void SummaryTextView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const auto draw = [&](const QRect& part, const QString& shown) {
+        style()->drawItemText(&painter, QStyle::visualRect(layoutDirection(), rect(), part),
+                              Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, palette(), isEnabled(), shown,
+                              foregroundRole());
+    };
+    for (const Fact& fact : LaidOut(text(), fontMetrics(), width())) {
+        draw(fact.rect, fact.text);
+        if (fact.hasDash)
+            draw(QRect(0, fact.rect.top(), fact.rect.left(), fact.rect.height()), kDash.trimmed());
+    }
 }
 
 QSize SummaryTextView::minimumSizeHint() const

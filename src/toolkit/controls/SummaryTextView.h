@@ -4,7 +4,7 @@
 
 namespace kesta {
 
-// A plain text of some lines that can be selected; it keeps room for its usual number of lines, so that nothing jumps.
+// A plain text of some facts, a line and a dash each, that wrap beside their dashes; it keeps room for its usual number of lines, so that nothing jumps.
 class SummaryTextView : public QLabel {
     Q_OBJECT
     Q_PROPERTY(int lines READ lines WRITE setLines)
@@ -18,6 +18,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QSize withRoom(QSize size) const;

@@ -4,11 +4,13 @@
 #include "toolkit/controls/TextArea.h"
 
 #include <QAbstractSpinBox>
+#include <QAccessible>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QTimer>
 #include <QValidator>
 
 #include <algorithm>
@@ -70,9 +72,32 @@ QLineEdit* LineEditOf(const QWidget* field)
     return const_cast<QLineEdit*>(qobject_cast<const QLineEdit*>(field));
 }
 
+QString& LastProblem()
+{
+    static QString problem;
+    return problem;
+}
+
+void DescribeInvalid(QWidget& field, bool invalid)
+{
+    constexpr char kUsual[] = "kestaUsualDescription";
+    if (invalid) {
+        field.setProperty(kUsual, field.accessibleDescription());
+        if (!LastProblem().isEmpty())
+            field.setAccessibleDescription(LastProblem());
+    } else {
+        field.setAccessibleDescription(field.property(kUsual).toString());
+    }
+    QAccessible::State changed;
+    changed.invalid = true;
+    QAccessibleStateChangeEvent event(&field, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
 void ShowInvalid(QWidget& field, bool invalid)
 {
     field.setProperty("invalid", invalid);
+    DescribeInvalid(field, invalid);
     const int room = invalid ? kMarkRoom : 0;
     QLineEdit* line = LineEditOf(&field);
     if (line && !qobject_cast<QAbstractSpinBox*>(&field)) // there it stands over the arrows
@@ -111,6 +136,12 @@ void TypeIntoField(QWidget* field, const QString& text)
         area->pasteText(text);
     else if (QLineEdit* line = LineEditOf(field); line && !line->isReadOnly() && line->isEnabled())
         line->insert(text);
+}
+
+void RememberProblem(const QString& text)
+{
+    LastProblem() = text;
+    QTimer::singleShot(0, [] { LastProblem().clear(); });
 }
 
 void SetInvalid(QWidget* field, bool invalid)

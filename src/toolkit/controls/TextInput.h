@@ -19,7 +19,10 @@ void SetFieldText(QWidget* field, const QString& text);
 void TypeIntoField(QWidget* field, const QString& text);
 
 // Sets or takes away the ring and mark of a field whose contents can't be used. Setting puts the focus into the field
-// and selects its text; the next edit takes the mark away.
+// and selects its text; the next edit takes the mark away. As long as it is set, the field's accessible description is
+// what the alert before it said.
 void SetInvalid(QWidget* field, bool invalid);
+// What an alert says that was just closed. Forgotten when the code that raised it has ended.
+void RememberProblem(const QString& text);
 
 } // namespace kesta

@@ -27,6 +27,7 @@ public:
 
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
+    void polish(QPalette& palette) override;
 
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override;

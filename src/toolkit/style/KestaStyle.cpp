@@ -1,5 +1,6 @@
 #include "toolkit/style/KestaStyle.h"
 
+#include "toolkit/style/DesktopScheme.h"
 #include "toolkit/style/KestaProxyStyle.h"
 
 #include <QAbstractSpinBox>
@@ -33,7 +34,6 @@ QPalette OwnPalette(bool dark)
     palette.setColor(QPalette::Link, dark ? QColor(0x9DAAF8) : accent);
     palette.setColor(QPalette::ToolTipBase, pick(0x1F242B, 0x343840));
     palette.setColor(QPalette::ToolTipText, pick(0xFFFFFF, 0xE9EBEE));
-    palette.setColor(QPalette::PlaceholderText, Mix(text, window, 0.45));
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(role, text);
         palette.setColor(QPalette::Disabled, role, disabled);
@@ -55,6 +55,14 @@ bool IsNobodysPalette(const QPalette& palette, const QPalette& defaults)
                                                                           QPalette::Base, QPalette::Button,
                                                                           QPalette::Highlight},
                                [&](QPalette::ColorRole role) { return palette.color(role) == defaults.color(role); });
+}
+
+// A desktop's palette comes through the style, which mends it; one that code has set does not.
+void MakeReadable()
+{
+    const QPalette palette = QApplication::palette();
+    if (const QPalette readable = Readable(palette); readable != palette)
+        QApplication::setPalette(readable);
 }
 
 void SetTextColor(QWidget& widget, const QColor& color, const QColor& disabled)
@@ -128,8 +136,20 @@ void InstallKestaStyle(QApplication& application)
         QApplication::setStyle(new KestaProxyStyle(own));
         application.installEventFilter(application.style());
     }
-    if (own)
-        QApplication::setPalette(OwnPalette(dark));
+    own ? UseOwnPalette(dark) : MakeReadable();
+    if (own && !wished && !installed)
+        FollowDesktopScheme(application);
+}
+
+void UseOwnPalette(bool dark)
+{
+    QApplication::setPalette(Readable(OwnPalette(dark)));
+}
+
+void KestaProxyStyle::polish(QPalette& palette)
+{
+    QProxyStyle::polish(palette);
+    palette = Readable(palette);
 }
 
 KestaProxyStyle::KestaProxyStyle(bool ownPalette) : QProxyStyle(u"fusion"_s), ownPalette_(ownPalette) {}

@@ -37,6 +37,13 @@ bool IsDefaultButton(const QStyleOption& option)
     return button && button->features & QStyleOptionButton::DefaultButton && IsEnabled(option);
 }
 
+// A disabled control lets the pane through, but where the palette's ground is so far from it that no text would stand
+// out from the mix.
+double DisabledFill(const QColor& pane, const QColor& ground)
+{
+    return Contrast(pane, ground) < 2 ? 0.3 : 1;
+}
+
 // Buttons, pop-ups, segments, tiles.
 void DrawPressable(const QStyleOption& option, QPainter& painter)
 {
@@ -49,12 +56,13 @@ void DrawPressable(const QStyleOption& option, QPainter& painter)
         return;
     }
     const bool on = option.state & QStyle::State_On;
-    const QColor plain = IsEnabled(option) ? colors.button : Mix(colors.pane, colors.button, 0.3);
-    const QColor fill = on ? Mix(plain, colors.accent, 0.16) : Touched(plain, option, colors.text);
+    const QColor plain =
+        IsEnabled(option) ? colors.button : Mix(colors.pane, colors.button, DisabledFill(colors.pane, colors.button));
+    const QColor fill = on ? Mix(plain, colors.accent, 0.16) : Touched(plain, option, colors.onButton);
     const QColor outline = !IsEnabled(option) ? colors.hairline : on ? colors.accent : colors.border;
     DrawOutlined(painter, option.rect, fill, outline);
     if (HasKeyboardFocus(option))
-        DrawRing(painter, option.rect, colors.accent);
+        DrawRing(painter, option.rect, colors.ring);
 }
 
 void DrawBevel(const QStyleOptionButton& button, QPainter& painter)
@@ -65,7 +73,7 @@ void DrawBevel(const QStyleOptionButton& button, QPainter& painter)
     const KestaColors colors = CurrentColors();
     const QRect arrow = button.rect.adjusted(button.rect.width() - kArrowWidth, 0, 0, 0);
     DrawChevron(painter, QStyle::visualRect(button.direction, button.rect, arrow), Direction::Down,
-                IsEnabled(button) ? colors.text : colors.disabled, false);
+                IsEnabled(button) ? colors.onButton : colors.disabledOnButton, false);
 }
 
 // Anything that is typed into.
@@ -73,7 +81,8 @@ void DrawField(const QStyleOption& option, QPainter& painter, const QWidget* wid
 {
     const KestaColors colors = CurrentColors();
     const bool invalid = widget && widget->property("invalid").toBool();
-    const QColor fill = IsEnabled(option) ? colors.base : Mix(colors.pane, colors.base, 0.3);
+    const QColor fill =
+        IsEnabled(option) ? colors.base : Mix(colors.pane, colors.base, DisabledFill(colors.pane, colors.base));
     DrawOutlined(painter, option.rect, fill, IsEnabled(option) ? colors.field : colors.hairline);
     if (invalid) {
         DrawRing(painter, option.rect, colors.error);
@@ -82,21 +91,23 @@ void DrawField(const QStyleOption& option, QPainter& painter, const QWidget* wid
                          option.rect.center().y() - kInvalidMarkSize / 2 + 1, kInvalidMarkSize, kInvalidMarkSize);
         DrawCautionMark(painter, QStyle::visualRect(option.direction, option.rect, mark), colors.error);
     } else if (option.state & QStyle::State_HasFocus) {
-        DrawRing(painter, option.rect, colors.accent);
+        DrawRing(painter, option.rect, colors.ring);
     }
 }
 
-QColor ArrowColor(const QStyleOption& option)
+QColor ArrowColor(const QStyleOption& option, bool onBase)
 {
     const KestaColors colors = CurrentColors();
-    return IsEnabled(option) ? colors.text2 : colors.disabled;
+    if (!IsEnabled(option))
+        return onBase ? colors.disabledOnBase : colors.disabledOnButton;
+    return onBase ? Mix(colors.onBase, colors.base, 0.3) : Mix(colors.onButton, colors.button, 0.3);
 }
 
 void DrawComboBox(const QStyleOptionComboBox& combo, QPainter& painter, const QWidget* widget, const QStyle& style)
 {
     combo.editable ? DrawField(combo, painter, widget) : DrawPressable(combo, painter);
     const QRect arrow = style.subControlRect(QStyle::CC_ComboBox, &combo, QStyle::SC_ComboBoxArrow, widget);
-    DrawChevron(painter, arrow, Direction::Down, ArrowColor(combo), IsRightToLeft(combo));
+    DrawChevron(painter, arrow, Direction::Down, ArrowColor(combo, combo.editable), IsRightToLeft(combo));
 }
 
 void DrawSpinBox(const QStyleOptionSpinBox& spin, QPainter& painter, const QWidget* widget, const QStyle& style)
@@ -107,9 +118,10 @@ void DrawSpinBox(const QStyleOptionSpinBox& spin, QPainter& painter, const QWidg
     const auto draw = [&](QStyle::SubControl part, QAbstractSpinBox::StepEnabledFlag step, Direction direction,
                           int shift) {
         const bool can = IsEnabled(spin) && spin.stepEnabled & step;
-        const KestaColors colors = CurrentColors();
+        QStyleOption arrow(spin);
+        arrow.state.setFlag(QStyle::State_Enabled, can);
         const QRect rect = style.subControlRect(QStyle::CC_SpinBox, &spin, part, widget).translated(0, shift);
-        DrawChevron(painter, rect, direction, can ? colors.text2 : colors.disabled, false);
+        DrawChevron(painter, rect, direction, ArrowColor(arrow, true), false);
     };
     draw(QStyle::SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, Direction::Up, 2);
     draw(QStyle::SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, Direction::Down, -2);
@@ -138,7 +150,7 @@ void DrawCheckBox(const QStyleOption& option, QPainter& painter)
     const bool on = option.state & (QStyle::State_On | QStyle::State_NoChange);
     const QColor outline = IsEnabled(option) ? colors.field : colors.hairline;
     const QColor filled = IsEnabled(option) ? Touched(colors.accent, option, Qt::black) : colors.disabled;
-    const QColor fill = on ? filled : Touched(colors.base, option, colors.text);
+    const QColor fill = on ? filled : Touched(colors.base, option, colors.onBase);
     DrawOutlined(painter, option.rect, fill, on ? filled : outline, kBoxRadius);
     if (option.state & QStyle::State_On)
         DrawCheckMark(painter, option.rect, IsEnabled(option) ? colors.onAccent : colors.window);
@@ -152,7 +164,7 @@ void DrawRadioButton(const QStyleOption& option, QPainter& painter)
     const bool on = option.state & QStyle::State_On;
     const QColor filled = IsEnabled(option) ? colors.accent : colors.disabled;
     const double radius = option.rect.height() / 2.0;
-    DrawOutlined(painter, option.rect, on ? filled : Touched(colors.base, option, colors.text),
+    DrawOutlined(painter, option.rect, on ? filled : Touched(colors.base, option, colors.onBase),
                  on                  ? filled
                  : IsEnabled(option) ? colors.field
                                      : colors.hairline,
@@ -167,6 +179,27 @@ void DrawPane(const QStyleOption& option, QPainter& painter)
     const QColor hairline = CurrentColors().hairline;
     painter.fillRect(QRect(option.rect.topLeft(), QSize(option.rect.width(), 1)), hairline);
     painter.fillRect(QRect(option.rect.bottomLeft(), QSize(option.rect.width(), 1)), hairline);
+}
+
+// Side by side in the middle: from right to left Qt's own has the text at the edge.
+void DrawIconAndText(const QStyleOptionButton& button, QPainter& painter)
+{
+    constexpr int kGap = 6;
+    const int textWidth = button.fontMetrics.size(Qt::TextShowMnemonic, button.text).width();
+    QRect both(0, button.rect.top(), std::min(button.rect.width(), button.iconSize.width() + kGap + textWidth),
+               button.rect.height());
+    both.moveLeft(button.rect.left() + (button.rect.width() - both.width()) / 2);
+    const QRect icon(both.left(), both.center().y() - button.iconSize.height() / 2, button.iconSize.width(),
+                     button.iconSize.height());
+    const QRect text = both.adjusted(button.iconSize.width() + kGap, 0, 0, 0);
+    button.icon.paint(&painter, QStyle::visualRect(button.direction, both, icon), Qt::AlignCenter,
+                      IsEnabled(button) ? QIcon::Normal : QIcon::Disabled);
+    painter.save();
+    painter.setPen(
+        button.palette.color(IsEnabled(button) ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
+    painter.drawText(QStyle::visualRect(button.direction, both, text),
+                     Qt::AlignVCenter | Qt::AlignHCenter | Qt::TextShowMnemonic | Qt::TextSingleLine, button.text);
+    painter.restore();
 }
 
 } // namespace
@@ -198,7 +231,7 @@ void KestaProxyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption
         return;
     case PE_FrameFocusRect:
         if (!qobject_cast<const QAbstractScrollArea*>(widget))
-            DrawRing(*painter, option->rect, CurrentColors().accent);
+            DrawRing(*painter, option->rect, CurrentColors().ring);
         return;
     case PE_PanelLineEdit:
         if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0)
@@ -265,7 +298,9 @@ void KestaProxyStyle::drawButtonLabel(const QStyleOptionButton& button, QPainter
     QStyleOptionButton label(button);
     if (IsDefaultButton(button))
         label.palette.setColor(QPalette::ButtonText, CurrentColors().onAccent);
-    QProxyStyle::drawControl(CE_PushButtonLabel, &label, &painter, widget);
+    if (button.icon.isNull() || button.text.isEmpty())
+        return QProxyStyle::drawControl(CE_PushButtonLabel, &label, &painter, widget);
+    DrawIconAndText(label, painter);
 }
 
 void KestaProxyStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -1,5 +1,7 @@
 #include "toolkit/style/KestaStyleDrawing.h"
 
+#include "toolkit/style/KestaColors.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>

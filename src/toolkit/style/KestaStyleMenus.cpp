@@ -56,7 +56,7 @@ void DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter)
     if (selected)
         DrawOutlined(painter, item.rect.adjusted(kSelectionInset, 0, -kSelectionInset, 0), colors.accent, colors.accent,
                      kSelectionRadius);
-    const QColor color = selected ? colors.onAccent : enabled ? colors.text : colors.disabled;
+    const QColor color = selected ? colors.onAccent : enabled ? colors.onBase : colors.disabledOnBase;
     DrawMenuText(item, painter, color);
     if (item.checkType != QStyleOptionMenuItem::NotCheckable && item.checked) {
         const QRect mark(item.rect.left() + kSelectionInset, item.rect.top(), kMarkColumn - kSelectionInset,
@@ -78,13 +78,14 @@ void DrawHeaderSection(const QStyleOptionHeader& section, QPainter& painter)
     const bool sorts = section.sortIndicator != QStyleOptionHeader::None;
     const QRect text = section.rect.adjusted(kTextInset, 0, sorts ? -kSortArrowWidth : -kTextInset, 0);
     const int flags = static_cast<int>(QStyle::visualAlignment(section.direction, Qt::AlignLeft)) | Qt::AlignVCenter;
-    painter.setPen(section.state & QStyle::State_Enabled ? colors.text2 : colors.disabled);
+    painter.setPen(section.state & QStyle::State_Enabled ? Mix(colors.onBase, colors.base, 0.3)
+                                                         : colors.disabledOnBase);
     painter.drawText(Mirrored(section, text), flags,
                      section.fontMetrics.elidedText(section.text, Qt::ElideRight, text.width()));
     if (sorts) {
         const QRect arrow(text.right(), section.rect.top(), kSortArrowWidth, section.rect.height());
         const bool up = section.sortIndicator == QStyleOptionHeader::SortUp;
-        DrawChevron(painter, Mirrored(section, arrow), up ? Direction::Up : Direction::Down, colors.text2, false);
+        DrawChevron(painter, Mirrored(section, arrow), up ? Direction::Up : Direction::Down, colors.onBase, false);
     }
 }
 
@@ -97,7 +98,7 @@ void DrawTab(const QStyleOptionTab& tab, QPainter& painter)
     if (selected)
         painter.fillRect(line, tab.state & QStyle::State_Enabled ? colors.accent : colors.disabled);
     if (tab.state & QStyle::State_HasFocus && tab.state & QStyle::State_KeyboardFocusChange)
-        DrawRing(painter, tab.rect.adjusted(1, 1, -1, -3), colors.accent);
+        DrawRing(painter, tab.rect.adjusted(1, 1, -1, -3), colors.ring);
 }
 
 } // namespace kesta

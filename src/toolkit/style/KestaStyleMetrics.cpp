@@ -86,6 +86,8 @@ int KestaProxyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_ButtonShiftVertical:
     case PM_ButtonDefaultIndicator:
     case PM_TabBarBaseOverlap:
+    case PM_TabBarTabShiftHorizontal:
+    case PM_TabBarTabShiftVertical:
         return 0;
     case PM_MenuButtonIndicator:
         return 20;

@@ -1,7 +1,9 @@
 #include "toolkit/windows/AlertWindow.h"
 
 #include "platform/system/Notices.h"
+#include "toolkit/controls/AccessibleControls.h"
 #include "toolkit/controls/Controls.h"
+#include "toolkit/controls/TextInput.h"
 #include "toolkit/style/KestaColors.h"
 #include "toolkit/style/KestaStyleDrawing.h"
 #include "toolkit/windows/ModalLoop.h"
@@ -47,8 +49,11 @@ QLabel* MakeText(const QString& text, const char* look)
 
 AlertWindow::AlertWindow(const Alert& alert) : pressed_(CancelButtonOf(alert))
 {
+    InstallAccessibleControls();
     setObjectName(QStringLiteral("Alert"));
     setWindowFlag(Qt::Dialog);
+    setProperty(kAlertProperty, true);
+    setWindowTitle(alert.title);
     setAccessibleName(alert.title);
     setAccessibleDescription(alert.message);
     auto* layout = new QGridLayout(this);
@@ -101,6 +106,7 @@ int AlertWindow::run()
     if (QPushButton* button = GetWindowDefaultButton(*this))
         button->setFocus();
     RunModalLoop(*this);
+    RememberProblem(windowTitle());
     return pressed_;
 }
 

@@ -14,6 +14,7 @@ namespace kesta {
 namespace {
 
 constexpr QMargins kBandMargins{16, 12, 16, 16}; // points
+constexpr int kTitleBarHeight = 37;              // of the highest that desktops have
 
 QSize WantedSize(const QWidget& window)
 {
@@ -81,7 +82,6 @@ void FitToScreen(QWidget& window, QSize room)
     if (window.testAttribute(Qt::WA_Resized) || !window.layout())
         return;
     window.ensurePolished();
-    room.rheight() -= window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
     QSize size = WantedSize(window);
     if (size.height() > room.height()) {
         ScrollAllButButtons(window);
@@ -92,8 +92,15 @@ void FitToScreen(QWidget& window, QSize room)
 
 void FitToScreen(QWidget& window)
 {
-    if (const QScreen* screen = window.screen())
-        FitToScreen(window, screen->availableSize());
+    FitToScreen(window, RoomOnScreen(window));
+}
+
+QSize RoomOnScreen(const QWidget& window)
+{
+    const QScreen* screen = window.screen();
+    const int ofStyle = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
+    return screen ? screen->availableSize() - QSize(0, std::max(ofStyle, kTitleBarHeight))
+                  : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 }
 
 } // namespace kesta

@@ -1,6 +1,9 @@
 #include "toolkit/windows/HelpWindow.h"
 
 #include "platform/system/URLOpener.h"
+#include "toolkit/controls/AccessibleControls.h"
+#include "toolkit/windows/FitToScreen.h"
+#include "toolkit/windows/WindowPlace.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -8,7 +11,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScreen>
 
 namespace kesta {
 namespace {
@@ -63,11 +65,16 @@ void HelpBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType type
         QTextBrowser::doSetSource(page, type);
 }
 
-HelpWindow::HelpWindow(QWidget* parent) : QWidget(parent, Qt::Window), browser_(new HelpBrowser(this))
+HelpWindow::HelpWindow(QWidget* parent)
+    : QWidget(parent, parent ? Qt::Dialog : Qt::Window), browser_(new HelpBrowser(this))
 {
+    InstallAccessibleControls();
+    setProperty(kAlertProperty, false);
     setObjectName(QStringLiteral("Help"));
     setAttribute(Qt::WA_DeleteOnClose);
-    resize(screen() ? kWindowSize.boundedTo(screen()->availableSize()) : kWindowSize);
+    resize(kWindowSize.boundedTo(RoomOnScreen(*this)));
+    RememberSize(*this);
+    PlaceBefore(*this, parent);
     QPushButton* back = MakeButton("QFileDialog", "Back");
     QPushButton* close = MakeButton("QPlatformTheme", "Close");
     back->setEnabled(false);

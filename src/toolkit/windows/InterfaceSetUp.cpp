@@ -1,6 +1,7 @@
 #include "toolkit/windows/InterfaceSetUp.h"
 
 #include "platform/plugins/Bundle.h"
+#include "toolkit/controls/AccessibleControls.h"
 #include "toolkit/controls/ColorSwatch.h"
 #include "toolkit/controls/Controls.h"
 #include "toolkit/controls/HistoryComboBox.h"
@@ -179,6 +180,7 @@ void NameControls(const QWidget& root)
 
 void SetUpWindow(QWidget& root, FourCharCode signature, const Bundle& bundle)
 {
+    InstallAccessibleControls();
     const QString pictureFolder = PictureFolder(bundle);
     for (QDialogButtonBox* box : root.findChildren<QDialogButtonBox*>())
         SetUpStandardButtons(*box);

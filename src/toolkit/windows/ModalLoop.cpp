@@ -3,13 +3,14 @@
 #include "toolkit/controls/Mnemonics.h"
 #include "toolkit/windows/FitToScreen.h"
 #include "toolkit/windows/InterfaceFile.h"
+#include "toolkit/windows/WindowPlace.h"
 
+#include <QApplication>
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
-#include <QWindow>
 
 #include <utility>
 #include <vector>
@@ -76,11 +77,10 @@ private:
 void ShowInFront(QWidget& window, const QWidget* before)
 {
     window.setWindowModality(Qt::ApplicationModal);
-    window.winId(); // makes its native window
-    if (before && before->windowHandle() && !window.parentWidget())
-        window.windowHandle()->setTransientParent(before->windowHandle());
     AssignMnemonics(window);
     FitToScreen(window);
+    RememberSize(window);
+    PlaceBefore(window, before);
     window.show();
     window.activateWindow();
 }
@@ -92,7 +92,7 @@ ModalResult RunModalLoop(QWidget& window)
     Loop loop{.window = &window};
     QObject::connect(&loop.idle, &QTimer::timeout, [&loop] { ActWhenIdle(loop); });
     QObject::connect(&window, &QObject::destroyed, &loop.events, &QEventLoop::quit);
-    const QWidget* before = FrontModalWindow();
+    const QWidget* before = FrontWindow();
     State().loops.push_back(&loop);
 
     WindowEvents windowEvents;
@@ -115,6 +115,11 @@ void EndModalLoop(QWidget& window, ModalResult result)
             loop->events.quit();
         }
     }
+}
+
+QWidget* FrontWindow()
+{
+    return FrontModalWindow() ? FrontModalWindow() : QApplication::activeWindow();
 }
 
 QWidget* FrontModalWindow()

@@ -35,7 +35,7 @@ public:
     {
         if (!QFileInfo(file).isFile())
             return kMissingArgument;
-        QWidget* front = FrontModalWindow() ? FrontModalWindow() : QApplication::activeWindow();
+        QWidget* front = FrontWindow();
         if (window_ && window_->parentWidget() != front && window_ != front)
             delete window_;
         if (!window_)
@@ -54,12 +54,12 @@ public:
     std::optional<QString> open(const FileQuestion& question) override
     {
         return Chosen(
-            QFileDialog::getOpenFileName(FrontModalWindow(), question.title, Proposal(question), Filter(question)));
+            QFileDialog::getOpenFileName(FrontWindow(), question.title, Proposal(question), Filter(question)));
     }
     std::optional<QString> save(const FileQuestion& question) override
     {
         return Chosen(
-            QFileDialog::getSaveFileName(FrontModalWindow(), question.title, Proposal(question), Filter(question)));
+            QFileDialog::getSaveFileName(FrontWindow(), question.title, Proposal(question), Filter(question)));
     }
 
 private:

@@ -14,12 +14,13 @@ namespace {
 
 constexpr char kPlace[] = "summaryPlace";
 constexpr char kDefault[] = "summaryDefault";
+constexpr char kPhrases[] = "summaryPhrases";
 
-void Mark(QWidget* control, SummaryPlace place, const QVariant& shownByDefault)
+void Mark(QWidget* control, SInt32 place, const QVariant& shownByDefault)
 {
     if (!control)
         return;
-    control->setProperty(kPlace, static_cast<SInt32>(place));
+    control->setProperty(kPlace, place);
     control->setProperty(kDefault, shownByDefault);
 }
 
@@ -44,14 +45,20 @@ QStringList FactsOf(const SummaryTextView& view)
 
 } // namespace
 
-void ShowInSummary(PopupButton* popup, SummaryPlace place, SInt32 defaultValue)
+void ShowInSummary(PopupButton* popup, SInt32 place, SInt32 defaultValue)
 {
     Mark(popup, place, defaultValue);
 }
 
-void ShowInSummary(QWidget* summaryTextView, SummaryPlace place, const QString& defaultText)
+void ShowInSummary(QWidget* summaryTextView, SInt32 place, const QString& defaultText)
 {
     Mark(summaryTextView, place, defaultText);
+}
+
+void SetSummaryPhrases(QWidget& control, SInt32 place, const QStringList& phrases)
+{
+    Mark(&control, place, {});
+    control.setProperty(kPhrases, phrases);
 }
 
 QStringList SummaryFacts(const QString& summary)
@@ -67,22 +74,26 @@ QStringList SummaryFacts(const QString& summary)
 
 QStringList WindowSummary(const QWidget& window)
 {
-    std::map<SInt32, QStringList> found;
+    std::map<SInt32, QStringList> found, phrasesOf;
     for (const QWidget* control : window.findChildren<QWidget*>()) {
         const QVariant place = control->property(kPlace);
         if (!place.isValid() || IsHiddenItself(*control))
             continue;
-        if (const auto* popup = qobject_cast<const PopupButton*>(control))
+        if (const QVariant phrases = control->property(kPhrases); phrases.isValid())
+            phrasesOf[place.toInt()] += phrases.toStringList();
+        else if (const auto* popup = qobject_cast<const PopupButton*>(control))
             found[place.toInt()] += FactsOf(*popup);
         else if (const auto* view = qobject_cast<const SummaryTextView*>(control))
             found[place.toInt()] += FactsOf(*view);
     }
-    QStringList phrases;
     for (const auto& [place, facts] : found) {
         if (!facts.isEmpty())
-            phrases << facts.join(u", "_s);
+            phrasesOf[place].prepend(facts.join(u", "_s));
     }
-    return phrases;
+    QStringList summary;
+    for (const auto& [place, phrases] : phrasesOf)
+        summary += phrases;
+    return summary;
 }
 
 } // namespace kesta

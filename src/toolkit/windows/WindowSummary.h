@@ -10,14 +10,14 @@ namespace kesta {
 
 class PopupButton;
 
-// The facts of a window's summary line, in its order.
-enum class SummaryPlace : SInt32 { JobType = 1, Paper, Sides, Finishing };
+// From now on what the control shows is told in the summary of its window, at its place in the line (lower ones first),
+// unless it is the default: a pop-up's chosen item, unless it has the default value; the lines of a summary text view,
+// without those of the default text. A control that is not there is left alone.
+void ShowInSummary(PopupButton* popup, SInt32 place, SInt32 defaultValue);
+void ShowInSummary(QWidget* summaryTextView, SInt32 place, const QString& defaultText);
 
-// From now on what the control shows is told in the summary of its window, unless it is the default: a pop-up's chosen
-// item, unless it has the default value; the lines of a summary text view, without those of the default text. A control
-// that is not there is left alone.
-void ShowInSummary(PopupButton* popup, SummaryPlace place, SInt32 defaultValue);
-void ShowInSummary(QWidget* summaryTextView, SummaryPlace place, const QString& defaultText);
+// From now on the summary has these phrases for the control, each by itself, until it is given others.
+void SetSummaryPhrases(QWidget& control, SInt32 place, const QStringList& phrases);
 
 // What those controls show now, a phrase a place. Controls that their panel has hidden are left out, those of a panel
 // that is not in front are not. Never what a person types into a field.

@@ -3,11 +3,11 @@
 #include "pde/interface/TicketKeys.h"
 #include "pde/menus/MenuUtilities.h"
 #include "pde/ticket/TicketUtilities.h"
+#include "printer/FinishingKinds.h"
 #include "support/Accessories.h"
 #include "support/CurrentPrinter.h"
 #include "support/TestTexts.h"
 #include "support/User.h"
-#include "toolkit/controls/PictureView.h"
 #include "toolkit/controls/SpinField.h"
 
 #include <gtest/gtest.h>
@@ -40,7 +40,6 @@ protected:
         return found ? *found : throw std::out_of_range("no such control");
     }
     static bool isEnabled(QWidget& window, Control number) { return get<QWidget>(window, number).isEnabled(); }
-    static QString picture(QWidget& window) { return get<PictureView>(window, kIllustration).picture(); }
     static SInt32 anySize(QWidget& window) // one that the menu offers
     {
         for (const MenuItem& item : get<PopupButton>(window, kNewSizePopup).menu().items)
@@ -54,7 +53,7 @@ protected:
     test::CurrentPrinter printer;
     Ticket settings;
     Bundle bundle = test::BundleWithAllTexts();
-    _BookletCreationParams params{.bundle = &bundle};
+    Booklet booklet;
 };
 
 TEST_F(BookletDialogTest, WhatTheUserChoosesReachesTheParametersAndComesBack)
@@ -79,56 +78,33 @@ TEST_F(BookletDialogTest, WhatTheUserChoosesReachesTheParametersAndComesBack)
         EXPECT_EQ(get<SpinField>(window, kCreepField).text(), u"0.7"_s);
     });
     user.then(ok);
-    EXPECT_EQ(RunModalBookletCreationDialog(params), noErr);
-    const _BookletCreationParams chosen{.bundle = &bundle,
-                                        .fold = kBookletFoldAndStaple,
-                                        .layout = kBookletLayoutOn,
-                                        .drawOutlines = kDrawPageBorders,
-                                        .newPaperSize = size,
-                                        .gutter = 100,
-                                        .creep = 7};
-    EXPECT_EQ(params, chosen);
+    EXPECT_EQ(RunModalBookletCreationDialog(bundle, booklet), noErr);
+    const Booklet chosen{.fold = kFoldBiStaple,
+                         .layout = kBookletLayoutOn,
+                         .drawOutlines = kDrawPageBorders,
+                         .newPaperSize = size,
+                         .gutter = 100,
+                         .creep = 7};
+    EXPECT_EQ(booklet, chosen);
 
     user.then(ok);
-    EXPECT_EQ(RunModalBookletCreationDialog(params), noErr);
-    EXPECT_EQ(params, chosen) << "shown and read back unchanged";
+    EXPECT_EQ(RunModalBookletCreationDialog(bundle, booklet), noErr);
+    EXPECT_EQ(booklet, chosen) << "shown and read back unchanged";
 }
 
 TEST_F(BookletDialogTest, CancelLeavesAllAsItWas)
 {
-    params.gutter = 500; // more than the field takes
-    params.fold = 20;    // which no radio stands for
-    const _BookletCreationParams before = params;
+    booklet.gutter = 500; // more than the field takes
+    booklet.fold = 20;    // which no radio stands for
+    const Booklet before = booklet;
     ModalUser user;
     user.then([](QWidget& window) {
         EXPECT_TRUE(get(window, kFoldNoneRadio).isChecked());
         get(window, kLayoutOnRadio).click();
         cancel(window);
     });
-    EXPECT_EQ(RunModalBookletCreationDialog(params), kBookletDialogCancelled);
-    EXPECT_EQ(params, before);
-}
-
-TEST_F(BookletDialogTest, TheLayoutsOptionsAreChoicesOnlyWhileItIsOn)
-{
-    ModalUser user;
-    user.then([](QWidget& window) {
-        const auto expectOptions = [&](bool enabled) {
-            for (const Control number : {kDrawOutlinesBox, kNewSizePopup, kGutterField, kCreepField, kGutterRange})
-                EXPECT_EQ(isEnabled(window, number), enabled) << number;
-        };
-        expectOptions(false);
-        EXPECT_EQ(picture(window), u"BookletCreation_None.gif"_s);
-        get(window, kLayoutOnRadio).click();
-        expectOptions(true);
-        get(window, kDrawOutlinesBox).click();
-        get(window, kFoldRadio).click();
-        EXPECT_EQ(picture(window), u"BookletCreation_Booklet-Fold-Outlines.gif"_s);
-        get(window, kLayoutOffRadio).click();
-        expectOptions(false);
-    });
-    user.then(cancel);
-    RunModalBookletCreationDialog(params);
+    EXPECT_EQ(RunModalBookletCreationDialog(bundle, booklet), kBookletDialogCancelled);
+    EXPECT_EQ(booklet, before);
 }
 
 TEST_F(BookletDialogTest, SpecialPagesLockFoldAndLayout)
@@ -141,7 +117,7 @@ TEST_F(BookletDialogTest, SpecialPagesLockFoldAndLayout)
         EXPECT_TRUE(isEnabled(window, kLayoutOffRadio)) << "the way out stays open";
     });
     user.then(cancel);
-    RunModalBookletCreationDialog(params);
+    RunModalBookletCreationDialog(bundle, booklet);
 }
 
 TEST_F(BookletDialogTest, TheOptionsDialogAsksForAFoldWhereOneIsInstalled)
@@ -152,23 +128,21 @@ TEST_F(BookletDialogTest, TheOptionsDialogAsksForAFoldWhereOneIsInstalled)
         ModalUser user;
         user.then([&](QWidget& window) { name = window.objectName(); });
         user.then(ok);
-        EXPECT_EQ(RunModalBookletOptionsDialog(params), noErr);
+        EXPECT_EQ(RunModalBookletOptionsDialog(bundle, booklet), noErr);
         return name.toStdString();
     };
-    params.fold = kBookletFold;
+    booklet.fold = kFoldBi;
     EXPECT_EQ(windowWith({}), "BookletOptions");
-    EXPECT_EQ(params.fold, kBookletFold) << "not asked for";
+    EXPECT_EQ(booklet.fold, kFoldBi) << "not asked for";
     for (const char* feature : {"BookletFoldKey", "BiFoldMultiple", "BiFoldStapleMultiple"})
         EXPECT_EQ(windowWith({QString::fromLatin1(feature)}), "BookletFinishingOptions") << feature;
-    EXPECT_EQ(params.fold, kBookletFold);
+    EXPECT_EQ(booklet.fold, kFoldBi);
 }
 
 TEST_F(BookletDialogTest, WithoutItsWindowItChangesNothing)
 {
     bundle.resourcesPath = u"/nowhere"_s;
-    EXPECT_EQ(RunModalBookletOptionsDialog(params), kInterfaceFileUnreadable);
-    _BookletCreationParams nobody;
-    EXPECT_EQ(RunModalBookletCreationDialog(nobody), kMissingArgument);
+    EXPECT_EQ(RunModalBookletOptionsDialog(bundle, booklet), kInterfaceFileUnreadable);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "panels/booklet_watermark/booklet/BookletRules.h"
 
 #include "pde/interface/TicketKeys.h"
-#include "platform/printsystem/Ticket.h"
+#include "printer/FinishingKinds.h"
 
 #include <gtest/gtest.h>
 
@@ -41,14 +41,13 @@ TEST(BookletRules, TheFirstSpecialPagesOfATicketLockTheBookletOrNot)
 TEST(BookletRules, TheIllustrationShowsFoldLayoutAndBorders)
 {
     const auto picture = [](SInt32 layout, SInt32 fold, SInt32 outlines) {
-        return std::string(BookletIllustration(layout, fold, outlines));
+        return std::string(BookletIllustration({.fold = fold, .layout = layout, .drawOutlines = outlines}));
     };
-    EXPECT_EQ(picture(kBookletLayoutOff, kBookletFold, kDrawPageBorders), "BookletCreation_Fold.gif");
-    EXPECT_EQ(picture(kBookletLayoutOff, kBookletFoldAndStaple, kNoPageBorders), "BookletCreation_Fold-Staple.gif");
-    EXPECT_EQ(picture(kBookletLayoutOff, kBookletFoldNone, kDrawPageBorders), "BookletCreation_None.gif");
-    EXPECT_EQ(picture(kBookletLayoutOn, kBookletFold, kDrawPageBorders), "BookletCreation_Booklet-Fold-Outlines.gif");
-    EXPECT_EQ(picture(kBookletLayoutOn, kBookletFoldAndStaple, kNoPageBorders),
-              "BookletCreation_Booklet-Fold-Staple.gif");
+    EXPECT_EQ(picture(kBookletLayoutOff, kFoldBi, kDrawPageBorders), "BookletCreation_Fold.gif");
+    EXPECT_EQ(picture(kBookletLayoutOff, kFoldBiStaple, kNoPageBorders), "BookletCreation_Fold-Staple.gif");
+    EXPECT_EQ(picture(kBookletLayoutOff, kNotFinished, kDrawPageBorders), "BookletCreation_None.gif");
+    EXPECT_EQ(picture(kBookletLayoutOn, kFoldBi, kDrawPageBorders), "BookletCreation_Booklet-Fold-Outlines.gif");
+    EXPECT_EQ(picture(kBookletLayoutOn, kFoldBiStaple, kNoPageBorders), "BookletCreation_Booklet-Fold-Staple.gif");
     EXPECT_EQ(picture(kBookletLayoutOn, 20, kDrawPageBorders), "BookletCreation_Booklet-Outlines.gif");
     EXPECT_EQ(picture(kBookletLayoutOn, 0, 0), "BookletCreation_Booklet.gif");
 }

@@ -1,5 +1,7 @@
 // Draws glyphs of converted fonts with an interpreter and compares them with what a rasterizer makes of the originals.
 
+#include "panels/booklet_watermark/FontBuilder.h"
+#include "panels/booklet_watermark/fonts/GlyphNames.h"
 #include "panels/booklet_watermark/fonts/Sfnt.h"
 #include "panels/booklet_watermark/fonts/SfntName.h"
 #include "panels/booklet_watermark/fonts/Type42.h"
@@ -14,6 +16,8 @@
 
 #include <filesystem>
 #include <memory>
+#include <numeric>
+#include <string>
 
 namespace kesta::booklet_watermark {
 namespace {
@@ -62,6 +66,12 @@ public:
     Rasterizer(const Rasterizer&) = delete;
     Rasterizer& operator=(const Rasterizer&) = delete;
 
+    std::string nameOf(unsigned glyph) const
+    {
+        std::array<char, 64> name{};
+        EXPECT_EQ(FT_Get_Glyph_Name(face_, glyph, name.data(), name.size()), 0);
+        return name.data();
+    }
     unsigned glyphCount() const { return static_cast<unsigned>(face_->num_glyphs); }
 
     Picture draw(unsigned glyph)
@@ -216,6 +226,26 @@ TEST_P(Type42Unfinished, ALongTableCannotBeCut)
 }
 
 INSTANTIATE_TEST_SUITE_P(Installed, Type42Unfinished, testing::ValuesIn(Fonts(true)), TestName);
+
+// The rasterizer has the names of the standard Macintosh order, too; codes of the standard encoding up to 126 follow it
+// but for two quotes.
+TEST(GlyphNames, AreThoseThatTheRasterizerKnows)
+{
+    std::vector<unsigned> order(_macGlyphEncoding.size());
+    std::iota(order.begin(), order.end(), 0U);
+    test::FontBuilder font;
+    font.setNames(order, {});
+    font["hhea"] = test::BigEndian32(0x00010000) + QByteArray(30, '\0') + test::BigEndian16(1); // one width for all
+    font["hmtx"] = QByteArray(2 + 2 * static_cast<qsizetype>(order.size()), '\0');
+    const QByteArray file = font.file();
+    const Rasterizer rasterizer(file);
+    for (const unsigned glyph : order)
+        EXPECT_EQ(rasterizer.nameOf(glyph), _macGlyphEncoding[glyph]) << glyph;
+    for (std::size_t code = ' '; code <= '~'; ++code) {
+        const bool isQuote = code == '\'' || code == '`';
+        EXPECT_EQ(_StandardEncodings[code] == _macGlyphEncoding[code - ' ' + 3], !isQuote) << code;
+    }
+}
 
 } // namespace
 } // namespace kesta::booklet_watermark

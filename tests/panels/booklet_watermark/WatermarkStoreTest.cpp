@@ -1,4 +1,5 @@
 #include "panels/booklet_watermark/watermark/WatermarkStore.h"
+#include "panels/booklet_watermark/watermark/WatermarkDefaults.h"
 
 #include "platform/system/SafeFile.h"
 #include "platform/system/SharedStoreFile.h"

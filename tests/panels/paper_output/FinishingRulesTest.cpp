@@ -51,48 +51,6 @@ QStringList Words(const char* words)
     return QString::fromLatin1(words).split(u' ', Qt::SkipEmptyParts);
 }
 
-struct AccessoryCase {
-    const char* finisher;
-    const char* punchUnit;
-    FinishingAccessories fitted;
-    const char* finishing; // with a booklet maker
-    const char* staples;   // without one
-    const char* punches;
-};
-
-// clang-format off
-constexpr AccessoryCase kAccessoryCases[] = {
-    {"None", "None", {}, "", "Stp0=1", ""},
-    {"OCT", "HolePunch23", {.hasPunch = true}, "", "Stp0=1", "Hpn0=1 Hpn2=3 Hpn3=4"},
-    {"CClass", "None", {.hasStapler = true}, "", "Stp0=1 Stp1=5 Stp2=10 Stp4=54", ""},
-    {"CClass", "HolePunch24", {.hasStapler = true, .hasPunch = true}, "",
-     "Stp0=1 Stp1=5 Stp2=10 Stp4=54", "Hpn0=1 Hpn2=3 Hpn4=5"},
-    {"CClass_BK", "None", {.hasStapler = true, .hasFolder = true},
-     "Stp0=1 Stp1=5 Stp2=10 Stp4=54 -- -- Bkcr=0", "", ""},
-    {"CClass_BK", "HolePunch23", {.hasStapler = true, .hasPunch = true, .hasFolder = true},
-     "Stp0=1 Stp1=5 Stp2=10 Stp4=54 -- Hpn0=1 Hpn2=3 Hpn3=4 -- Bkcr=0", "", ""},
-    {"DClass", "HolePunch23", {.hasStapler = true, .hasPunch = true, .hasFolder = true},
-     "Stp0=1 Stp1=5 Stp2=10 Stp4=54 -- Hpn0=1 Hpn2=3 Hpn3=4 -- Fld0=1 Bfld=43 Zfol=36 -- Bkcr=0", "", ""},
-    {"DClass_BK", "HolePunch24", {.hasStapler = true, .hasPunch = true, .hasFolder = true},
-     "Stp0=1 Stp1=5 Stp2=10 Stp4=54 -- Hpn0=1 Hpn2=3 Hpn4=5 -- Fld0=1 Bfld=43 Cfld=19 Zfld=20 Zfol=36 -- Bkcr=0", "", ""},
-};
-// clang-format on
-
-TEST(FinishingMenus, OfferWhatIsFitted)
-{
-    for (const AccessoryCase& one : kAccessoryCases) {
-        SCOPED_TRACE(std::string(one.finisher) + ' ' + one.punchUnit);
-        const test::WithAccessories fitted({{"Option2", one.finisher}, {"Option4", one.punchUnit}});
-        EXPECT_EQ(GetFinishingAccessories(), one.fitted);
-        if (one.fitted.hasFolder) {
-            EXPECT_EQ(Items(FinishingMenu(Texts())), Words(one.finishing));
-            continue;
-        }
-        EXPECT_EQ(Items(StapleMenu(Texts())), Words(one.staples));
-        EXPECT_EQ(Items(PunchMenu(Texts())), Words(one.punches));
-    }
-}
-
 TEST(FinishingMenus, AUnitForWhateverHolesHidesTheCountedOnes)
 {
     const test::WithFeatures fitted({u"GenericPunchKey"_s, u"TriplePunchKey"_s});
@@ -102,107 +60,80 @@ TEST(FinishingMenus, AUnitForWhateverHolesHidesTheCountedOnes)
 
 using Options = PaperOutputOptions;
 
-Options After(Options options, FourCharCode command, SInt32 value)
+Options After(Options options, FourCharCode command)
 {
-    EXPECT_TRUE(ApplyFinishingCommand(options, command, value));
+    EXPECT_TRUE(ApplyFinishingCommand(options, command));
     return options;
 }
 
-Options Stapled(SInt32 Options::*kind, SInt32 staple)
+Options Finished(SInt32 option, SInt32 staple, SInt32 punch, SInt32 fold)
 {
-    Options options;
-    options.*kind = staple;
-    options.staplesChosen = true;
-    return options;
+    return {.booklet = {.fold = fold}, .finishingOption = option, .staple = staple, .punch = punch};
 }
 
-TEST(FinishingRules, EachStapleEndsTheOthersAndTheFold)
+TEST(FinishingRules, OneOrTwoStaplesGoWithHolesAndTheRestGoesAlone)
 {
-    const Options before{
-        .finishingOption = kFoldFinishing, .singleStaple = 5, .punchState = 32, .punch = kPunchTwo, .fold = kFoldZ};
-    Options expected{.finishingOption = kDualStapleFinishing,
-                     .dualStaple = kDualStaple,
-                     .staplesChosen = true,
-                     .punchState = 32,
-                     .punch = kPunchTwo};
-    const Options twice = After(before, kStapleTwice, kDualStaple);
-    EXPECT_EQ(twice, expected) << "holes go with two staples";
-    expected.finishingOption = kSingleStapleFinishing;
-    expected.singleStaple = kSingleStaple;
-    expected.dualStaple = kNone;
-    const Options once = After(twice, kStapleOnce, kSingleStaple);
-    EXPECT_EQ(once, expected);
-    const Options four = After(once, kStapleFourTimes, 99);
-    EXPECT_EQ(four, (Options{.finishingOption = kMultipleStapleFinishing,
-                             .multipleStaple = kMultipleStaple, // whatever the item's value
-                             .staplesChosen = true}));
-    EXPECT_EQ(After(four, kNoStaple, kNone), Options{.finishingOption = kMultipleStapleFinishing}) << "which stays";
-}
-
-TEST(FinishingRules, HolesEndFourStaplesAndFoldsEndBoth)
-{
-    const Options punched = After({.multipleStaple = kMultipleStaple}, kThreeHoles, kPunchThree);
-    EXPECT_EQ(punched, (Options{.finishingOption = kPunchFinishing, .punchState = 32, .punch = kPunchThree}));
-    EXPECT_EQ(After({.dualStaple = 10}, kTwoHoles, kPunchTwo).dualStaple, 10);
-    EXPECT_EQ(After(punched, kNoHoles, kNone).punch, kNone);
-    const Options folded = After(punched, kHalfSheetZFold, kFoldZHalfSheet);
-    EXPECT_EQ(folded, (Options{.finishingOption = kFoldFinishing, .fold = kFoldZHalfSheet}));
-    EXPECT_EQ(After(folded, kNoFold, kNone), Options{.finishingOption = kFoldFinishing}) << "which stays";
+    const Options holes = After(Finished(40, 1, 1, 20), "Hpn2"_code);
+    EXPECT_EQ(holes, Finished(30, 1, 3, 1));
+    const Options twice = After(holes, "Stp2"_code);
+    EXPECT_EQ(twice, Finished(9, 10, 3, 1));
+    EXPECT_EQ(After(twice, "Hpn3"_code), Finished(30, 10, 4, 1));
+    const Options four = After(twice, "Stp4"_code);
+    EXPECT_EQ(four, Finished(53, 54, 1, 1));
+    EXPECT_EQ(After(four, "Hpn2"_code), Finished(30, 1, 3, 1));
+    EXPECT_EQ(After(four, "Stp0"_code), Finished(53, 1, 1, 1)) << "the option stays";
+    const Options folded = After(twice, "Zfol"_code);
+    EXPECT_EQ(folded, Finished(40, 1, 1, 36));
+    EXPECT_EQ(After(folded, "Stp1"_code), Finished(4, 5, 1, 1));
+    EXPECT_EQ(After(folded, "Hpn0"_code), folded);
+    EXPECT_EQ(After(folded, "Fld0"_code), Finished(40, 1, 1, 1));
 }
 
 TEST(FinishingRules, AnyOtherFinishingLeavesTheBookletFold)
 {
-    const Options booklet{.bookletLayout = kBookletOn,
+    const Options booklet{.booklet = {.fold = kFoldBiStaple, .layout = kBookletLayoutOn},
                           .duplex = kTwoSidedShortEdge,
-                          .finishingOption = kBookletFoldFinishing,
-                          .fold = kFoldBiStaple};
-    for (const FourCharCode command : {kNoStaple, kNoHoles}) {
-        const Options left = After(booklet, command, kNone);
+                          .finishingOption = kBookletFoldFinishing};
+    for (const FourCharCode command : {"Stp0"_code, "Hpn0"_code}) {
+        const Options left = After(booklet, command);
         EXPECT_EQ(left.finishingOption, kNoFinishing);
-        EXPECT_EQ(left.fold, kNone);
+        EXPECT_EQ(left.booklet.fold, kNotFinished);
         EXPECT_EQ(left.duplex, kTwoSidedLongEdge);
     }
     Options unchanged = booklet;
     for (const FourCharCode command : {kBookletCreation, "Xsep"_code, "Styp"_code, kNoCommand})
-        EXPECT_FALSE(ApplyFinishingCommand(unchanged, command, 5));
+        EXPECT_FALSE(ApplyFinishingCommand(unchanged, command));
     EXPECT_EQ(unchanged, booklet);
 }
 
 TEST(FinishingRules, TheStaplePopUpKnowsItsValues)
 {
-    const auto choose = [](SInt32 staple) {
-        Options options = Stapled(&Options::singleStaple, 5);
+    Options options;
+    for (const SInt32 staple : {5, 6, 12, 54, 1}) {
         ChooseStaple(options, staple);
-        return std::array{options.singleStaple, options.dualStaple, options.multipleStaple,
-                          SInt32{options.staplesChosen}};
-    };
-    EXPECT_EQ(choose(6), (std::array{6, 1, 1, 1}));
-    EXPECT_EQ(choose(12), (std::array{1, 12, 1, 1}));
-    EXPECT_EQ(choose(54), (std::array{1, 1, 54, 1}));
-    EXPECT_EQ(choose(1), (std::array{1, 1, 1, 1}));
-    EXPECT_EQ(choose(11), (std::array{1, 1, 1, 0}));
+        EXPECT_EQ(options.staple, staple);
+    }
+    ChooseStaple(options, 99);
+    EXPECT_EQ(options.staple, kNotFinished);
 }
 
 TEST(FinishingRules, ABookletTakesTheFinishingOverAndGivesTwoSidedBack)
 {
-    Options options{.bookletLayout = kBookletOn,
+    Options options{.booklet = {.fold = kFoldBi, .layout = kBookletLayoutOn},
                     .duplex = kTwoSidedLongEdge,
-                    .dualStaple = kDualStaple,
-                    .punch = kPunchTwo,
-                    .fold = kFoldBi,
+                    .staple = 10,
+                    .punch = 3,
                     .offset = 2,
                     .offsetSubset = 1};
     ApplyBooklet(options, kTwoSidedLongEdge);
-    EXPECT_EQ(options, (Options{.bookletLayout = kBookletOn,
+    EXPECT_EQ(options, (Options{.booklet = {.fold = kFoldBi, .layout = kBookletLayoutOn},
                                 .duplex = kTwoSidedLongEdge,
                                 .duplexSaved = kTwoSidedLongEdge,
                                 .finishingOption = kBookletFoldFinishing,
-                                .fold = kFoldBi,
                                 .bindValue = 1,
                                 .offsetPagesPerSubset = 0}));
     options.duplex = kTwoSidedShortEdge; // what writing the booklet makes of it
-    options.bookletLayout = kBookletOff;
-    options.fold = kNone;
+    options.booklet = {};
     ApplyBooklet(options, kTwoSidedShortEdge);
     EXPECT_EQ(options.finishingOption, kNoFinishing);
     EXPECT_EQ(options.duplex, kTwoSidedLongEdge);
@@ -211,11 +142,11 @@ TEST(FinishingRules, ABookletTakesTheFinishingOverAndGivesTwoSidedBack)
 
 TEST(FinishingRules, OtherFinishingOutlivesABookletDialogWithoutAFold)
 {
-    Options options = Stapled(&Options::singleStaple, 5);
-    options.finishingOption = kSingleStapleFinishing;
+    Options options = Finished(4, 5, 1, 1);
     options.offset = 2;
     ApplyBooklet(options, std::nullopt);
-    EXPECT_EQ(options.finishingOption, kSingleStapleFinishing);
+    EXPECT_EQ(options.finishingOption, 4);
+    EXPECT_EQ(options.staple, 5);
     EXPECT_EQ(options.offset, 2);
 }
 
@@ -266,7 +197,7 @@ TEST(FinishingRules, PaperDecidesAboutSquareFold)
 
 TEST(FinishingRules, ABookletInTheTicketLocksTheStaples)
 {
-    Menu menu{.items = {{.command = kStapleOnce}, {.command = kStapleFourTimes}, {.command = kPadPrinting}}};
+    Menu menu{.items = {{.command = "Stp1"_code}, {.command = "Stp4"_code}, {.command = kPadPrinting}}};
     const auto enabled = [&] {
         return std::array{menu.items[0].enabled, menu.items[1].enabled, menu.items[2].enabled};
     };
@@ -295,10 +226,10 @@ TEST(FinishingRules, MarksShowTheJobsFinishing)
         return Checked(menu);
     };
     EXPECT_EQ(checked({}), Words("Stp0=1 Hpn0=1 Fld0=1"));
-    EXPECT_EQ(checked({.dualStaple = 10, .punch = kPunchThree}), Words("Stp2=10 Hpn3=4 Fld0=1"));
-    EXPECT_EQ(checked({.multipleStaple = 54, .fold = kFoldC}), Words("Stp4=54 Hpn0=1 Cfld=19"));
-    EXPECT_EQ(checked({.bookletLayout = kBookletOn, .singleStaple = 5}), Words("Bkcr=0"));
-    EXPECT_EQ(checked({.finishingOption = kBookletFoldFinishing, .fold = kFoldBi}), Words("Bkcr=0"));
+    EXPECT_EQ(checked(Finished(30, 10, 4, 1)), Words("Stp2=10 Hpn3=4 Fld0=1"));
+    EXPECT_EQ(checked(Finished(40, 1, 1, 19)), Words("Stp0=1 Hpn0=1 Cfld=19"));
+    EXPECT_EQ(checked({.booklet = {.layout = kBookletLayoutOn}, .staple = 5}), Words("Bkcr=0"));
+    EXPECT_EQ(checked(Finished(kBookletFoldFinishing, 1, 1, kFoldBi)), Words("Bkcr=0"));
 }
 
 TEST(FinishingSummary, HasOneLineForEachKindOfFinishing)
@@ -307,15 +238,12 @@ TEST(FinishingSummary, HasOneLineForEachKindOfFinishing)
         return CreateFinishingString(Texts(), options, accessories);
     };
     constexpr FinishingAccessories kAll{.hasStapler = true, .hasPunch = true, .hasFolder = true};
-    EXPECT_EQ(summary({.singleStaple = 5, .punch = 4}, {.hasStapler = true, .hasPunch = true}),
-              u"- 1 Staple\n- 3 Hole Punch\n"_s);
-    EXPECT_EQ(summary({}, kAll), u"- No Staple Value\n- NoHolePunch\n- No Fold\n"_s);
-    EXPECT_EQ(summary({.multipleStaple = 54, .punch = 2, .fold = 36}, kAll),
-              u"- 4 Staples\n- HolePunch\n- Z Fold Half Sheet\n"_s);
-    EXPECT_EQ(summary({.dualStaple = 10, .punch = 5, .fold = 43}, kAll),
-              u"- 2 Staples\n- 4 Hole Punch\n- BiFoldNoStaple\n"_s);
-    EXPECT_EQ(summary({.finishingOption = 24, .fold = 53}, kAll), u"- Booklet FoldStaple\n"_s);
-    EXPECT_EQ(summary({.bookletLayout = kBookletOn, .fold = 1}, kAll), u"- No Fold\n- Booklet Layout\n"_s);
+    EXPECT_EQ(summary(Finished(4, 5, 4, 1), {.hasStapler = true, .hasPunch = true}), u"- 1 Staple\n- 3 Hole Punch\n"_s);
+    EXPECT_EQ(summary(Finished(30, 1, kPunchAny, kFoldBiStaple), kAll),
+              u"- No Staple Value\n- HolePunch\n- No Fold\n"_s)
+        << "a booklet's fold without a booklet";
+    EXPECT_EQ(summary(Finished(24, 1, 1, 53), kAll), u"- Booklet FoldStaple\n"_s);
+    EXPECT_EQ(summary({.booklet = {.fold = 19, .layout = kBookletLayoutOn}}, kAll), u"- No Fold\n- Booklet Layout\n"_s);
     EXPECT_EQ(summary({}, {}), u""_s);
     EXPECT_FALSE(summary({}, {}).isNull()) << "an empty text is shown, none is not";
 }
@@ -341,23 +269,17 @@ TEST(FinishingSummary, TransparenciesNameTheirSeparators)
     EXPECT_FALSE(summary().contains(u"Separators"_s));
 }
 
+// Of states that no choice leads to; the others are golden choices.
 TEST(PaperOutputPictures, ShowTheState)
 {
-    EXPECT_EQ(JobTypePicture(6), u"JobType_SecurePrint.gif"_s);
+    EXPECT_EQ(JobTypePicture(9), u"JobType_BackgroundForm.gif"_s);
     EXPECT_EQ(JobTypePicture(4), QString());
-    EXPECT_EQ(TwoSidedPicture({.duplex = 3}), u"2SidedPrinting_2SidedFlip.gif"_s);
-    EXPECT_EQ(TwoSidedPicture({.bookletLayout = kBookletOn, .duplex = 3}), u"2SidedPrinting_2Sided.gif"_s);
-    EXPECT_EQ(StaplePicture({.multipleStaple = 54}), u"OfficeFinishing_4St.gif"_s);
+    EXPECT_EQ(TwoSidedPicture({.booklet = {.layout = kBookletLayoutOn}, .duplex = 3}), u"2SidedPrinting_2Sided.gif"_s);
     EXPECT_EQ(PunchPicture(kPunchAny), u"OfficeFinishing_3Hp.gif"_s);
-    EXPECT_EQ(PunchPicture(kNone), QString());
-    EXPECT_EQ(FinishingPicture({.dualStaple = 10, .punch = 4}), u"OfficeFinishing_2St&3Hp.gif"_s);
-    EXPECT_EQ(FinishingPicture({.singleStaple = 5}), u"OfficeFinishing_1St.gif"_s);
-    EXPECT_EQ(FinishingPicture({.fold = 36}), u"ProductionFinishing_ZFold_Half_Left.gif"_s);
-    EXPECT_EQ(FinishingPicture({.finishingOption = 24, .fold = 53}), u"OfficeFinishing_BKlt_Fold&Stple.gif"_s);
-    EXPECT_EQ(FinishingPicture({.bookletLayout = 1, .fold = 53}), u"OfficeFinishing_Bklt_Fold&Stpl_Layout.gif"_s);
-    EXPECT_EQ(FinishingPicture({}), QString());
-    EXPECT_EQ(OutputColorPicture(1), u"OutputColor_BlackandWhite.gif"_s);
-    EXPECT_EQ(OutputColorPicture(201), u"OutputColor_PrnDef.gif"_s);
+    EXPECT_EQ(FinishingPicture(Finished(30, 10, 4, 1)), u"OfficeFinishing_2St&3Hp.gif"_s);
+    EXPECT_EQ(FinishingPicture(Finished(24, 1, 1, kFoldBiStaple)), u"OfficeFinishing_BKlt_Fold&Stple.gif"_s);
+    EXPECT_EQ(FinishingPicture({.booklet = {.fold = kFoldBiStaple, .layout = kBookletLayoutOn}}),
+              u"OfficeFinishing_Bklt_Fold&Stpl_Layout.gif"_s);
 }
 
 TEST(JobTypes, WithASetupAreSix)

@@ -29,28 +29,24 @@ PaperOutputOptions Chosen()
     chosen.separatorStock.setColor(5);
     chosen.outputBin = 4;
     chosen.printQuality = 200;
-    chosen.jobType = kJobTypeSavedJob;
-    chosen.jobTypeDetails = {.securePasscode = u"4711"_s,
-                             .hasPasscode = true,
-                             .delayedPrintTime = 3'900'000'000,
-                             .saveDisposition = 2,
-                             .savedJobName = u"Minutes"_s,
-                             .useJobName = false,
-                             .savedJobLocation = u"file:///archive/"_s,
-                             .useDefaultLocation = false,
-                             .mediaTypeInJob = 3};
+    chosen.jobType = {.number = kJobTypeSavedJob,
+                      .securePasscode = u"4711"_s,
+                      .hasPasscode = true,
+                      .delayedPrintTime = 3'900'000'000,
+                      .saveDisposition = 2,
+                      .savedJobName = u"Minutes"_s,
+                      .useJobName = false,
+                      .savedJobLocation = u"file:///archive/"_s,
+                      .useDefaultLocation = false,
+                      .mediaTypeInJob = 3};
     chosen.faxOptions = Dictionary{{"CoverSheet", true}};
     chosen.recipientList.emplace(Array{Dictionary{{"kFaxRecipientFaxNumberProperty", "123"}}});
-    chosen.bookletLayout = kBookletOn;
-    chosen.bookletDrawOutlines = 2;
-    chosen.bookletSize = 4;
-    chosen.bookletGutter = 36;
-    chosen.bookletCreep = 7;
+    chosen.booklet = {
+        .fold = 20, .layout = kBookletLayoutOn, .drawOutlines = 2, .newPaperSize = 4, .gutter = 36, .creep = 7};
     chosen.duplex = kTwoSidedShortEdge;
-    chosen.finishingOption = kPunchFinishing;
-    chosen.dualStaple = kDualStaple;
-    chosen.punch = kPunchThree;
-    chosen.fold = kFoldZ;
+    chosen.finishingOption = 30;
+    chosen.staple = 10;
+    chosen.punch = 4;
     chosen.bindValue = 2;
     chosen.offset = 2;
     chosen.offsetSubset = 1;
@@ -71,7 +67,7 @@ TEST(PaperOutputOptions, EveryFieldSurvivesTheTicket)
 
     EXPECT_EQ(second.values(), first.values());
     EXPECT_EQ(second.ppdDict(), first.ppdDict());
-    chosen.jobTypeDict = read.jobTypeDict; // made by the writing
+    chosen.jobType.entries = read.jobType.entries; // made by the writing
     EXPECT_EQ(read, chosen);
     EXPECT_EQ(first.ppdDict(), (Dictionary{{"Duplex", "DuplexTumble"},
                                            {"KSFold", "Z"},
@@ -101,14 +97,14 @@ TEST(PaperOutputOptions, NumbersKeepTheirStoredTypes)
 TEST(PaperOutputOptions, ATicketWithoutAJobTypeIsANormalJobNamedAfterItsDocument)
 {
     PaperOutputOptions options;
-    options.jobTypeDetails.savedJobName = u"Report"_s;
-    options.jobType = kJobTypeSavedJob;
+    options.jobType.savedJobName = u"Report"_s;
+    options.jobType.number = kJobTypeSavedJob;
     Ticket ticket;
     ReadTicket(options, ticket, nullptr);
-    EXPECT_EQ(options.jobType, kJobTypeNormal);
-    EXPECT_TRUE(options.jobTypeDetails.useJobName);
-    EXPECT_EQ(options.jobTypeDetails.savedJobName, QString(u""_s));
-    EXPECT_FALSE(options.jobTypeDetails.hasPasscode);
+    EXPECT_EQ(options.jobType.number, kJobTypeNormal);
+    EXPECT_TRUE(options.jobType.useJobName);
+    EXPECT_EQ(options.jobType.savedJobName, QString(u""_s));
+    EXPECT_FALSE(options.jobType.hasPasscode);
 
     WriteTicket(options, ticket);
     EXPECT_EQ(*JobTypeOf(ticket), (Dictionary{{"JobType", Number::SInt32(1)},
@@ -124,9 +120,9 @@ TEST(PaperOutputOptions, WhatASavedJobAloneNeedsGoesWithTheJobType)
     WriteTicket(options, ticket);
     EXPECT_TRUE(JobTypeOf(ticket)->find("SaveDisposition"));
 
-    options.jobType = kJobTypeNormal;
-    options.jobTypeDetails.useJobName = options.jobTypeDetails.useDefaultLocation = true;
-    options.jobTypeDetails.securePasscode.reset();
+    options.jobType.number = kJobTypeNormal;
+    options.jobType.useJobName = options.jobType.useDefaultLocation = true;
+    options.jobType.securePasscode.reset();
     WriteTicket(options, ticket);
     EXPECT_FALSE(JobTypeOf(ticket)->find("SaveDisposition"));
     EXPECT_FALSE(JobTypeOf(ticket)->find("SavedJobName"));
@@ -146,7 +142,7 @@ TEST(PaperOutputOptions, EntriesOfTheJobTypeThatAreNobodysHerePassThrough)
 
 TEST(PaperOutputOptions, ABookletForcesShortEdgeInAllThreePlaces)
 {
-    PaperOutputOptions options{.bookletLayout = kBookletOn, .duplex = kTwoSidedLongEdge};
+    PaperOutputOptions options{.booklet = {.layout = kBookletLayoutOn}, .duplex = kTwoSidedLongEdge};
     Ticket ticket;
     WriteTicket(options, ticket);
     EXPECT_EQ(PPDCopyCurrentChoice(ticket, "Duplex"), u"DuplexTumble"_s);
@@ -159,7 +155,7 @@ TEST(PaperOutputOptions, ABookletForcesShortEdgeInAllThreePlaces)
 
 TEST(PaperOutputOptions, BookletAndDuplexAreWrittenOnlyByWhomTheyBelongTo)
 {
-    PaperOutputOptions options{.bookletLayout = kBookletOn};
+    PaperOutputOptions options{.booklet = {.layout = kBookletLayoutOn}};
     Ticket ticket;
     WriteTicket(options, ticket, {.booklet = false, .duplex = false});
     for (const char* key : {key::BookletLayout, key::Gutter, key::FinishingDuplex, key::PMDuplexing})
@@ -174,7 +170,7 @@ TEST(PaperOutputOptions, AForcedBookletSizeIsReadWithItsFlagOnly)
     WriteTicket(options, ticket);
     ticket.set("X", key::BookletForceNewSize, false);
     ReadTicket(options, ticket, nullptr);
-    EXPECT_EQ(options.bookletSize, kUnset);
+    EXPECT_EQ(options.booklet.newPaperSize, kUnset);
 }
 
 TEST(PaperOutputOptions, TwoSidedComesFromTheFirstPlaceThatSaysIt)
@@ -199,30 +195,14 @@ TEST(PaperOutputOptions, ASingleStapleFollowsTheOrientation)
         const char* choice;
     };
     for (const Case& page : {Case{1, "SinglePortrait"}, Case{2, "SingleLandscape"}, Case{3, "SinglePortrait"}}) {
-        PaperOutputOptions options{.orientation = page.orientation, .singleStaple = kSingleStaple};
+        PaperOutputOptions options{.orientation = page.orientation, .staple = 5};
         Ticket ticket;
         WriteTicket(options, ticket);
         EXPECT_EQ(PPDCopyCurrentChoice(ticket, "StapleLocation"), QLatin1StringView(page.choice));
         PaperOutputOptions read;
         ReadTicket(read, ticket, nullptr);
-        EXPECT_EQ(read.singleStaple, kSingleStaple) << page.choice;
+        EXPECT_EQ(read.staple, 5) << page.choice;
     }
-}
-
-TEST(PaperOutputOptions, StaplesAreReadIntoTheirKind)
-{
-    const auto read = [](const char* choice) {
-        Ticket ticket;
-        PPDSetCurrentChoice(ticket, "StapleLocation", choice);
-        PaperOutputOptions options{.singleStaple = 5, .dualStaple = 10, .multipleStaple = 54};
-        ReadTicket(options, ticket, nullptr);
-        return std::array{options.singleStaple, options.dualStaple, options.multipleStaple};
-    };
-    EXPECT_EQ(read("SinglePortrait"), (std::array{5, 1, 1}));
-    EXPECT_EQ(read("DualLandscape"), (std::array{1, 10, 1}));
-    EXPECT_EQ(read("MultipleStaples"), (std::array{1, 1, 54}));
-    EXPECT_EQ(read("None"), (std::array{1, 1, 1}));
-    EXPECT_EQ(read("Glue"), (std::array{1, 1, 1}));
 }
 
 TEST(PaperOutputOptions, WhatTheTicketLacksComesFromThePPD)
@@ -234,10 +214,10 @@ TEST(PaperOutputOptions, WhatTheTicketLacksComesFromThePPD)
     PaperOutputOptions options;
     ReadTicket(options, Ticket(), PPDGetCurrent());
     EXPECT_EQ(options.duplex, kTwoSidedLongEdge);
-    EXPECT_EQ(options.punch, kPunchTwo);
-    EXPECT_EQ(options.fold, kFoldC);
+    EXPECT_EQ(options.punch, 3);
+    EXPECT_EQ(options.booklet.fold, 19);
     EXPECT_EQ(options.outputBin, 2);
-    EXPECT_EQ(options.dualStaple, kDualStaple);
+    EXPECT_EQ(options.staple, 10);
     EXPECT_EQ(options.stock.color(), 2);
     EXPECT_EQ(options.stock.size(), kStockSizeLetter);
 }
@@ -299,12 +279,12 @@ TEST(PaperOutputOptions, ADamagedTicketReadsAsAnEmptyOne)
                                {"DelayedPrintTime", Value(u"soon"_s)}});
         PaperOutputOptions options;
         ReadTicket(options, damaged, nullptr);
-        EXPECT_EQ(options.jobType, kJobTypeNormal);
+        EXPECT_EQ(options.jobType.number, kJobTypeNormal);
         EXPECT_EQ(options.printQuality, kStandardQuality);
         EXPECT_EQ(options.duplex, kOneSided);
-        EXPECT_EQ(options.bookletLayout, kBookletOff);
-        EXPECT_EQ(options.jobTypeDetails.securePasscode, std::nullopt);
-        EXPECT_TRUE(options.jobTypeDetails.useJobName);
+        EXPECT_EQ(options.booklet.layout, kBookletLayoutOff);
+        EXPECT_EQ(options.jobType.securePasscode, std::nullopt);
+        EXPECT_TRUE(options.jobType.useJobName);
         EXPECT_EQ(options.stock, untouched.stock);
         EXPECT_FALSE(options.faxOptions);
         Ticket rewritten;

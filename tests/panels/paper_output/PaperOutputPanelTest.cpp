@@ -2,7 +2,10 @@
 
 #include "panels/PanelFixture.h"
 #include "panels/booklet_watermark/booklet/BookletDialog.h"
-#include "panels/paper_output/JobTypeSetups.h"
+#include "panels/paper_output/DelayedPrint.h"
+#include "panels/paper_output/PasscodeFields.h"
+#include "panels/paper_output/SavedJob.h"
+#include "panels/paper_output/SecurePrint.h"
 #include "panels/special_pages/paper/SeparatorsDialog.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/menus/MenuUtilities.h"
@@ -50,8 +53,8 @@ TEST_F(PaperOutputPanelTest, WhatTheUserPicksReachesTheTicketAndComesBack)
     EXPECT_TRUE(test::Pick(popup(kTwoSidedPopup), kTwoSidedLongEdge));
     EXPECT_TRUE(test::Pick(popup(kQualityPopup), 200));
     EXPECT_TRUE(test::Pick(popup(kDestinationPopup), 4));
-    EXPECT_TRUE(choose(kFinishingMenuButton, kStapleTwice));
-    EXPECT_TRUE(choose(kFinishingMenuButton, kThreeHoles));
+    EXPECT_TRUE(choose(kFinishingMenuButton, "Stp2"_code));
+    EXPECT_TRUE(choose(kFinishingMenuButton, "Hpn3"_code));
     EXPECT_EQ(text(kFinishingSummary), u"- 2 Staples\n- 3 Hole Punch\n- No Fold"_s);
     EXPECT_EQ(picture(kFinishingPicture), u"OfficeFinishing_2St&3Hp.gif"_s);
     EXPECT_EQ(picture(kJobTypePicture), u"JobType_SampleSet.gif"_s);
@@ -67,7 +70,7 @@ TEST_F(PaperOutputPanelTest, WhatTheUserPicksReachesTheTicketAndComesBack)
 
     EXPECT_TRUE(test::Pick(popup(kJobTypePopup), 1));
     EXPECT_TRUE(test::Pick(popup(kDestinationPopup), 1));
-    EXPECT_TRUE(choose(kFinishingMenuButton, kCFold));
+    EXPECT_TRUE(choose(kFinishingMenuButton, "Cfld"_code));
     ASSERT_EQ(sync(true), noErr);
     EXPECT_EQ(GetPopupButtonTicketValue(popup(kJobTypePopup)), 8);
     EXPECT_EQ(GetPopupButtonTicketValue(popup(kDestinationPopup)), 4);
@@ -179,22 +182,12 @@ TEST_F(PaperOutputPanelTest, ABookletHoldsTwoSidedAndGivesItBack)
     EXPECT_EQ(PPDCopyCurrentChoice(ticket, "KSFold"), u"BiFold"_s);
     ASSERT_EQ(sync(true), noErr);
     EXPECT_FALSE(popup(kTwoSidedPopup)->isEnabled());
-    EXPECT_FALSE(choose(kFinishingMenuButton, kStapleOnce)) << "locked by the booklet";
+    EXPECT_FALSE(choose(kFinishingMenuButton, "Stp1"_code)) << "locked by the booklet";
 
     create(booklet::kLayoutOffRadio, booklet::kFoldNoneRadio);
     EXPECT_TRUE(popup(kTwoSidedPopup)->isEnabled());
     EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedShortEdge) << "the user's last pick";
     EXPECT_EQ(options().finishingOption, kNoFinishing);
-}
-
-TEST_F(PaperOutputPanelTest, ACancelledBookletChangesNothing)
-{
-    open();
-    const PaperOutputOptions before = options();
-    test::ModalUser user;
-    user.then([](QWidget& window) { test::Press(window, kCommandCancel); });
-    EXPECT_TRUE(choose(kFinishingMenuButton, kBookletCreation));
-    EXPECT_EQ(options(), before);
 }
 
 TEST_F(PaperOutputPanelTest, OpeningShowsTheJobsTwoSidedAndLaterSyncsTheUsersPick)
@@ -223,7 +216,7 @@ TEST_F(PaperOutputPanelTest, TwoSidedAndBookletAreLeftToTheirOwners)
 TEST_F(PaperOutputPanelTest, ClosedAndOpenedAgainItShowsTheSameInNewSummaries)
 {
     open();
-    EXPECT_TRUE(choose(kFinishingMenuButton, kStapleTwice));
+    EXPECT_TRUE(choose(kFinishingMenuButton, "Stp2"_code));
     const QString paper = text(kPaperSummary), finishing = text(kFinishingSummary);
     const PopupButton* popupBefore = popup(kJobTypePopup);
     EXPECT_EQ(slots->Close(prologue.context), noErr);

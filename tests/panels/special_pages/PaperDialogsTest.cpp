@@ -6,6 +6,7 @@
 #include "panels/special_pages/paper/StockDescriptionSetup.h"
 #include "panels/special_pages/paper/StockTypeSetupDialog.h"
 #include "panels/special_pages/paper/TabStockRules.h"
+#include "pde/forms/DialogCommands.h"
 #include "pde/menus/MenuUtilities.h"
 #include "support/CurrentPrinter.h"
 #include "support/Recorders.h"
@@ -112,7 +113,7 @@ TEST_F(CustomSizeDialogTest, TheUnitsChosenAreThoseOfTheNextDialog)
         EXPECT_TRUE(test::Pick(units(window), 1));
         EXPECT_TRUE(test::Pick(units(window), 2));
         EXPECT_EQ(width(window).number(), 2100) << "there and back";
-        Press(window, customsize::kDefaultsCommand);
+        Press(window, kCommandDefaults);
         EXPECT_EQ(GetPopupButtonTicketValue(units(window)), 1);
         EXPECT_EQ(length(window).number(), 1100);
         Press(window, kCommandCancel);
@@ -259,57 +260,24 @@ TEST_F(TabStockDialogTest, ACustomShiftIsShownInTheUnitsChosen)
     EXPECT_EQ(shift, (_IS_Options{.option = 1, .inches = false, .X1 = 30}));
 }
 
-class SeparatorsDialogTest : public PaperDialogsTest {
-protected:
-    static PopupButton* optionPopup(QWidget& window)
-    {
-        return popup(window, separators::kSignature, separators::kOptionPopup);
-    }
-    static PopupButton* colorPopup(QWidget& window)
-    {
-        return popup(window, separators::kSignature, separators::kColorPopup);
-    }
-    static QString picture(QWidget& window)
-    {
-        return pictures(window, {separators::kSignature, separators::kPicture}).value(0);
-    }
-    void run() { EXPECT_EQ(RunModalSeparatorsDialog(bundle, option, stock, result), noErr); }
-
-    SInt32 option = kSeparatorsNone;
-};
-
-TEST_F(SeparatorsDialogTest, AColorGoesWithSeparatorsOnly)
+TEST_F(PaperDialogsTest, SeparatorsEndWithTheDefaultsAndCancelChangesNothing)
 {
-    user.then([](QWidget& window) {
-        EXPECT_FALSE(colorPopup(window)->isEnabled());
-        EXPECT_EQ(picture(window), u"Paper_TransparencySeparators_NoSeps.gif"_s);
-        EXPECT_TRUE(test::Pick(optionPopup(window), kSeparatorsPrinted));
-        EXPECT_TRUE(test::Pick(colorPopup(window), kStockColorGreen));
-        EXPECT_EQ(picture(window), u"Paper_TransparencySeparators_PrntdSeps-Green.gif"_s);
-        Press(window, kCommandOK);
-    });
-    run();
-    EXPECT_EQ(option, kSeparatorsPrinted);
-    EXPECT_EQ(stock.color(), kStockColorGreen);
-
-    user.then([](QWidget& window) {
-        EXPECT_EQ(GetPopupButtonTicketValue(colorPopup(window)), kStockColorGreen);
-        EXPECT_TRUE(colorPopup(window)->isEnabled());
-        Press(window, separators::kDefaultsCommand);
-        EXPECT_EQ(colorPopup(window)->value(), 1);
-        EXPECT_FALSE(colorPopup(window)->isEnabled());
-        Press(window, kCommandHelp);
-        Press(window, kCommandCancel);
-    });
-    run();
-    EXPECT_EQ(option, kSeparatorsPrinted) << "cancelled";
+    using namespace separators;
+    SInt32 option = kSeparatorsPrinted;
+    stock.setColor(kStockColorGreen);
+    const auto press = [&](FourCharCode end) {
+        user.then([=](QWidget& window) {
+            Press(window, kCommandDefaults);
+            EXPECT_FALSE(popup(window, kSignature, kColorPopup)->isEnabled());
+            Press(window, kCommandHelp);
+            Press(window, end);
+        });
+        EXPECT_EQ(RunModalSeparatorsDialog(bundle, option, stock, result), noErr);
+        return option;
+    };
+    EXPECT_EQ(press(kCommandCancel), kSeparatorsPrinted);
     EXPECT_TRUE(help.files.value(0).endsWith(u"idh_transparency_separator_options.htm"_s));
-    user.then([](QWidget& window) {
-        Press(window, separators::kDefaultsCommand);
-        Press(window, kCommandOK);
-    });
-    run();
-    EXPECT_EQ(option, kSeparatorsNone);
+    EXPECT_EQ(press(kCommandOK), kSeparatorsNone);
     EXPECT_EQ(stock.color(), kStockColorGreen) << "no separators, no colour";
 }
 

@@ -1,7 +1,7 @@
 #include "model/ImageShift.h"
 #include "model/Stock.h"
 #include "panels/special_pages/paper/CustomSizeRules.h"
-#include "panels/special_pages/paper/SeparatorsDialog.h"
+#include "panels/special_pages/paper/SeparatorsRules.h"
 #include "panels/special_pages/paper/TabStockRules.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"

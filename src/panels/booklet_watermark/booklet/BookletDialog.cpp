@@ -2,9 +2,9 @@
 
 #include "panels/booklet_watermark/booklet/BookletRules.h"
 #include "panels/special_pages/paper/StockMenuRules.h"
+#include "pde/forms/BoundControls.h"
 #include "pde/forms/DialogCommands.h"
 #include "pde/menus/LocalizationUtilities.h"
-#include "pde/menus/MenuUtilities.h"
 #include "pde/ticket/LocalizedText.h"
 #include "pde/ticket/TicketUtilities.h"
 #include "platform/plugins/Bundle.h"
@@ -35,9 +35,18 @@ constexpr auto kFoldRadios = std::to_array<FoldRadio>({
     {kFoldAndStapleRadio, kFoldBiStaple},
 });
 
+// The new size has a menu of its own.
+constexpr auto kBindings = std::to_array<Binding<Booklet>>({
+    {kDrawOutlinesBox, kMember<&Booklet::drawOutlines>, {.on = kDrawPageBorders, .off = kNoPageBorders}},
+    {kNewSizePopup, kMember<&Booklet::newPaperSize>},
+    {kGutterField, kMember<&Booklet::gutter>},
+    {kCreepField, kMember<&Booklet::creep>},
+});
+
 // The controls of one window; those that it lacks are null, and nothing is shown in or read from them.
 struct BookletWindow {
     QWidget& window;
+    BoundControls<Booklet> bound;
 
     QWidget* control(SInt32 number) const { return FindControl(&window, {kSignature, number}); }
     PopupButton* newSize() const { return FindPopupButton(&window, {kSignature, kNewSizePopup}); }
@@ -47,10 +56,10 @@ struct BookletWindow {
         const auto* button = FindControlAs<QAbstractButton>(&window, {kSignature, number});
         return button && button->isChecked();
     }
-    void check(SInt32 number, bool checked = true) const
+    void check(SInt32 number) const
     {
         if (auto* button = FindControlAs<QAbstractButton>(&window, {kSignature, number}))
-            button->setChecked(checked);
+            button->setChecked(true);
     }
 };
 
@@ -109,26 +118,14 @@ void SyncToUI(const BookletWindow& dialog, const Booklet& booklet)
     const auto fold = std::ranges::find(kFoldRadios, booklet.fold, &FoldRadio::fold);
     dialog.check(fold == kFoldRadios.end() ? kFoldNoneRadio : fold->radio);
     dialog.check(booklet.isOn() ? kLayoutOnRadio : kLayoutOffRadio);
-    dialog.check(kDrawOutlinesBox, booklet.drawOutlines == kDrawPageBorders);
-    if (!SetPopupButtonToTicketValue(dialog.newSize(), booklet.newPaperSize) && dialog.newSize())
-        dialog.newSize()->setValue(1);
-    if (SpinField* gutter = dialog.spin(kGutterField))
-        gutter->setNumber(booklet.gutter);
-    if (SpinField* creep = dialog.spin(kCreepField))
-        creep->setNumber(booklet.creep);
+    dialog.bound.show(booklet, Showing::Opened); // a size that the menu lacks stays at its first item
 }
 
 void SyncFromUI(const BookletWindow& dialog, Booklet& booklet)
 {
     booklet.fold = ChosenFold(dialog, booklet.fold);
     booklet.layout = dialog.isChecked(kLayoutOnRadio) ? kBookletLayoutOn : kBookletLayoutOff;
-    booklet.drawOutlines = dialog.isChecked(kDrawOutlinesBox) ? kDrawPageBorders : kNoPageBorders;
-    if (const PopupButton* popup = dialog.newSize())
-        booklet.newPaperSize = GetPopupButtonTicketValue(popup);
-    if (const SpinField* gutter = dialog.spin(kGutterField))
-        booklet.gutter = gutter->number();
-    if (const SpinField* creep = dialog.spin(kCreepField))
-        booklet.creep = creep->number();
+    dialog.bound.takeAll(booklet);
 }
 
 void ShowIllustration(const BookletWindow& dialog, const Booklet& before)
@@ -144,7 +141,8 @@ OSStatus RunModalBookletDialog(const Bundle& bundle, Booklet& booklet, QAnyStrin
     const std::unique_ptr<QWidget> window = CreateWindowFromNib(bundle, "BookletCreation", windowName);
     if (!window)
         return kInterfaceFileUnreadable;
-    const BookletWindow dialog{*window};
+    const FormPlace place{.root = window.get(), .signature = kSignature, .bundle = bundle, .ppd = nullptr};
+    const BookletWindow dialog{*window, {place, kBindings}};
     BuildControls(dialog, bundle);
     SyncToUI(dialog, booklet);
     EnableControls(dialog);

@@ -20,14 +20,14 @@ OSStatus RunModalBookletCreationDialog(const Bundle& bundle, Booklet& booklet);
 
 namespace booklet {
 
-// The numbers of the controls in BookletCreation/BookletFinishingOptions, BookletOptions (without the fold) and
-// BookletCreation.
+// The numbers of the controls in BookletCreation/BookletFinishingOptions, BookletCreation/BookletOptions and
+// BookletCreation/BookletCreation.
 inline constexpr FourCharCode kSignature = "Bkcr"_code;
 enum Control : SInt32 {
-    kFoldLabel = 1,
-    kFoldNoneRadio = 2,
-    kFoldRadio = 3,
-    kFoldAndStapleRadio = 4,
+    kFoldLabel = 1,          // not in BookletOptions
+    kFoldNoneRadio = 2,      // not in BookletOptions
+    kFoldRadio = 3,          // not in BookletOptions
+    kFoldAndStapleRadio = 4, // not in BookletOptions
     kLayoutOffRadio = 5,
     kLayoutOnRadio = 6,
     kDrawOutlinesBox = 7,

@@ -1,3 +1,5 @@
+#include "panels/booklet_watermark/watermark/WatermarkDefaults.h"
+
 #include "panels/booklet_watermark/watermark/WatermarkStore.h"
 
 #include "platform/plugins/Bundle.h"

@@ -6,10 +6,6 @@
 
 #include <optional>
 
-namespace kesta {
-struct Bundle;
-}
-
 namespace kesta::booklet_watermark {
 
 // Watermarks and the fonts made for them, kept between jobs; docs/watermark-store.md has the file's form. Functions
@@ -51,8 +47,5 @@ void storeFontData(QAnyStringView file, QAnyStringView key, const QByteArray& da
 
 // Appends the font program; nothing when there is none.
 void loadFontData(QAnyStringView file, QAnyStringView key, QByteArray& buffer);
-
-// Draft, Confidential and Copy, in the user's language, and the list of the three, in kWatermarkFile.
-void CreateDefaultWatermarks(const Bundle& bundle);
 
 } // namespace kesta::booklet_watermark

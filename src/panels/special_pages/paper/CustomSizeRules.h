@@ -1,15 +1,23 @@
 #pragma once
 
+#include "pde/menus/SettingMap.h"
 #include "platform/values/Types.h"
 
 #include <QLocale>
 #include <QRect>
+
+#include <array>
 
 namespace kesta {
 
 struct PPDCustomSizeLimits;
 
 enum class SizeUnits : SInt32 { NotChosen = 0, Inches = 1, Millimetres = 2 };
+inline constexpr auto _CustomSizeUnitsMap = std::to_array<SettingRow>({
+    {"Inches", static_cast<SInt32>(SizeUnits::Inches)},
+    {"Millimeters", static_cast<SInt32>(SizeUnits::Millimetres)},
+});
+static_assert(_CustomSizeUnitsMap.size() == 2);
 
 // Inches where the measurement system is the U.S. one, millimetres everywhere else.
 SizeUnits DefaultSizeUnits(const QLocale& locale = QLocale());

@@ -128,7 +128,7 @@ EventResult HandleCommand(_CustomStockSizeDialogContext& dialog, FourCharCode co
 {
     if (command == kCommandOK)
         AcceptSize(dialog);
-    else if (command == kDefaultsCommand)
+    else if (command == kCommandDefaults)
         ShowDefaults(dialog);
     else
         return HandleDialogCommand(dialog.bundle, dialog.window, command, kHelpPage);

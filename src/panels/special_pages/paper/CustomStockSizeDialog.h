@@ -1,9 +1,6 @@
 #pragma once
 
 #include "panels/special_pages/paper/CustomSizeRules.h"
-#include "pde/menus/SettingMap.h"
-
-#include <array>
 
 namespace kesta {
 
@@ -13,17 +10,10 @@ enum class ModalResult : SInt32;
 // The units that a person chose last; they outlive the dialog.
 extern SizeUnits gCurrentUnits;
 
-inline constexpr auto _CustomSizeUnitsMap = std::to_array<SettingRow>({
-    {"Inches", static_cast<SInt32>(SizeUnits::Inches)},
-    {"Millimeters", static_cast<SInt32>(SizeUnits::Millimetres)},
-});
-static_assert(_CustomSizeUnitsMap.size() == 2);
-
 namespace customsize {
 
 // The numbers of the controls in CustomStockSizeDialog/CustomStockSize.
 inline constexpr FourCharCode kSignature = "CuSz"_code;
-inline constexpr FourCharCode kDefaultsCommand = "Dflt"_code;
 enum Control : SInt32 {
     kWidthField = 1,
     kWidthLimits = 2,

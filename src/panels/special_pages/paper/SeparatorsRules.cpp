@@ -1,4 +1,4 @@
-#include "panels/special_pages/paper/SeparatorsDialog.h"
+#include "panels/special_pages/paper/SeparatorsRules.h"
 
 #include "panels/special_pages/paper/StockIcon.h"
 #include "pde/interface/TicketKeys.h"

@@ -68,9 +68,14 @@ OSStatus ShowStockSummary(const Bundle& bundle, QWidget* view, const Stock* stoc
 
 void ShowStock(const _StockMenuCommandEventHandlerData& data)
 {
-    if (data.bundle)
-        ShowStockSummary(*data.bundle, data.summaryView, data.stock, data.context);
     ShowStockIcon(data.iconView, data.stock);
+    if (!data.bundle)
+        return;
+    const QString text = data.summary ? data.summary() : StockSummaryText(*data.bundle, data.stock, data.context);
+    if (data.summaryView)
+        UpdateSummaryTextView(data.summaryView, text);
+    if (data.button && data.summaryView)
+        data.button->setAccessibleDescription(text);
 }
 
 void EnableStockMenuCommand(const _StockMenuCommandEventHandlerData& data, FourCharCode command, bool enabled)
@@ -107,6 +112,10 @@ void InitializeStockMenuButton(MenuButton* button, _StockMenuCommandEventHandler
     PopulateStockMenu(menu, *data.bundle, data.context);
     button->setMenu(std::move(menu));
     InstallHandlers(*button, data);
+    data.handlers.push_back(InstallEventHandler(*button, [&data](const MenuEnableItemsEvent&) {
+        data.button->changeItems([&data](Menu& shown) { MarkStock(shown, data.stock); });
+        return EventResult::NotHandled;
+    }));
 }
 
 void InitializeStockSizeMenuButton(PopupButton* popup, _StockMenuCommandEventHandlerData& data)

@@ -4,6 +4,7 @@
 #include "panels/special_pages/paper/StockSummary.h"
 #include "toolkit/controls/ControlEvent.h"
 
+#include <functional>
 #include <vector>
 
 namespace kesta {
@@ -20,6 +21,7 @@ struct _StockMenuCommandEventHandlerData {
     Stock* stock = nullptr; // borrowed
     DialogMode mode = DialogMode::Add;
     JobContext context = JobContext::Job;
+    std::function<QString()> summary = {}; // what the summary says, where that is not StockSummaryText
     QPointer<QWidget> summaryView = {};
     QPointer<PictureView> iconView = {};
     QPointer<MenuControl> button = {};       // whose menu it is; set by Initialize...
@@ -45,7 +47,11 @@ EventResult StockIconEventHandler(_StockMenuCommandEventHandlerData& data, const
 // Enables or disables what the button's menu has of that command, a submenu as a whole.
 void EnableStockMenuCommand(const _StockMenuCommandEventHandlerData& data, FourCharCode command, bool enabled);
 
-// Shows the stock in both views: for an owner that has changed it.
+// Shows what StockSummaryText says; kMissingArgument without a view.
+OSStatus ShowStockSummary(const Bundle& bundle, QWidget* view, const Stock* stock, JobContext context);
+
+// Shows the stock in both views: for an owner that has changed it. What the button changes is its description for those
+// who can't see the summary.
 void ShowStock(const _StockMenuCommandEventHandlerData& data);
 
 } // namespace kesta

@@ -2,21 +2,11 @@
 
 #include "platform/plugins/Bundle.h"
 #include "printer/InstallableOptions.h"
-#include "printer/PPDUtilities.h"
 
 #include <algorithm>
 
 namespace kesta {
 namespace {
-
-void Populate(Menu& menu, const Bundle& bundle, PPDKeyword keyword, FourCharCode command, JobContext context)
-{
-    menu.items.clear(); // also without a PPD
-    PPDPopulateMenuWithChoices(menu, PPDGetCurrent(), keyword, command, Conflicting::Keep);
-    if (context != JobContext::Job)
-        menu.items.insert(menu.items.begin(),
-                          {.title = LocalizedString(bundle, "UseJobSetting"), .command = command, .value = kUnset});
-}
 
 void RemoveFirst(Menu& menu, SInt32 value)
 {
@@ -35,6 +25,30 @@ MenuItem SubmenuItem(const Bundle& bundle, const char* key, PopulateFunction pop
         .title = LocalizedString(bundle, key), .enabled = !submenu.items.empty(), .submenu = std::move(submenu.items)};
 }
 
+bool IsOfStock(const MenuItem& item, const Stock& stock)
+{
+    switch (item.command) {
+    case kStockSizeCommand:
+        return item.value == stock.size();
+    case kStockColorCommand:
+        return item.value == stock.color();
+    case kStockTypeCommand:
+        return item.value == stock.type();
+    case kStockSourceCommand:
+        return item.value == stock.source();
+    default:
+        return false;
+    }
+}
+
+void MarkItems(std::vector<MenuItem>& items, const Stock* stock)
+{
+    for (MenuItem& item : items) {
+        item.checked = stock && IsOfStock(item, *stock);
+        MarkItems(item.submenu, stock);
+    }
+}
+
 bool HasCommand(const MenuItem& item, FourCharCode command)
 {
     return item.submenu.empty() ? item.command == command : item.submenu.front().command == command;
@@ -42,9 +56,18 @@ bool HasCommand(const MenuItem& item, FourCharCode command)
 
 } // namespace
 
+void PopulateChoices(Menu& menu, const Bundle& bundle, PPDKeyword keyword, FourCharCode command, JobContext context)
+{
+    menu.items.clear(); // also without a PPD
+    PPDPopulateMenuWithChoices(menu, PPDGetCurrent(), keyword, command, Conflicting::Keep);
+    if (context != JobContext::Job)
+        menu.items.insert(menu.items.begin(),
+                          {.title = LocalizedString(bundle, "UseJobSetting"), .command = command, .value = kUnset});
+}
+
 void PopulateStockSizeMenu(Menu& menu, const Bundle& bundle, JobContext context)
 {
-    Populate(menu, bundle, "PageSize", kStockSizeCommand, context);
+    PopulateChoices(menu, bundle, "PageSize", kStockSizeCommand, context);
     if (context != JobContext::Cover)
         return;
     SInt32 const custom = kStockSizeCustom;
@@ -55,7 +78,7 @@ void PopulateStockSizeMenu(Menu& menu, const Bundle& bundle, JobContext context)
 
 void PopulateStockTypeMenu(Menu& menu, const Bundle& bundle, JobContext context)
 {
-    Populate(menu, bundle, "MediaType", kStockTypeCommand, context);
+    PopulateChoices(menu, bundle, "MediaType", kStockTypeCommand, context);
     if (context == JobContext::Job)
         return;
     RemoveFirst(menu, kStockTypeSystemDefault);
@@ -64,7 +87,7 @@ void PopulateStockTypeMenu(Menu& menu, const Bundle& bundle, JobContext context)
 
 void PopulateStockColorMenu(Menu& menu, const Bundle& bundle, JobContext context)
 {
-    Populate(menu, bundle, "MediaColor", kStockColorCommand, context);
+    PopulateChoices(menu, bundle, "MediaColor", kStockColorCommand, context);
     if (context != JobContext::Job)
         RemoveFirst(menu, kStockColorUnspecified);
 }
@@ -91,6 +114,11 @@ void EnableStockCommand(Menu& menu, FourCharCode command, bool enabled)
         if (HasCommand(item, command))
             item.enabled = enabled;
     }
+}
+
+void MarkStock(Menu& menu, const Stock* stock)
+{
+    MarkItems(menu.items, stock);
 }
 
 void ForgetStockName(Stock& stock)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Stock.h"
+#include "printer/PPDUtilities.h"
 #include "toolkit/controls/Menu.h"
 
 namespace kesta {
@@ -17,6 +18,7 @@ inline constexpr FourCharCode kStockAdvancedCommand = "Sadv"_code; // in no menu
 
 // Each refills the menu with the current PPD's choices. Those of special pages begin with an item for the job's own
 // setting, of value kUnset.
+void PopulateChoices(Menu& menu, const Bundle& bundle, PPDKeyword keyword, FourCharCode command, JobContext context);
 void PopulateStockSizeMenu(Menu& menu, const Bundle& bundle, JobContext context);
 void PopulateStockTypeMenu(Menu& menu, const Bundle& bundle, JobContext context);
 void PopulateStockColorMenu(Menu& menu, const Bundle& bundle, JobContext context);
@@ -27,6 +29,8 @@ void PopulateStockMenu(Menu& menu, const Bundle& bundle, JobContext context);
 // Enables or disables what has the command: of a submenu with that command its title alone, so that the items keep
 // their own state.
 void EnableStockCommand(Menu& menu, FourCharCode command, bool enabled);
+// Marks what the stock has now of what the menu offers; without a stock nothing is marked.
+void MarkStock(Menu& menu, const Stock* stock);
 
 // Does to the stock what a command does that asks no more of the user: every one but advanced and a custom size. False,
 // and nothing done, for any other command.

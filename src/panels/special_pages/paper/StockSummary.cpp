@@ -29,7 +29,19 @@ Text WithModulus(const Text& text, SInt32 modulus)
     return text && modulus != kUnset ? *text + u" ("_s + QString::number(modulus) + u')' : text;
 }
 
-Text TypeText(const Bundle& bundle, const Stock& stock)
+} // namespace
+
+Text StockSizeText(const Stock& stock)
+{
+    return ChoiceText("PageSize", stock.size());
+}
+
+Text StockColorText(const Stock& stock)
+{
+    return stock.color() == kStockColorText ? TextIfAny(stock.customColor()) : ChoiceText("MediaColor", stock.color());
+}
+
+Text StockTypeText(const Bundle& bundle, const Stock& stock)
 {
     switch (stock.type()) {
     case kStockTypePrecutTab:
@@ -45,6 +57,8 @@ Text TypeText(const Bundle& bundle, const Stock& stock)
         return ChoiceText("MediaType", stock.type());
     }
 }
+
+namespace {
 
 class Parts {
 public:
@@ -74,13 +88,13 @@ void AddPaper(Parts& parts, const Bundle& bundle, JobContext context, const Stoc
     if (stock.customNameOnly())
         return;
     if (!isJob && stock.size() != kUnset)
-        parts.add(ChoiceText("PageSize", stock.size()));
+        parts.add(StockSizeText(stock));
     if (stock.color() == kStockColorText)
-        parts.addNamed("StockColor", TextIfAny(stock.customColor()));
+        parts.addNamed("StockColor", StockColorText(stock));
     else if (isJob || stock.color() != kUnset)
-        parts.add(ChoiceText("MediaColor", stock.color()));
+        parts.add(StockColorText(stock));
     if (isJob || stock.type() != kUnset)
-        parts.add(TypeText(bundle, stock));
+        parts.add(StockTypeText(bundle, stock));
 }
 
 } // namespace

@@ -2,11 +2,14 @@
 
 #include "model/Stock.h"
 
-class QWidget;
-
 namespace kesta {
 
 struct Bundle;
+
+// The paper's size, colour and kind in words, set or not; nothing where no text can be had.
+std::optional<QString> StockSizeText(const Stock& stock);
+std::optional<QString> StockColorText(const Stock& stock);
+std::optional<QString> StockTypeText(const Bundle& bundle, const Stock& stock);
 
 // The paper in words, its parts joined by the separator; a part whose text can't be had is left out. Job summaries
 // never name a size, and name colour and type even when these are unset. Of paper from a tray of its own only the
@@ -16,8 +19,5 @@ QString GenerateStockSummary(const Bundle& bundle, JobContext context, const Sto
 // The same, a part a line, as a view shows it: empty without a stock, and a word for "nothing chosen" where the summary
 // is empty.
 QString StockSummaryText(const Bundle& bundle, const Stock* stock, JobContext context);
-
-// Shows that text; kMissingArgument without a view.
-OSStatus ShowStockSummary(const Bundle& bundle, QWidget* view, const Stock* stock, JobContext context);
 
 } // namespace kesta

@@ -22,11 +22,8 @@ inline constexpr auto _TabStockSetupMap = std::to_array<SettingRow>({
     {"12.7 mm (A4 Template)", kTabShiftA4Template},
     {"Custom", kTabShiftCustom},
 });
-inline constexpr auto _TabStockRadioMap = std::to_array<SettingRow>({
-    {"Inches", static_cast<SInt32>(SizeUnits::Inches)},
-    {"Millimeters", static_cast<SInt32>(SizeUnits::Millimetres)},
-});
-static_assert(_TabStockSetupMap.size() == 4 && _TabStockRadioMap.size() == 2);
+inline constexpr const auto& _TabStockRadioMap = _CustomSizeUnitsMap;
+static_assert(_TabStockSetupMap.size() == 4);
 
 inline constexpr FieldLimits kTabSequenceLimits{1, 254};
 

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/values/Types.h"
+
+namespace kesta {
+
+// What panels tell in the window's summary line, in its order: the places for ShowInSummary.
+struct SummaryPlace {
+    static constexpr SInt32 JobType = 1;
+    static constexpr SInt32 Paper = 2;
+    static constexpr SInt32 Sides = 3;
+    static constexpr SInt32 Finishing = 4;
+    static constexpr SInt32 OtherPages = 5;
+};
+
+} // namespace kesta
