@@ -25,6 +25,8 @@ void LoadAll(const QByteArray& program)
     Require(FT_New_Memory_Face(library, reinterpret_cast<const FT_Byte*>(program.constData()), program.size(), 0,
                                &face) == 0);
     Require(face->num_glyphs > 1);
+    for (FT_Long glyph = 0; glyph < face->num_glyphs; ++glyph)
+        Require(FT_Load_Glyph(face, static_cast<FT_UInt>(glyph), FT_LOAD_NO_SCALE) == 0);
     FT_Done_Face(face);
 }
 

@@ -5,6 +5,9 @@
 #include "panels/booklet_watermark/fonts/Type1.h"
 #include "panels/booklet_watermark/fonts/Type42Writer.h"
 
+#include <ft2build.h>
+#include FT_FREETYPE_H
+
 #include <algorithm>
 #include <map>
 #include <string>
@@ -66,6 +69,21 @@ QByteArray AsType1(const Typeface& typeface, std::span<const PlacedGlyph> glyphs
     return MakeType1(typeface, distinct, names, EncodingOf(inLine, names), fontName).value_or(QByteArray());
 }
 
+// A printer is no place to find out that a font is damaged: one that another library does not take is none.
+bool IsLoadable(const QByteArray& program)
+{
+    FT_Library library = nullptr;
+    FT_Face face = nullptr;
+    if (FT_Init_FreeType(&library) != 0)
+        return false;
+    bool isLoadable = FT_New_Memory_Face(library, reinterpret_cast<const FT_Byte*>(program.constData()), program.size(),
+                                         0, &face) == 0;
+    for (FT_Long glyph = 0; isLoadable && glyph < face->num_glyphs; ++glyph)
+        isLoadable = FT_Load_Glyph(face, static_cast<FT_UInt>(glyph), FT_LOAD_NO_SCALE) == 0;
+    FT_Done_FreeType(library); // and its faces
+    return isLoadable;
+}
+
 } // namespace
 
 QString SubsetFontName(const QString& postScriptName)
@@ -84,8 +102,11 @@ QByteArray MakeFontProgram(const Typeface& typeface, std::span<const PlacedGlyph
     if (glyphs.empty() || (!isTrueType && typeface.sendability() != Sendability::AsOutlines))
         return {};
     const QByteArray name = PlainName(SubsetFontName(typeface.file().postScriptName).toUtf8());
-    const QByteArray program = isTrueType ? AsType42(typeface, glyphs, name) : QByteArray();
-    return program.isEmpty() ? AsType1(typeface, glyphs, name) : program;
+    if (const QByteArray program = isTrueType ? AsType42(typeface, glyphs, name) : QByteArray();
+        !program.isEmpty() && IsLoadable(program))
+        return program;
+    const QByteArray program = AsType1(typeface, glyphs, name);
+    return IsLoadable(program) ? program : QByteArray();
 }
 
 } // namespace kesta::booklet_watermark
