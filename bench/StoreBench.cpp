@@ -40,8 +40,10 @@ void StoreSave(benchmark::State& state)
     const QString path = CopyPreferenceFileURL(kWatermarkFile).value_or(QString());
     const QByteArray same(QFileInfo(path).size(), ' ');
     Times save, write;
+    _WatermarkData changed = TextWatermark(count / 2);
     for (auto _ : state) {
-        Measure(save, [&] { saveWatermarkData(kWatermarkFile, TextWatermark(count / 2)); });
+        changed.angle = (changed.angle + 1) % 10; // what is there already isn't written
+        Measure(save, [&] { saveWatermarkData(kWatermarkFile, changed); });
         Measure(write, [&] { WriteFile(folder.filePath(QStringLiteral("same")), same); });
         state.SetIterationTime(save.back());
     }

@@ -65,6 +65,7 @@ const std::vector<Rule>& Rules()
           "host/pane"}},
         {"host", {"platform", "toolkit", "host/commandline", "host/script", "host/pane", "host/dialog"}},
         {"ticket-tool", {"platform", "host/job"}},
+        {"watermark-tool", {"platform", "panels/booklet_watermark/watermark"}},
     };
     return rules;
 }

@@ -31,7 +31,7 @@ const std::set<std::pair<std::string, std::string>> kParts{
     {"toolkit/style/KestaStyleSliders.cpp", "toolkit/style/KestaProxyStyle.h"},
 };
 const std::set<std::string> kEntries{"host/main.cpp", "panels/booklet_watermark/fonts/Type42Tool.cpp",
-                                     "pde/shell/PlugInFactory.cpp", "ticket-tool/Main.cpp"};
+                                     "pde/shell/PlugInFactory.cpp", "ticket-tool/Main.cpp", "watermark-tool/Main.cpp"};
 
 std::string TextOf(const std::filesystem::path& source)
 {

@@ -67,6 +67,7 @@ std::optional<Dictionary> ParseRoot(const QByteArray& bytes, QString& problem)
 
 struct Root {
     std::optional<Dictionary> content;
+    QByteArray bytes; // of the file, when there is content
     int error = 0; // errno's, when there is no content: ENOENT; EILSEQ or EFBIG when it is damaged; else it may be good
 };
 
@@ -79,11 +80,11 @@ Root ReadRoot(const QString& path)
         return root.has_value();
     });
     if (file.bytes)
-        return {std::move(root)};
+        return {std::move(root), *file.bytes};
     if (file.error.code != ENOENT)
         std::fprintf(stderr, "CopyXMLData()::CFPropertyListCreateFromXMLData() error: %s\n",
                      qPrintable(file.error.code == EILSEQ ? problem : file.error.text));
-    return {std::nullopt, file.error.code};
+    return {std::nullopt, {}, file.error.code};
 }
 
 // Two programs that write at once may leave a mixture of both: whoever sees that writes again.
@@ -99,10 +100,13 @@ int WriteContent(const QString& path, const QByteArray& bytes)
     return EBUSY;
 }
 
-int WriteRoot(const QString& path, const Dictionary& root)
+int WriteRoot(const QString& path, const QByteArray& before, const Dictionary& root)
 {
+    const QByteArray bytes = WritePropertyList(root);
+    if (bytes == before)
+        return 0;
     const bool isNew = !QFileInfo::exists(path);
-    if (const int error = WriteContent(path, WritePropertyList(root)))
+    if (const int error = WriteContent(path, bytes))
         return error;
     if (isNew)
         ShareLikeFolder(path, DEFFILEMODE);
@@ -150,7 +154,7 @@ int ChangeXMLData(QAnyStringView file, WhenUnreadable whenUnreadable, const Chan
         root.content.emplace();
     }
     change(*root.content);
-    return WriteRoot(*path, *root.content);
+    return WriteRoot(*path, root.bytes, *root.content);
 }
 
 } // namespace kesta

@@ -17,9 +17,10 @@ std::optional<Dictionary> CopyXMLData(QAnyStringView file);
 
 enum class WhenUnreadable { DoNothing, StartNew };
 
-// Reads the file, makes a change and writes it whole, over the old one. A file that is there but damaged is kept as
-// ".damaged" before a new one is started; one that can't be read at present, or that others never stop writing, is
-// neither moved nor replaced. 0, or errno of what was not written; the file is then as it was.
+// Reads the file, makes a change and, when its bytes then differ, writes it whole, over the old one. A file that is
+// there but damaged is kept as ".damaged" before a new one is started; one that can't be read at present, or that
+// others never stop writing, is neither moved nor replaced. 0, or errno of what was not written; the file is then as it
+// was.
 using Change = std::function<void(Dictionary& root)>;
 int ChangeXMLData(QAnyStringView file, WhenUnreadable whenUnreadable, const Change& change);
 

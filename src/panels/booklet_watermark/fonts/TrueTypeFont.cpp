@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 namespace kesta::booklet_watermark {
 namespace {
@@ -168,6 +169,13 @@ bool IsPlainName(std::string_view name)
     for (const char c : name)
         isPlain &= kIsPlain[static_cast<unsigned char>(c)];
     return isPlain;
+}
+
+QByteArray PlainName(const QByteArray& name)
+{
+    QByteArray plain;
+    std::ranges::copy_if(name, std::back_inserter(plain), [](char c) { return IsPlainName({&c, 1}); });
+    return plain;
 }
 
 } // namespace kesta::booklet_watermark

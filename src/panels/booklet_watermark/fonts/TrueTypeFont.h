@@ -2,6 +2,8 @@
 
 #include "panels/booklet_watermark/fonts/Sfnt.h"
 
+#include <QByteArray>
+
 #include <array>
 #include <string_view>
 
@@ -29,5 +31,8 @@ std::optional<TrueTypeFont> ReadTrueTypeFont(QByteArrayView font);
 
 // Whether a PostScript name can be written with these characters only, that is none that would end it.
 bool IsPlainName(std::string_view name);
+
+// The name without the characters that no PostScript name holds.
+QByteArray PlainName(const QByteArray& name);
 
 } // namespace kesta::booklet_watermark

@@ -6,16 +6,10 @@
 #include <cstdio>
 
 namespace kesta::booklet_watermark {
-namespace {
-
-constexpr char kListKey[] = "WatermarkListEntries";
-
-} // namespace
-
 std::optional<QStringList> loadWatermarkList(QAnyStringView file, WatermarkListBrowser* browser)
 {
     const std::optional<Dictionary> root = CopyXMLData(file);
-    const Array* entries = root ? root->array(kListKey) : nullptr;
+    const Array* entries = root ? root->array(kWatermarkListKey) : nullptr;
     if (!entries)
         return std::nullopt;
     QStringList names;
@@ -32,7 +26,7 @@ void saveWatermarkList(QAnyStringView file, const std::optional<QStringList>& li
     if (file.isEmpty() || !list)
         return;
     ChangeXMLData(file, WhenUnreadable::StartNew,
-                  [&](Dictionary& root) { root.set(kListKey, Array(list->begin(), list->end())); });
+                  [&](Dictionary& root) { root.set(kWatermarkListKey, Array(list->begin(), list->end())); });
 }
 
 bool loadWatermarkData(QAnyStringView file, QAnyStringView name, _WatermarkData& record)
@@ -62,7 +56,7 @@ void removeWatermarkData(QAnyStringView file, QAnyStringView name)
     ChangeXMLData(file, WhenUnreadable::DoNothing, [&](Dictionary& root) {
         if (root.dictionary(name))
             root.remove(name);
-        Array* entries = root.array(kListKey);
+        Array* entries = root.array(kWatermarkListKey);
         if (!entries)
             return;
         const auto isNamed = [&](const Value& entry) { return entry.string() && *entry.string() == name; };

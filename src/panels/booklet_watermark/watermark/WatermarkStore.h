@@ -9,9 +9,13 @@
 namespace kesta::booklet_watermark {
 
 // Watermarks and the fonts made for them, kept between jobs; docs/watermark-store.md has the file's form. Functions
-// take the file's plain name first. Each change reads the file and writes it whole: save a watermark first, the list of
-// names second. Nobody is told of a failed write but by the message on standard error, and the file is then as it was.
+// take the file's plain name first. Each change reads the file and, when that makes a difference, writes it whole: save
+// a watermark first, the list of names second. Nobody is told of a failed write but by the message on standard error,
+// and the file is then as it was.
 inline constexpr char kWatermarkFile[] = "com.kesta.printing.watermarks.plist";
+
+// Under which a file has the list; no watermark's name.
+inline constexpr char kWatermarkListKey[] = "WatermarkListEntries";
 
 // What shows names to the user.
 class WatermarkListBrowser {
