@@ -19,7 +19,7 @@ void Say(const char* problem)
     std::fputs(problem, stdout);
 }
 
-std::uint16_t Number(DNSPacket packet, std::size_t position)
+std::uint16_t NumberAt(DNSPacket packet, std::size_t position)
 {
     return static_cast<std::uint16_t>(packet[position] << 8 | packet[position + 1]);
 }
@@ -58,7 +58,7 @@ std::optional<RecordError> DecodeRecord(std::size_t position, DNSPacket packet, 
         return RecordError::TooShort;
     }
     const std::size_t data = position + kRecordHeader;
-    record = {Number(packet, position), data, data + Number(packet, position + 8)};
+    record = {NumberAt(packet, position), data, data + NumberAt(packet, position + 8)};
     if (record.end > packet.size())
         Say("decode error, packet too short for reported rr length");
     return std::nullopt;
@@ -70,7 +70,7 @@ DNSHeader decode_header(DNSPacket packet)
 {
     if (packet.size() < DNSHeader::kSize)
         return {};
-    return {Number(packet, 0), Number(packet, 2), Number(packet, 4), Number(packet, 6)};
+    return {NumberAt(packet, 0), NumberAt(packet, 2), NumberAt(packet, 4), NumberAt(packet, 6)};
 }
 
 int decode_name(std::size_t& position, DNSPacket packet, std::string& name)

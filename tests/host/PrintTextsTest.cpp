@@ -87,7 +87,7 @@ QStringList WindowKeys()
     QStringList keys;
     for (const QString& source : Sources(u"/host"_s)) {
         const QString text = QString::fromUtf8(Content(source));
-        keys += Found(text, u"(?:PrintText|LocalizedCount|LocalizedString)\\([^\"()+]*\"([^\"]+)\""_s);
+        keys += Found(text, u"(?:LocalizedCount|LocalizedString)\\([^\"()+]*\"([^\"]+)\""_s);
         keys += Found(text, u"say\\(u\"([^\"]+)\""_s);
         for (const QString& problem : Found(text, u"return u\"(Pages [^\"]+)\""_s))
             keys << problem + u" Title"_s << problem + u" Message"_s;

@@ -1,8 +1,8 @@
 #include "host/dialog/DialogFields.h"
 
 #include "host/dialog/PrintDialogControls.h"
-#include "host/dialog/PrintTexts.h"
 #include "host/job/PageRanges.h"
+#include "platform/plugins/Bundle.h"
 #include "platform/plugins/Sentence.h"
 #include "platform/system/Notices.h"
 #include "platform/system/UserPreferences.h"
@@ -72,7 +72,7 @@ DialogFields::DialogFields(QWidget& window, const Bundle& texts) : window_(&wind
     if (auto* perSheet = Control<PopupButton>(window_, kPerSheetChoice))
         perSheet->setMenu(PerSheetMenu());
     if (auto* pages = Control<HistoryComboBox>(window_, kPagesField)) {
-        pages->setFixedEntries({{PrintText(texts, "All Pages"), kAllPages}});
+        pages->setFixedEntries({{LocalizedString(texts, "All Pages"), kAllPages}});
         if (const std::optional<Dictionary> preferences = CopyUserPreferences(kInputHistoryFile))
             pages->setHistory(TypedValueHistory(*preferences, kPagesHistory));
         pages->setFixedValue(kAllPages);
@@ -105,7 +105,7 @@ QString DialogFields::typedPages() const
     if (!pages || pages->fixedValue())
         return {};
     const QString typed = pages->typedText().trimmed();
-    return typed.compare(PrintText(*texts_, "All Pages"), Qt::CaseInsensitive) == 0 ? QString() : typed;
+    return typed.compare(LocalizedString(*texts_, "All Pages"), Qt::CaseInsensitive) == 0 ? QString() : typed;
 }
 
 HostSettings DialogFields::settings() const
@@ -131,8 +131,8 @@ bool DialogFields::checkPages()
     if (problem == PageRangesProblem::None)
         return true;
     const QString key = ProblemKey(problem);
-    const QString message = FormatText(PrintText(*texts_, key + u" Message"_s), {LimitOf(problem)});
-    GetNotices().show({.title = PrintText(*texts_, key + u" Title"_s), .message = message});
+    const QString message = FormatText(LocalizedString(*texts_, key + u" Message"_s), {LimitOf(problem)});
+    GetNotices().show({.title = LocalizedString(*texts_, key + u" Title"_s), .message = message});
     SetInvalid(Control<QWidget>(window_, kPagesField), true);
     return false;
 }

@@ -1,11 +1,11 @@
 // The chosen printer and its pane.
 
-#include "host/dialog/DialogButtons.h"
 #include "host/dialog/PrintDialog.h"
 
 #include "host/commandline/DialogOptions.h"
+#include "host/dialog/DialogButtons.h"
 #include "host/dialog/PrintDialogControls.h"
-#include "host/dialog/PrintTexts.h"
+#include "platform/plugins/Bundle.h"
 #include "platform/plugins/Sentence.h"
 #include "toolkit/windows/InterfaceFile.h"
 
@@ -138,21 +138,21 @@ void PrintDialog::enableButtons()
 PaneMessage PrintDialog::whyNoPane() const
 {
     const Bundle& texts = *start_.texts;
-    const QString stillWorks = start_.request.ppdPath.isEmpty() ? PrintText(texts, "Printing Still Works")
-                                                                : PrintText(texts, "Saving Still Works");
+    const QString stillWorks = start_.request.ppdPath.isEmpty() ? LocalizedString(texts, "Printing Still Works")
+                                                                : LocalizedString(texts, "Saving Still Works");
     if (!start_.plugIn.plugIn)
-        return {PrintText(texts, "No Plug-in Title"),
-                PrintText(texts, "No Plug-in Message").arg(Sentence(start_.plugIn.error, texts), stillWorks)};
+        return {LocalizedString(texts, "No Plug-in Title"),
+                LocalizedString(texts, "No Plug-in Message").arg(Sentence(start_.plugIn.error, texts), stillWorks)};
     const QString name = PrinterTitle(printer_->queue, texts);
     const QString& maker = facts_.manufacturer;
     const QString message =
         !facts_.problem.isEmpty()
-            ? PrintText(texts, "No Description Message").arg(Sentence(facts_.problem, texts), stillWorks)
+            ? LocalizedString(texts, "No Description Message").arg(Sentence(facts_.problem, texts), stillWorks)
         : maker == QLatin1StringView(kMaker)
-            ? PrintText(texts, "Pane Failed Message").arg(name, QString::number(paneStatus_), stillWorks)
-        : maker.isEmpty() ? PrintText(texts, "No Maker Message").arg(name, stillWorks)
-                          : PrintText(texts, "Other Maker Message").arg(name, maker, stillWorks);
-    return {PrintText(texts, "Plain Options Title"), message};
+            ? LocalizedString(texts, "Pane Failed Message").arg(name, QString::number(paneStatus_), stillWorks)
+        : maker.isEmpty() ? LocalizedString(texts, "No Maker Message").arg(name, stillWorks)
+                          : LocalizedString(texts, "Other Maker Message").arg(name, maker, stillWorks);
+    return {LocalizedString(texts, "Plain Options Title"), message};
 }
 
 void PrintDialog::closePane()

@@ -4,10 +4,10 @@
 
 #include "host/commandline/DialogOptions.h"
 #include "host/dialog/PrintDialogControls.h"
-#include "host/dialog/PrintTexts.h"
 #include "host/job/JobComposition.h"
 #include "host/job/SavedSettings.h"
 #include "host/ppd/Constraints.h"
+#include "platform/plugins/Bundle.h"
 #include "platform/plugins/Sentence.h"
 #include "platform/system/FileChooser.h"
 #include "platform/system/Notices.h"
@@ -34,13 +34,13 @@ Alert ConflictQuestion(const ConflictReport& report, const Bundle& texts)
             changes << Sentence(change.text, texts);
     }
     changes.removeDuplicates();
-    const QString title = PrintText(texts, "Conflict Title");
-    const QString goBack = PrintText(texts, "Go Back");
+    const QString title = LocalizedString(texts, "Conflict Title");
+    const QString goBack = LocalizedString(texts, "Go Back");
     if (!canResolve)
-        return {title, PrintText(texts, "Conflict No Way Out").arg(sentences.join(u'\n')), {goBack}, 0};
+        return {title, LocalizedString(texts, "Conflict No Way Out").arg(sentences.join(u'\n')), {goBack}, 0};
     return {title,
-            PrintText(texts, "Conflict Message").arg(sentences.join(u'\n'), changes.join(u'\n')),
-            {PrintText(texts, "Accept Changes"), goBack},
+            LocalizedString(texts, "Conflict Message").arg(sentences.join(u'\n'), changes.join(u'\n')),
+            {LocalizedString(texts, "Accept Changes"), goBack},
             1};
 }
 
@@ -51,14 +51,14 @@ std::optional<Alert> QueueQuestion(const Queue& queue, const Bundle& texts)
         return std::nullopt;
     const bool waits = queue.isAccepting;
     QString message =
-        waits ? PrintText(texts, "Queue Stopped Message") : PrintText(texts, "Queue Not Accepting Message");
+        waits ? LocalizedString(texts, "Queue Stopped Message") : LocalizedString(texts, "Queue Not Accepting Message");
     if (!queue.stateMessage.isEmpty())
-        message = PrintText(texts, "Queue Reason").arg(message, queue.stateMessage);
+        message = LocalizedString(texts, "Queue Reason").arg(message, queue.stateMessage);
     const QString title =
-        waits ? PrintText(texts, "Queue Stopped Title") : PrintText(texts, "Queue Not Accepting Title");
+        waits ? LocalizedString(texts, "Queue Stopped Title") : LocalizedString(texts, "Queue Not Accepting Title");
     return Alert{title.arg(PrinterTitle(queue, texts)),
                  message,
-                 {PrintText(texts, "Print Anyway"), PrintText(texts, "Go Back")},
+                 {LocalizedString(texts, "Print Anyway"), LocalizedString(texts, "Go Back")},
                  1};
 }
 
@@ -131,14 +131,14 @@ bool PrintDialog::saveSettingsTo(const QString& path)
     const std::optional<FileError> error = WriteFile(path, WriteSavedSettings(tickets_), FileAccess::OwnerOnly);
     if (!error)
         return true;
-    failed(Verbatim(error->text), PrintText(*start_.texts, "Saving Failed Title"));
+    failed(Verbatim(error->text), LocalizedString(*start_.texts, "Saving Failed Title"));
     return false;
 }
 
 std::optional<QString> PrintDialog::askForFile()
 {
-    std::optional<QString> path = GetFileChooser().save({.title = PrintText(*start_.texts, "Save Settings Title"),
-                                                         .name = PrintText(*start_.texts, "Settings File Name"),
+    std::optional<QString> path = GetFileChooser().save({.title = LocalizedString(*start_.texts, "Save Settings Title"),
+                                                         .name = LocalizedString(*start_.texts, "Settings File Name"),
                                                          .patterns = {u"*.plist"_s}});
     if (!path && start_.scripted && start_.noted)
         start_.noted(Say("Settings Not Saved"));
@@ -206,7 +206,8 @@ std::optional<AcceptedJob> PrintDialog::composeJob()
 void PrintDialog::send()
 {
     const Bundle& texts = *start_.texts;
-    const PaneMessage word{PrintText(texts, "Sending Title").arg(PrinterTitle(printer_->queue, texts)), jobName()};
+    const PaneMessage word{LocalizedString(texts, "Sending Title").arg(PrinterTitle(printer_->queue, texts)),
+                           jobName()};
     paneArea_->showProgress(word, 0, 0);
     sending_.emplace(start_.send(
         *accepted_,
@@ -229,9 +230,9 @@ void PrintDialog::sent(const SubmissionResult& result)
     openPane(); // everything stays as it was set, to try again
     if (result.cancelled)
         GetNotices().show(
-            {.title = PrintText(texts, "Sending Stopped Title"), .message = Sentence(result.message, texts)});
+            {.title = LocalizedString(texts, "Sending Stopped Title"), .message = Sentence(result.message, texts)});
     else if (result.documentAtFault)
-        failed(result.message, PrintText(texts, "Document Failed Title"));
+        failed(result.message, LocalizedString(texts, "Document Failed Title"));
     else
         failedToPrint(result.message);
 }
@@ -239,7 +240,7 @@ void PrintDialog::sent(const SubmissionResult& result)
 void PrintDialog::failedToPrint(const Message& reason)
 {
     const Bundle& texts = *start_.texts;
-    failed(reason, PrintText(texts, "Sending Failed Title").arg(PrinterTitle(printer_->queue, texts)));
+    failed(reason, LocalizedString(texts, "Sending Failed Title").arg(PrinterTitle(printer_->queue, texts)));
 }
 
 void PrintDialog::failed(const Message& reason, const QString& title)

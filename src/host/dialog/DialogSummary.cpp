@@ -1,7 +1,7 @@
 #include "host/dialog/DialogSummary.h"
 
-#include "host/dialog/PrintTexts.h"
 #include "host/job/PageRanges.h"
+#include "platform/plugins/Bundle.h"
 #include "platform/plugins/Sentence.h"
 
 #include <QLocale>
@@ -18,7 +18,7 @@ QString CopiesAndPages(const HostSettings& settings, const Bundle& texts)
         facts << LocalizedCount(texts, "Copies Summary", settings.copies);
     if (!settings.pageRanges.isEmpty()) {
         const QString shown = WritePageRanges(ParsePageRanges(settings.pageRanges).ranges, u", "_s);
-        facts << PrintText(texts, "Pages Summary").arg(shown);
+        facts << LocalizedString(texts, "Pages Summary").arg(shown);
     }
     return facts.join(u", "_s);
 }
@@ -37,10 +37,10 @@ QString SummaryLine(const HostSettings& settings, const QStringList& panelPhrase
     if (settings.pagesPerSheet > 1)
         phrases << LocalizedCount(texts, "Per Sheet Summary", settings.pagesPerSheet);
     if (settings.orientation == Orientation::Landscape || settings.orientation == Orientation::ReverseLandscape)
-        phrases << PrintText(texts, "Landscape Summary");
+        phrases << LocalizedString(texts, "Landscape Summary");
     phrases += panelPhrases;
     phrases.removeAll(QString());
-    return phrases.isEmpty() ? PrintText(texts, "Default Summary") : Capitalized(phrases.join(u" \u00B7 "_s));
+    return phrases.isEmpty() ? LocalizedString(texts, "Default Summary") : Capitalized(phrases.join(u" \u00B7 "_s));
 }
 
 } // namespace kesta::host

@@ -4,8 +4,8 @@
 #include "host/dialog/DialogButtons.h"
 #include "host/dialog/DialogSummary.h"
 #include "host/dialog/PrintDialogControls.h"
-#include "host/dialog/PrintTexts.h"
 #include "host/job/TicketTransport.h"
+#include "platform/plugins/Bundle.h"
 #include "platform/values/PropertyList.h"
 #include "toolkit/windows/FitToScreen.h"
 #include "toolkit/windows/InterfaceFile.h"
@@ -83,8 +83,8 @@ void PrintDialog::setUpWindow()
 {
     const Bundle& texts = *start_.texts;
     const QString job = jobName();
-    window_->setWindowTitle(job.isEmpty() ? PrintText(texts, "Window Title No Document")
-                                          : PrintText(texts, "Window Title").arg(job));
+    window_->setWindowTitle(job.isEmpty() ? LocalizedString(texts, "Window Title No Document")
+                                          : LocalizedString(texts, "Window Title").arg(job));
     OrderButtons(*window_);
     window_->resize(kUsualSize.boundedTo(RoomOnScreen(*window_)));
 
@@ -97,7 +97,7 @@ void PrintDialog::setUpWindow()
         [this](const CommandEvent& command) { return handleCommand(command); });
     AddPanelShortcuts(*window_);
     if (!start_.request.ppdPath.isEmpty()) { // nothing is submitted
-        SetControlText(FindControl(window_.get(), {kPrintSignature, kPrintButton}), PrintText(texts, "Save"));
+        SetControlText(FindControl(window_.get(), {kPrintSignature, kPrintButton}), LocalizedString(texts, "Save"));
         SetControlVisible(FindControl(window_.get(), {kPrintSignature, kSaveSettingsButton}), false);
     }
 }

@@ -1,6 +1,6 @@
 #include "host/dialog/PrinterFinder.h"
 
-#include "host/dialog/PrintTexts.h"
+#include "platform/plugins/Bundle.h"
 #include "platform/plugins/Sentence.h"
 
 #include <algorithm>
@@ -17,7 +17,7 @@ PrinterFinder::PrinterFinder(const Bundle& texts, PrintServer server, Listener l
 
 void PrinterFinder::say(const QString& titleKey, const QString& text, bool canTryAgain)
 {
-    listener_.word({.title = PrintText(texts_, titleKey), .text = text, .canTryAgain = canTryAgain});
+    listener_.word({.title = LocalizedString(texts_, titleKey), .text = text, .canTryAgain = canTryAgain});
 }
 
 void PrinterFinder::start(const QString& wanted, const QString& usual)
@@ -41,7 +41,7 @@ void PrinterFinder::choose(int position)
     if (position < 1 || position > static_cast<int>(list_.queues.size()))
         return;
     const Queue& queue = list_.queues[position - 1];
-    listener_.word({.title = PrintText(texts_, "Reading Printer").arg(PrinterTitle(queue, texts_))});
+    listener_.word({.title = LocalizedString(texts_, "Reading Printer").arg(PrinterTitle(queue, texts_))});
     find(queue.instance.isEmpty() ? queue.name : u"%1/%2"_s.arg(queue.name, queue.instance));
 }
 
@@ -92,7 +92,7 @@ void PrinterFinder::reportMissing()
     if (!list_.problem.isEmpty())
         say(u"No Server Title"_s, Sentence(list_.problem, texts_), true);
     else if (list_.queues.empty() && asked_.isEmpty())
-        say(u"No Printers Title"_s, PrintText(texts_, "No Printers Message"), true);
+        say(u"No Printers Title"_s, LocalizedString(texts_, "No Printers Message"), true);
     else
         say(u"Unknown Printer Title"_s, Sentence(found_->problem, texts_), true);
 }
@@ -113,7 +113,7 @@ QString PrinterTitle(const Queue& queue, const Bundle& texts)
     const QString name = queue.displayName.isEmpty() ? queue.name : queue.displayName;
     if (queue.location.isEmpty() || name.contains(queue.location, Qt::CaseInsensitive))
         return name;
-    return PrintText(texts, "Printer With Place").arg(name, queue.location);
+    return LocalizedString(texts, "Printer With Place").arg(name, queue.location);
 }
 
 } // namespace kesta::host

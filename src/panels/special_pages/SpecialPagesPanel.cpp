@@ -15,7 +15,6 @@ _SpecialPagesContext* _specialPagesContext = nullptr;
 
 namespace {
 
-// The record has no texts but those of the ticket.
 void ReadJobStock(_SpecialPagesContext& panel, const Ticket& settings)
 {
     const Dictionary* stored = settings.values().dictionary(key::JobLevelStock);

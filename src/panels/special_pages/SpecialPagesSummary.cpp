@@ -142,7 +142,10 @@ QString PageTexts::exceptionPhrase(const ExceptionPage& exception) const
     const bool isRange = LastPageOf(exception) != exception.startPage();
     const Stock& stock = exception.stock();
     const MaybeText color = stock.source() == kUnset && stock.color() != kUnset ? StockColorText(stock) : MaybeText();
-    const QString summary = color ? color->toLower() : CopySpecialPageSummary(bundle_, exception, settings_);
+    const bool isOwnText = stock.color() == kStockColorText;
+    const QString summary = !color      ? CopySpecialPageSummary(bundle_, exception, settings_)
+                            : isOwnText ? *color
+                                        : color->toLower();
     if (summary.isEmpty())
         return LocalizedFormat(bundle_, isRange ? "Exception Range Summary" : "Exception Page Summary",
                                {pages(exception)});

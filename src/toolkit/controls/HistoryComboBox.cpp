@@ -12,6 +12,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace kesta {
 namespace {
@@ -72,6 +73,11 @@ HistoryComboBox::HistoryComboBox(QWidget* parent) : QComboBox(parent)
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     connect(this, &QComboBox::textActivated, this, [this] { takeRow(currentIndex()); });
     connect(lineEdit(), &QLineEdit::textEdited, this, [this] { chosenFixed_ = -1; });
+    // An assistive program sets the text without typing it.
+    connect(lineEdit(), &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (chosenFixed_ >= 0 && text != fixed_[static_cast<std::size_t>(chosenFixed_)].title)
+            chosenFixed_ = -1;
+    });
 }
 
 void HistoryComboBox::setFixedEntries(std::vector<FixedEntry> entries)
@@ -90,6 +96,7 @@ void HistoryComboBox::setHistory(std::vector<QString> history)
 void HistoryComboBox::refill()
 {
     const QString text = currentText();
+    const int chosen = std::exchange(chosenFixed_, -1);
     clear();
     for (const FixedEntry& entry : fixed_)
         addItem(entry.title);
@@ -97,22 +104,22 @@ void HistoryComboBox::refill()
         insertSeparator(count());
     for (const QString& earlier : history_)
         addItem(earlier);
-    if (chosenFixed_ >= 0 && chosenFixed_ < static_cast<int>(fixed_.size()))
-        setFixedValue(fixed_[static_cast<std::size_t>(chosenFixed_)].value);
+    if (chosen >= 0 && chosen < static_cast<int>(fixed_.size()))
+        setFixedValue(fixed_[static_cast<std::size_t>(chosen)].value);
     else
         setTypedText(text);
 }
 
 std::optional<SInt32> HistoryComboBox::fixedValue() const
 {
-    if (chosenFixed_ < 0 || currentText() != fixed_[static_cast<std::size_t>(chosenFixed_)].title)
-        return std::nullopt; // an assistive program sets the text without typing it
+    if (chosenFixed_ < 0)
+        return std::nullopt;
     return fixed_[static_cast<std::size_t>(chosenFixed_)].value;
 }
 
 QString HistoryComboBox::typedText() const
 {
-    return fixedValue() ? QString() : currentText();
+    return chosenFixed_ < 0 ? currentText() : QString();
 }
 
 bool HistoryComboBox::setFixedValue(SInt32 value)

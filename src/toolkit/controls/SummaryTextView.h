@@ -4,7 +4,8 @@
 
 namespace kesta {
 
-// A plain text of some facts, a line and a dash each, that wrap beside their dashes; it keeps room for its usual number of lines, so that nothing jumps.
+// A plain text of some facts, a line and a dash each, that wrap beside their dashes; it keeps room for its usual number
+// of lines, so that nothing jumps.
 class SummaryTextView : public QLabel {
     Q_OBJECT
     Q_PROPERTY(int lines READ lines WRITE setLines)

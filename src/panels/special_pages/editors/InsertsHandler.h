@@ -27,9 +27,8 @@ inline constexpr SInt32 kMostSheets = 9'999'999;
 
 } // namespace inserts
 
-// Adds inserts to the list, or replaces the edited one; nothing is changed unless the result is OK. The paper starts
-// from that of the job in the summary alone. kMissingArgument without an insert in edit mode, kInterfaceFileUnreadable
-// when the window can't be loaded.
+// Adds inserts to the list, or replaces the edited one; nothing is changed unless the result is OK. kMissingArgument
+// without an insert in edit mode, kInterfaceFileUnreadable when the window can't be loaded.
 OSStatus RunModalInsertsDialog(const Bundle& bundle, DialogMode mode, const Stock* jobStock, InsertList& list,
                                const Insert* edited, const EditorCalls& calls, ModalResult& result);
 

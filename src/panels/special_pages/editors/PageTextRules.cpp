@@ -49,11 +49,10 @@ bool IsFree(PageRanges ranges, const ExceptionPageList& list, const SpecialPage*
     });
 }
 
-void ShowNotice(const Bundle& bundle, const char* titleKey, const char* messageKey, SInt32 number)
+void ShowNotice(const Bundle& bundle, const char* titleKey, const char* messageKey, const QStringList& arguments)
 {
     GetNotices().show(
-        {.title = LocalizedString(bundle, titleKey),
-         .message = LocalizedFormat(bundle, messageKey, {CreateLocalizedCFStringFromNumberWithDecimals(number, 0)})});
+        {.title = LocalizedString(bundle, titleKey), .message = LocalizedFormat(bundle, messageKey, arguments)});
 }
 
 } // namespace
@@ -130,17 +129,16 @@ OSStatus PlacePages(SpecialPageList& list, const SpecialPage* edited, const Spec
 void SpecialPagesUserNotification(OSStatus code, const Bundle& bundle)
 {
     if (const PageRangeAlert* alert = FindPageRangeAlert(code))
-        GetNotices().show({.title = LocalizedString(bundle, alert->titleKey),
-                           .message = LocalizedFormat(bundle, alert->messageKey,
-                                                      {QString::number(CountDigits(kHighestPageNumber))})});
+        ShowNotice(bundle, alert->titleKey, alert->messageKey, {QString::number(CountDigits(kHighestPageNumber))});
 }
 
 void ShowRefusal(OSStatus code, const Bundle& bundle)
 {
     if (code == kTooManyPages)
-        ShowNotice(bundle, "Too Many Pages Title", "Too Many Pages Message", kMostNamedPages);
+        ShowNotice(bundle, "Too Many Pages Title", "Too Many Pages Message",
+                   {CreateLocalizedCFStringFromNumberWithDecimals(kMostNamedPages, 0)});
     else if (code == kMoreThanJobCarries)
-        ShowNotice(bundle, "Too Many Special Pages Title", "Too Many Special Pages Message", 0);
+        ShowNotice(bundle, "Too Many Special Pages Title", "Too Many Special Pages Message", {});
     else
         SpecialPagesUserNotification(code, bundle);
 }
