@@ -5,7 +5,8 @@
 namespace kesta::host {
 namespace {
 
-constexpr double kLookAgainSeconds = 0.1;
+constexpr double kLookAgainSeconds = 0.25;
+constexpr double kLookAgainForWholeAnswerSeconds = 3;
 
 // A window has no terminal to ask on, and a job without an answer must end.
 const char* NoPassword(const char*, http_t*, const char*, const char*, void*)
@@ -32,8 +33,6 @@ ServerConnection::ServerConnection(const PrintServer& server, Cancellation& canc
     cupsSetPasswordCB2(NoPassword, nullptr);
     http_ = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
                          static_cast<int>(server.patience.count()), cancellation.flag());
-    if (http_)
-        httpSetTimeout(http_, kLookAgainSeconds, WaitLonger, this);
     expectAnswer();
 }
 
@@ -44,6 +43,18 @@ ServerConnection::~ServerConnection()
 
 void ServerConnection::expectAnswer()
 {
+    lookAgainEvery(kLookAgainSeconds);
+}
+
+void ServerConnection::expectWholeAnswer()
+{
+    lookAgainEvery(kLookAgainForWholeAnswerSeconds);
+}
+
+void ServerConnection::lookAgainEvery(double seconds)
+{
+    if (http_)
+        httpSetTimeout(http_, seconds, WaitLonger, this);
     deadline_ = std::chrono::steady_clock::now() + server_.patience;
 }
 

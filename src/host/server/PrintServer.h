@@ -38,12 +38,16 @@ public:
     _http_s* http() const { return http_; }
     // Counts the server's patience from now on: before every request, after every piece of data.
     void expectAnswer();
+    // The same for the answer to a whole document: the library takes an answer whose head and body come further apart
+    // than one of its waits for a broken one, so that wait is a long one; a cancellation is noticed only after it.
+    void expectWholeAnswer();
     // True when a wait on this connection was ended by silence or by the user.
     bool gaveUp() const { return gaveUp_; }
     // What the last failure was, in words for the user.
     Message problem() const;
 
 private:
+    void lookAgainEvery(double seconds);
     static int WaitLonger(_http_s* http, void* connection);
 
     PrintServer server_;

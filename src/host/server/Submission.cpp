@@ -136,7 +136,7 @@ bool Sending::send(Document& document, bool isLast)
                                                    document.name.toUtf8().constData(), format(), isLast ? 1 : 0);
     if (status != HTTP_STATUS_CONTINUE || !sendBytes(document))
         return false;
-    connection_.expectAnswer();
+    connection_.expectWholeAnswer();
     return cupsFinishDocument(connection_.http(), job_.queue.toUtf8().constData()) < IPP_STATUS_ERROR_BAD_REQUEST;
 }
 

@@ -324,7 +324,7 @@ TEST_F(WatermarkStoreTest, TwoProgramsThatSaveAtOnceLeaveAStore)
         program = fork();
         if (program != 0)
             continue;
-        for (int turn = 0; turn < 60; ++turn)
+        for (int turn = 0; turn < 15; ++turn)
             saveWatermarkData(kWatermarkFile, Text(QString(20 * (turn % 7) + 1, u'a')));
         _exit(0);
     }
