@@ -195,8 +195,10 @@ std::vector<FontFile> InstalledFonts()
     FcInitBringUptoDate();
     std::vector<FontFile> files = KnownOutlines(List(Pattern(FcPatternCreate())));
     std::ranges::stable_sort(files, {}, &FontFile::postScriptName);
-    const auto repeated = std::ranges::unique(files, {}, &FontFile::postScriptName);
-    files.erase(repeated.begin(), repeated.end());
+    const auto repeats = [](const FontFile& one, const FontFile& next) {
+        return one.postScriptName == next.postScriptName;
+    };
+    files.erase(std::unique(files.begin(), files.end(), repeats), files.end());
     return files;
 }
 
