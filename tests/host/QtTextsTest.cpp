@@ -46,7 +46,7 @@ TEST_F(QtTextsTest, ButtonsHaveTheDialogsWordsWhereQtLacksTheLanguage)
 {
     QLocale::setDefault(QLocale(u"eo"_s));
     Bundle bundle = bundleIn({u"en"_s, u"eo"_s});
-    bundle.strings = Dictionary{{"Localizable", Dictionary{{"Cancel Command", "Rezigni"}}}};
+    bundle.strings = Dictionary{{"Localizable", Dictionary{{"Cancel", "Rezigni"}}}};
     const auto texts = InstallQtTexts(bundle);
     ASSERT_TRUE(texts);
     EXPECT_EQ(cancel(), u"Rezigni"_s);

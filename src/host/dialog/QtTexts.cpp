@@ -38,20 +38,15 @@ public:
         const QString text = QTranslator::translate(context, source, comment, count);
         if (!text.isEmpty() || std::strcmp(context, "QPlatformTheme") != 0)
             return text;
-        for (const char* word : {"OK", "Cancel", "Help"}) {
-            if (std::strcmp(source, word) == 0)
-                return own(QLatin1StringView(word) + " Command"_L1);
-        }
-        return {};
+        const auto is = [source](const char* word) { return std::strcmp(source, word) == 0; };
+        const QString own = is("OK")       ? LocalizedString(texts_, "OK")
+                            : is("Cancel") ? LocalizedString(texts_, "Cancel")
+                            : is("Help")   ? LocalizedString(texts_, "Help")
+                                           : QString();
+        return own == QLatin1StringView(kStringNotFound) ? QString() : own;
     }
 
 private:
-    QString own(const QString& key) const
-    {
-        const QString text = LocalizedString(texts_, key);
-        return text == QLatin1StringView(kStringNotFound) ? QString() : text;
-    }
-
     const Bundle& texts_;
 };
 
