@@ -139,14 +139,14 @@ EventResult HandleHit(_CoversEventHandlerData& editor, const HitEvent& hit)
 // The paper's own commands have changed the stock by now.
 EventResult HandleCommand(_CoversEventHandlerData& editor, const CommandEvent& chosen)
 {
-    if (chosen.command == editors::kDefaultsCommand)
+    if (chosen.command == kCommandDefaults)
         DefaultCovers(editor);
     else if (chosen.control.number % kBack == kPaperButton)
         Follow(editor);
     return EventResult::NotHandled;
 }
 
-void InitializeColumn(_CoversEventHandlerData& editor, const Column& column, DialogMode mode)
+void InitializeColumn(_CoversEventHandlerData& editor, const Column& column)
 {
     PopulatePopupButtonFromMap(editor.bundle, editor.popup(kSidesPopup + column.offset), editor.sidesMap,
                                JobContext::Cover);
@@ -154,7 +154,6 @@ void InitializeColumn(_CoversEventHandlerData& editor, const Column& column, Dia
                                 Conflicting::Keep);
     _StockMenuCommandEventHandlerData& paper = editor.paper(column);
     paper.bundle = &editor.bundle;
-    paper.mode = mode;
     paper.context = JobContext::Cover;
     paper.summaryView = editor.control(kPaperSummary + column.offset);
     paper.iconView = editor.picture(kPaperPicture + column.offset);
@@ -162,7 +161,7 @@ void InitializeColumn(_CoversEventHandlerData& editor, const Column& column, Dia
                               paper);
 }
 
-void InitializeCovers(_CoversEventHandlerData& editor, DialogMode mode, const Stock* jobStock, bool isBookletLayoutOn)
+void InitializeCovers(_CoversEventHandlerData& editor, const Stock* jobStock, bool isBookletLayoutOn)
 {
     const bool hasCovers = editor.covers.front || editor.covers.back;
     SetLocalizedWindowTitle(editor.bundle, hasCovers ? "Covers Dialog Title Edit" : "Covers Dialog Title Add",
@@ -175,8 +174,8 @@ void InitializeCovers(_CoversEventHandlerData& editor, DialogMode mode, const St
                 item.enabled = IsCoverOptionOffered(item.value, isBookletLayoutOn);
         });
     SetPopupButtonToTicketValue(options, CoverOptionOf(editor.covers));
-    InitializeColumn(editor, kFrontColumn, mode);
-    InitializeColumn(editor, kBackColumn, mode);
+    InitializeColumn(editor, kFrontColumn);
+    InitializeColumn(editor, kBackColumn);
     editors::ShowJobStock(editor.bundle, editor.window, kSignature, jobStock);
     ShowCovers(editor);
     if (options)
@@ -203,7 +202,7 @@ OSStatus RunModalCoversDialog(const Bundle& bundle, DialogMode mode, const Stock
         return kInterfaceFileUnreadable;
     _CoversEventHandlerData editor{
         .bundle = bundle, .window = *window, .covers = CloneOf(front, back), .sidesMap = CoverSidesMap(settings)};
-    InitializeCovers(editor, mode, jobStock, settings && IsBookletLayoutOn(*settings));
+    InitializeCovers(editor, jobStock, settings && IsBookletLayoutOn(*settings));
     const EventHandler handler = InstallEventHandler(
         *window, [&](const HitEvent& hit) { return HandleHit(editor, hit); },
         [&](const CommandEvent& chosen) { return HandleCommand(editor, chosen); });

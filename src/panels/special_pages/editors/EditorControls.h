@@ -22,7 +22,6 @@ enum Control : SInt32 {
     kJobSummary = 8,
     kDefaultsButton = 9,
 };
-inline constexpr FourCharCode kDefaultsCommand = "Dflt"_code;
 
 // The job's paper, for comparison; nothing without one.
 void ShowJobStock(const Bundle& bundle, const QWidget& window, FourCharCode signature, const Stock* jobStock);

@@ -98,8 +98,7 @@ void DefaultExceptions(_ExceptionsEventHandlerData& editor)
 void FillPlexes(const _ExceptionsEventHandlerData& editor)
 {
     Menu menu;
-    PPDPopulateMenuWithChoices(menu, PPDGetCurrent(), "Duplex", kNoCommand, Conflicting::Keep);
-    menu.items.insert(menu.items.begin(), {.title = LocalizedString(editor.bundle, "UseJobSetting"), .value = kUnset});
+    PopulateChoices(menu, editor.bundle, "Duplex", kNoCommand, JobContext::ExceptionPage);
     if (PopupButton* plexes = editor.plexes())
         plexes->setMenu(std::move(menu));
 }
@@ -116,10 +115,7 @@ void InitializeExceptions(_ExceptionsEventHandlerData& editor, const Stock* jobS
     const bool isEdit = editor.mode == DialogMode::Edit;
     SetLocalizedWindowTitle(editor.bundle, isEdit ? "Edit Exceptions Title" : "Add Exceptions Title", &editor.window);
     FillPlexes(editor);
-    editor.paper = {.bundle = &editor.bundle,
-                    .stock = &editor.exception.stock(),
-                    .mode = editor.mode,
-                    .context = JobContext::ExceptionPage};
+    editor.paper = {.bundle = &editor.bundle, .stock = &editor.exception.stock(), .context = JobContext::ExceptionPage};
     editors::InitializePageEditor(editor.paper, editor.window, kSignature, jobStock);
     KeepRoomForBothTabs(editor);
     ShowTab(editor);
@@ -148,7 +144,7 @@ EventResult HandleCommand(_ExceptionsEventHandlerData& editor, const CommandEven
         RunModalTabStockSetupDialog(editor.bundle, editor.exception.stock(), editor.exception.imageShift(), result);
         ShowStock(editor.paper);
         ShowImageShift(editor);
-    } else if (chosen.command == editors::kDefaultsCommand) {
+    } else if (chosen.command == kCommandDefaults) {
         DefaultExceptions(editor);
     }
     return EventResult::NotHandled;

@@ -72,8 +72,7 @@ void InitializeInserts(_InsertsEventHandlerData& editor, const Stock* jobStock)
     PopulatePopupButtonFromMap(editor.bundle, editor.options(), _InsertOptionMap, JobContext::Insert);
     if (SpinField* quantity = editor.quantity())
         quantity->setLimits(1, kMostSheets);
-    editor.paper = {
-        .bundle = &editor.bundle, .stock = &editor.insert.stock(), .mode = editor.mode, .context = JobContext::Insert};
+    editor.paper = {.bundle = &editor.bundle, .stock = &editor.insert.stock(), .context = JobContext::Insert};
     editors::InitializePageEditor(editor.paper, editor.window, kSignature, jobStock);
     if (!isEdit)
         return DefaultInserts(editor);
@@ -101,7 +100,7 @@ EventResult HandleCommand(_InsertsEventHandlerData& editor, const CommandEvent& 
     if (editors::ChoseTabStock(chosen, editor.insert.stock())) {
         RunModalPreCutTabStockSetup(editor.bundle, editor.mode, JobContext::Insert, editor.insert.stock(), result);
         ShowStock(editor.paper);
-    } else if (chosen.command == editors::kDefaultsCommand) {
+    } else if (chosen.command == kCommandDefaults) {
         DefaultInserts(editor);
     }
     return EventResult::NotHandled;

@@ -19,7 +19,6 @@ class PopupButton;
 struct _StockMenuCommandEventHandlerData {
     const Bundle* bundle = nullptr;
     Stock* stock = nullptr; // borrowed
-    DialogMode mode = DialogMode::Add;
     JobContext context = JobContext::Job;
     std::function<QString()> summary = {}; // what the summary says, where that is not StockSummaryText
     QPointer<QWidget> summaryView = {};
