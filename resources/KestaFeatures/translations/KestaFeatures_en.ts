@@ -244,6 +244,24 @@
         <translation>Choose Finishing</translation>
     </message>
     <message>
+        <source>End Booklet</source>
+        <translation>End Booklet</translation>
+    </message>
+    <message>
+        <source>Booklet Holds Two Sided</source>
+        <translation>The job is a booklet, which is printed on both sides.</translation>
+    </message>
+    <message>
+        <source>Not On This Printer</source>
+        <extracomment>%1: an item of a pop-up, for a value that the printer does not offer</extracomment>
+        <translation>%1, not on this printer</translation>
+    </message>
+    <message>
+        <source>Other Value</source>
+        <extracomment>%1: a number that stands for no choice that a panel knows</extracomment>
+        <translation>Value %1</translation>
+    </message>
+    <message>
         <source>Fax Setup Unavailable Header</source>
         <translation>Faxes can’t be set up here yet</translation>
     </message>

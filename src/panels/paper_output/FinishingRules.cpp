@@ -54,6 +54,21 @@ void LeaveBooklet(PaperOutputOptions& options)
     }
 }
 
+bool HasBookletFold(const PaperOutputOptions& options)
+{
+    const FinishingKind* fold = FindFinishing(Finishing::Fold, options.booklet.fold);
+    return fold && fold->booklet.picture;
+}
+
+// Whether some kind of finishing, or none at all, has the option.
+bool IsOfAnyKind(const PaperOutputOptions& options)
+{
+    return std::ranges::any_of(kAllFinishing, [&](Finishing finishing) {
+        const FinishingKinds kinds = KindsOf(finishing);
+        return std::ranges::find(kinds, options.finishingOption, &FinishingKind::option) != kinds.end();
+    });
+}
+
 bool HasFourStaples(const PaperOutputOptions& options)
 {
     return FindFinishing(Finishing::Staple, options.staple) == FindFinishing(Finishing::Staple, kMultipleStaple);
@@ -134,14 +149,35 @@ bool ApplyFinishingCommand(PaperOutputOptions& options, FourCharCode command)
     return true;
 }
 
-void ApplyBooklet(PaperOutputOptions& options, std::optional<SInt32> ticketDuplex)
+void FollowDuplex(PaperOutputOptions& options)
+{
+    if (!options.booklet.isOn())
+        options.duplexPopupValue = options.duplexSaved = options.duplex;
+}
+
+void FollowFinishing(PaperOutputOptions& options)
+{
+    if (options.finishingOption == kBookletFoldFinishing ? HasBookletFold(options) : !IsOfAnyKind(options))
+        return;
+    SInt32 chosen = kNoFinishing;
+    for (const Finishing finishing : kAllFinishing) {
+        const FinishingKind* kind = FindFinishing(finishing, FieldOf(options, finishing));
+        if (!kind || kind->value == kNotFinished)
+            continue;
+        if (kind->option == options.finishingOption)
+            return;
+        chosen = kind->option;
+    }
+    options.finishingOption = chosen;
+}
+
+void ApplyBooklet(PaperOutputOptions& options)
 {
     if (!options.booklet.isOn())
         options.duplex = options.duplexSaved;
-    options.duplexSaved = ticketDuplex.value_or(options.duplexSaved);
+    FollowDuplex(options);
 
-    const FinishingKind* fold = FindFinishing(Finishing::Fold, options.booklet.fold);
-    if (fold && fold->booklet.picture) {
+    if (HasBookletFold(options)) {
         options.finishingOption = kBookletFoldFinishing;
         options.staple = options.punch = kNotFinished;
         options.bindValue = 1;
@@ -152,6 +188,14 @@ void ApplyBooklet(PaperOutputOptions& options, std::optional<SInt32> ticketDuple
         options.offset = 1;
         options.offsetSubset = options.offsetPagesPerSubset = 0;
     }
+}
+
+void EndBooklet(PaperOutputOptions& options)
+{
+    options.booklet.layout = kBookletLayoutOff;
+    if (HasBookletFold(options))
+        options.booklet.fold = kNotFinished;
+    ApplyBooklet(options);
 }
 
 bool ApplyPaperRules(PaperOutputOptions& options, Menu& finishing)

@@ -30,6 +30,9 @@ enum Control : SInt32 {
     kFinishingPicture = 117,
     kFinishingMenuButton = 119,
     kFinishingSummary = 120,
+    kTwoSidedTrailing = 121, // in the button's place while there is no button
+    kEndBookletButton = 122,
+    kTwoSidedReason = 123,
     kDestinationLabel = 125,
     kDestinationPopup = 126,
     kQualityPicture = 127,

@@ -184,6 +184,17 @@ void ShowSummary(const _PaperOutputContext& panel, Control view, Control button,
         trailing->setAccessibleDescription(summary->text());
 }
 
+// Without a booklet maker no other row tells of the booklet that holds two-sided printing, or ends it.
+void ShowWhyTwoSided(const _PaperOutputContext& panel, bool shown)
+{
+    SetControlVisible(FindHere(panel, kTwoSidedReason), shown);
+    SetControlVisible(FindHere(panel, kEndBookletButton), shown);
+    SetControlVisible(FindHere(panel, kTwoSidedTrailing), !shown);
+    QWidget* popup = Popup(panel, kTwoSidedPopup);
+    if (popup)
+        popup->setAccessibleDescription(shown ? LocalizedString(*panel.bundle, "Booklet Holds Two Sided") : QString());
+}
+
 void ShowPicture(const _PaperOutputContext& panel, Control number, const QString& picture)
 {
     auto* view = FindControlAs<PictureView>(panel.pane, {kSignature, number});
@@ -264,14 +275,15 @@ void ShowPictures(const _PaperOutputContext& panel)
     ShowPicture(panel, kQualityPicture, OutputColorPicture(options.printQuality));
 }
 
-void ShowTwoSided(const _PaperOutputContext& panel, SInt32 value)
+void ShowTwoSided(const _PaperOutputContext& panel)
 {
     const bool isBooklet = panel.options.booklet.isOn();
     PopupButton* popup = Popup(panel, kTwoSidedPopup);
-    SetPopupButtonToTicketValue(popup, isBooklet ? kTwoSidedLongEdge : value);
+    SetPopupButtonToTicketValue(popup, isBooklet ? kTwoSidedLongEdge : panel.options.duplexPopupValue);
     SetControlEnabled(popup, !isBooklet);
     SetControlEnabled(FindHere(panel, kTwoSidedLabel), !isBooklet);
     SetControlEnabled(FindHere(panel, kTwoSidedPicture), !isBooklet);
+    ShowWhyTwoSided(panel, isBooklet && !panel.accessories.hasFolder);
 }
 
 bool EnableDisableJobTypeSetupButton(const _PaperOutputContext& panel)

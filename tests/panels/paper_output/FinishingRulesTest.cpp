@@ -119,32 +119,50 @@ TEST(FinishingRules, TheStaplePopUpKnowsItsValues)
 
 TEST(FinishingRules, ABookletTakesTheFinishingOverAndGivesTwoSidedBack)
 {
-    Options options{.booklet = {.fold = kFoldBi, .layout = kBookletLayoutOn},
-                    .duplex = kTwoSidedLongEdge,
-                    .staple = 10,
-                    .punch = 3,
-                    .offset = 2,
-                    .offsetSubset = 1};
-    ApplyBooklet(options, kTwoSidedLongEdge);
+    Options options{.duplex = kTwoSidedLongEdge, .staple = 10, .punch = 3, .offset = 2, .offsetSubset = 1};
+    FollowDuplex(options);
+    options.booklet = {.fold = kFoldBi, .layout = kBookletLayoutOn};
+    ApplyBooklet(options);
     EXPECT_EQ(options, (Options{.booklet = {.fold = kFoldBi, .layout = kBookletLayoutOn},
                                 .duplex = kTwoSidedLongEdge,
+                                .duplexPopupValue = kTwoSidedLongEdge,
                                 .duplexSaved = kTwoSidedLongEdge,
                                 .finishingOption = kBookletFoldFinishing,
                                 .bindValue = 1,
                                 .offsetPagesPerSubset = 0}));
     options.duplex = kTwoSidedShortEdge; // what writing the booklet makes of it
+    ApplyBooklet(options);               // its dialog once more
     options.booklet = {};
-    ApplyBooklet(options, kTwoSidedShortEdge);
+    ApplyBooklet(options);
     EXPECT_EQ(options.finishingOption, kNoFinishing);
     EXPECT_EQ(options.duplex, kTwoSidedLongEdge);
-    EXPECT_EQ(options.duplexSaved, kTwoSidedShortEdge);
+    EXPECT_EQ(options.duplexPopupValue, kTwoSidedLongEdge);
+    ApplyBooklet(options); // its dialog without a booklet
+    EXPECT_EQ(options.duplex, kTwoSidedLongEdge);
+}
+
+TEST(FinishingRules, TheOptionFollowsWhatSomebodyElseChose)
+{
+    const auto followed = [](Options options) {
+        FollowFinishing(options);
+        return options.finishingOption;
+    };
+    EXPECT_EQ(followed(Finished(9, 1, 1, 1)), kNoFinishing);
+    EXPECT_EQ(followed(Finished(kNoFinishing, 5, 1, 1)), 4);
+    EXPECT_EQ(followed(Finished(9, 10, 3, 1)), 9) << "of two, that of the last pick stays";
+    EXPECT_EQ(followed(Finished(9, 1, 3, 1)), 30);
+    EXPECT_EQ(followed(Finished(30, 10, 1, 1)), 9);
+    EXPECT_EQ(followed(Finished(kBookletFoldFinishing, 1, 1, kFoldBi)), kBookletFoldFinishing);
+    EXPECT_EQ(followed(Finished(kBookletFoldFinishing, 1, 1, 19)), 40);
+    EXPECT_EQ(followed(Finished(kNoFinishing, 1, 1, kFoldBiStaple)), kBookletFoldFinishing);
+    EXPECT_EQ(followed(Finished(kCoilPunchFinishing, 1, 1, 1)), kCoilPunchFinishing) << "none of the table's";
 }
 
 TEST(FinishingRules, OtherFinishingOutlivesABookletDialogWithoutAFold)
 {
     Options options = Finished(4, 5, 1, 1);
     options.offset = 2;
-    ApplyBooklet(options, std::nullopt);
+    ApplyBooklet(options);
     EXPECT_EQ(options.finishingOption, 4);
     EXPECT_EQ(options.staple, 5);
     EXPECT_EQ(options.offset, 2);

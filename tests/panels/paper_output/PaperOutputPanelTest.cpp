@@ -186,18 +186,41 @@ TEST_F(PaperOutputPanelTest, ABookletHoldsTwoSidedAndGivesItBack)
 
     create(booklet::kLayoutOffRadio, booklet::kFoldNoneRadio);
     EXPECT_TRUE(popup(kTwoSidedPopup)->isEnabled());
-    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedShortEdge) << "the user's last pick";
+    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedShortEdge) << "what it was before";
     EXPECT_EQ(options().finishingOption, kNoFinishing);
 }
 
-TEST_F(PaperOutputPanelTest, OpeningShowsTheJobsTwoSidedAndLaterSyncsTheUsersPick)
+TEST_F(PaperOutputPanelTest, TwoSidedIsShownAsTheJobHasIt)
 {
     ticket.set("X", key::FinishingDuplex, Number::Index(3));
     open();
     EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedShortEdge);
     ASSERT_EQ(sync(true), noErr);
-    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kOneSided);
-    EXPECT_EQ(options().duplex, kTwoSidedShortEdge);
+    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedShortEdge);
+    ticket.set("X", key::FinishingDuplex, Number::Index(2));
+    ASSERT_EQ(sync(true), noErr);
+    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedLongEdge);
+}
+
+TEST_F(PaperOutputPanelTest, WithoutABookletMakerTheTwoSidedRowSaysWhatHoldsItAndEndsIt)
+{
+    const test::WithAccessories fitted({{"Option2", "CClass"}, {"Option4", "None"}});
+    ticket.set("X", key::BookletLayout, true);
+    ticket.set("X", key::FinishingDuplex, Number::Index(3));
+    PPDSetCurrentChoice(ticket, "KSFold", "BiFold");
+    open();
+    QWidget *reason = control(kTwoSidedReason), *end = control(kEndBookletButton);
+    EXPECT_FALSE(popup(kTwoSidedPopup)->isEnabled());
+    EXPECT_EQ(popup(kTwoSidedPopup)->accessibleDescription(), u"Booklet Holds Two Sided"_s);
+    EXPECT_TRUE(reason->isVisibleTo(&pane) && end->isVisibleTo(&pane));
+    ClickControl(end);
+    EXPECT_FALSE(reason->isVisibleTo(&pane) || end->isVisibleTo(&pane));
+    EXPECT_TRUE(control(kTwoSidedTrailing)->isVisibleTo(&pane));
+    EXPECT_TRUE(popup(kTwoSidedPopup)->isEnabled());
+    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedShortEdge);
+    EXPECT_EQ(ticket.values().boolean(key::BookletLayout), false) << "at once";
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "KSFold"), u"None"_s);
 }
 
 TEST_F(PaperOutputPanelTest, TwoSidedAndBookletAreLeftToTheirOwners)
