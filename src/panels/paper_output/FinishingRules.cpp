@@ -1,6 +1,8 @@
 #include "panels/paper_output/FinishingRules.h"
 
 #include "pde/interface/TicketKeys.h"
+#include "pde/menus/Binding.h"
+#include "platform/plugins/Bundle.h"
 #include "printer/FinishingKinds.h"
 #include "printer/InstallableOptions.h"
 
@@ -218,6 +220,53 @@ void EnableFinishingItems(Menu& menu, const Ticket& settings)
     for (const FinishingKind& kind : kStaples) {
         if (kind.value != kNotFinished)
             EnableItem(menu, kind.command, !*booklet);
+    }
+}
+
+FinishingAccessories RowsFor(const FinishingAccessories& fitted, const PaperOutputOptions& options)
+{
+    return {.hasStapler = fitted.hasStapler || options.staple != kNotFinished,
+            .hasPunch = fitted.hasPunch || options.punch != kNotFinished,
+            .hasFolder = fitted.hasFolder || options.booklet.fold != kNotFinished};
+}
+
+const char* FinishingText(const PaperOutputOptions& options, Finishing finishing)
+{
+    const FinishingKind& none = KindsOf(finishing).front();
+    const FinishingKind* kind = FindFinishing(finishing, FieldOf(options, finishing));
+    if (!kind)
+        return none.text;
+    const bool isBooklets = finishing == Finishing::Fold && IsBooklet(options);
+    const bool isOnPrinter = IsOnPrinter(finishing, *kind);
+    if (kind->booklet.text && (isBooklets || (!isOnPrinter && kind->command == kNoCommand)))
+        return kind->booklet.text;
+    return isBooklets && isOnPrinter ? none.text : kind->text;
+}
+
+bool IsNotOffered(const PaperOutputOptions& options, Finishing finishing)
+{
+    const FinishingKind* kind = FindFinishing(finishing, FieldOf(options, finishing));
+    return kind && !IsOnPrinter(finishing, *kind);
+}
+
+void AddNotOffered(Menu& menu, const Bundle& bundle, const PaperOutputOptions& options)
+{
+    std::erase_if(menu.items, [](const MenuItem& item) { return item.notOffered; });
+    for (const Finishing finishing : kAllFinishing) {
+        if (!IsNotOffered(options, finishing))
+            continue;
+        const FinishingKind& none = KindsOf(finishing).front();
+        auto back = std::ranges::find(menu.items, none.command, &MenuItem::command);
+        if (back == menu.items.end())
+            back = menu.items.insert(
+                back, {.title = LocalizedString(bundle, none.text), .command = none.command, .value = none.value});
+        const int position = static_cast<int>(back - menu.items.begin()) + 1;
+        const QString text = LocalizedString(bundle, FinishingText(options, finishing));
+        menu.items.push_back({.title = NotOnThisPrinter(bundle, text),
+                              .enabled = false,
+                              .checked = true,
+                              .notOffered = true,
+                              .instead = position});
     }
 }
 

@@ -35,6 +35,17 @@ bool ApplyPaperRules(PaperOutputOptions& options, Menu& finishing);
 // Enables the items that the special pages and the booklet of the ticket leave possible.
 void EnableFinishingItems(Menu& menu, const Ticket& settings);
 
+// What has a row in the panel: what can finish the job, and what finishes it although this printer can't.
+FinishingAccessories RowsFor(const FinishingAccessories& fitted, const PaperOutputOptions& options);
+
+// The key of the text that tells of it.
+const char* FinishingText(const PaperOutputOptions& options, Finishing finishing);
+// Whether the job has it and the printer does not.
+bool IsNotOffered(const PaperOutputOptions& options, Finishing finishing);
+
+// Ends the menu with what finishes the job although this printer can't, and the way back from each.
+void AddNotOffered(Menu& menu, const Bundle& bundle, const PaperOutputOptions& options);
+
 // Checks the items that stand for the job's finishing.
 void MarkFinishingMenu(Menu& menu, const PaperOutputOptions& options);
 

@@ -140,7 +140,8 @@ void ReadFinishing(PaperOutputOptions& options, const Ticket& settings, ppd_file
     options.punch =
         PPDGetTicketValueForChoiceOrDefault(ppd, settings, OptionOf(Finishing::Punch)).value_or(options.punch);
     options.staple = ReadStaple(settings, ppd);
-    if (!option || IsFinishingChangedByOthers(options, settings))
+    const bool isBookletsAlone = fold == kFoldBiStaple;
+    if (!option || isBookletsAlone || IsFinishingChangedByOthers(options, settings))
         FollowFinishing(options);
     options.bindValue = ReadTicketValue(settings, key::FinishingBindValue).value_or(options.bindValue);
     const QString* custom = settings.values().string(key::FinishingCustom);

@@ -123,7 +123,7 @@ void FillMenus(_PaperOutputContext& panel)
 {
     BoundOptions(panel).fill();
     FillStockMenu(panel);
-    PPDPopulatePopupWithChoices(Popup(panel, kTwoSidedPopup), panel.ppd, "Duplex", Conflicting::Keep);
+    FillControl(PlaceOf(panel), kTwoSidedPopup, kTwoSided);
     FillFinishing(panel);
     HideDestination(panel);
 }
@@ -139,7 +139,7 @@ void AppearInSummary(const _PaperOutputContext& panel)
     ShowInSummary(Popup(panel, kStaplePopup), SummaryPlace::Finishing, plain.staple);
     ShowInSummary(Popup(panel, kPunchPopup), SummaryPlace::Finishing, plain.punch);
     ShowInSummary(FindHere(panel, kFinishingSummary), SummaryPlace::Finishing,
-                  CreateFinishingString(*panel.bundle, plain, panel.accessories));
+                  CreateFinishingString(*panel.bundle, plain, panel.rows));
 }
 
 // Its number and signature as a control among them, and its place in the window's summary.
@@ -224,7 +224,8 @@ void BuildView(_PaperOutputContext& panel)
     const std::unique_ptr<QWidget> window = CreateWindowFromNib(*panel.bundle, "Paper_Output", "Panel");
     if (!window || !panel.pane)
         return;
-    panel.view = EmbedAndShowControl(AssembleViews(*window, panel.accessories), *panel.pane);
+    panel.rows = RowsFor(panel.accessories, panel.options);
+    panel.view = EmbedAndShowControl(AssembleViews(*window, panel.rows), *panel.pane);
     FillMenus(panel);
     AppearInSummary(panel);
 }
@@ -258,8 +259,10 @@ void ShowPaper(const _PaperOutputContext& panel)
 void ShowFinishing(const _PaperOutputContext& panel)
 {
     ChangeFinishingMenus(panel, [&](Menu& menu) { MarkFinishingMenu(menu, panel.options); });
+    if (auto* finishing = FindControlAs<MenuButton>(panel.pane, {kSignature, kFinishingMenuButton}))
+        finishing->changeItems([&](Menu& menu) { AddNotOffered(menu, *panel.bundle, panel.options); });
     BoundFinishing(panel).show(panel.options, Showing::TicketRead);
-    const QString summary = CreateFinishingString(*panel.bundle, panel.options, panel.accessories);
+    const QString summary = CreateFinishingString(*panel.bundle, panel.options, panel.rows);
     ShowSummary(panel, kFinishingSummary, kFinishingMenuButton, summary.chopped(summary.endsWith(u'\n') ? 1 : 0));
     ShowPictures(panel);
 }
@@ -279,7 +282,8 @@ void ShowTwoSided(const _PaperOutputContext& panel)
 {
     const bool isBooklet = panel.options.booklet.isOn();
     PopupButton* popup = Popup(panel, kTwoSidedPopup);
-    SetPopupButtonToTicketValue(popup, isBooklet ? kTwoSidedLongEdge : panel.options.duplexPopupValue);
+    ShowInControl(PlaceOf(panel), kTwoSidedPopup, kTwoSided,
+                  isBooklet ? kTwoSidedLongEdge : panel.options.duplexPopupValue, kOneSided);
     SetControlEnabled(popup, !isBooklet);
     SetControlEnabled(FindHere(panel, kTwoSidedLabel), !isBooklet);
     SetControlEnabled(FindHere(panel, kTwoSidedPicture), !isBooklet);

@@ -256,6 +256,8 @@ TEST(FinishingSummary, HasOneLineForEachKindOfFinishing)
         return CreateFinishingString(Texts(), options, accessories);
     };
     constexpr FinishingAccessories kAll{.hasStapler = true, .hasPunch = true, .hasFolder = true};
+    const test::WithFeatures fitted(
+        {u"SingleStapleKey"_s, u"GenericPunchKey"_s, u"TriplePunchKey"_s, u"BookletFoldKey"_s, u"CFoldKey"_s});
     EXPECT_EQ(summary(Finished(4, 5, 4, 1), {.hasStapler = true, .hasPunch = true}), u"- 1 Staple\n- 3 Hole Punch\n"_s);
     EXPECT_EQ(summary(Finished(30, 1, kPunchAny, kFoldBiStaple), kAll),
               u"- No Staple Value\n- HolePunch\n- No Fold\n"_s)
@@ -264,6 +266,29 @@ TEST(FinishingSummary, HasOneLineForEachKindOfFinishing)
     EXPECT_EQ(summary({.booklet = {.fold = 19, .layout = kBookletLayoutOn}}, kAll), u"- No Fold\n- Booklet Layout\n"_s);
     EXPECT_EQ(summary({}, {}), u""_s);
     EXPECT_FALSE(summary({}, {}).isNull()) << "an empty text is shown, none is not";
+}
+
+TEST(FinishingSummary, MarksWhatThePrinterCantDo)
+{
+    const test::WithAccessories fitted({{"Option2", "CClass"}, {"Option4", "HolePunch23"}});
+    const auto summary = [](const Options& options) {
+        return CreateFinishingString(Texts(), options, RowsFor(GetFinishingAccessories(), options));
+    };
+    const QString mark = WithCaution(u"Not On This Printer "_s);
+    EXPECT_EQ(summary(Finished(30, 10, 5, 1)), u"- 2 Staples\n- "_s + mark + u"4 Hole Punch\n"_s);
+    EXPECT_EQ(summary(Finished(40, 1, 1, 20)), u"- No Staple Value\n- NoHolePunch\n- %1FoldZFold\n"_s.arg(mark));
+    EXPECT_EQ(summary(Finished(24, 1, 1, 53)), u"- %1Booklet FoldStaple\n"_s.arg(mark));
+
+    Menu menu = FinishingMenu(Texts());
+    const int before = menu.count();
+    AddNotOffered(menu, Texts(), Finished(40, 1, 5, 20));
+    AddNotOffered(menu, Texts(), Finished(40, 1, 5, 20));
+    ASSERT_EQ(menu.count(), before + 3) << "holes, no fold, fold";
+    EXPECT_EQ(menu.items.back().title, u"Not On This Printer FoldZFold"_s);
+    EXPECT_EQ(menu.items[menu.items.back().instead - 1].command, "Fld0"_code);
+    EXPECT_EQ(menu.items[before + 1].instead, 6) << "no holes";
+    AddNotOffered(menu, Texts(), {});
+    EXPECT_EQ(menu.count(), before + 1) << "the way back stays";
 }
 
 TEST(FinishingSummary, TransparenciesNameTheirSeparators)

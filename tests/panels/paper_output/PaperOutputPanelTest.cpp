@@ -14,6 +14,7 @@
 #include "support/Recorders.h"
 #include "toolkit/controls/MenuButton.h"
 #include "toolkit/controls/SummaryTextView.h"
+#include "toolkit/windows/WindowSummary.h"
 
 #include <algorithm>
 
@@ -200,6 +201,41 @@ TEST_F(PaperOutputPanelTest, TwoSidedIsShownAsTheJobHasIt)
     ticket.set("X", key::FinishingDuplex, Number::Index(2));
     ASSERT_EQ(sync(true), noErr);
     EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedLongEdge);
+}
+
+// Settings of a printer with everything, on one with nothing.
+TEST_F(PaperOutputPanelTest, WhatThisPrinterCantDoIsShownAsWhatItIsUntilSomethingElseIsChosen)
+{
+    const test::WithAccessories fitted({{"Option2", "None"}, {"Option4", "None"}, {"Option8", "False"}});
+    ticket.set("X", key::JobType, Dictionary{{"JobType", Number::SInt32(kJobTypeSavedJob)}});
+    ticket.set("X", key::FinishingOutputColor, Number::Index(77));
+    PPDSetCurrentChoice(ticket, "OutputBin", "Middle2");
+    PPDSetCurrentChoice(ticket, "StapleLocation", "DualLandscape");
+    PPDSetCurrentChoice(ticket, "KSPunch", "4HolePunch");
+    open();
+    const auto words = [this] {
+        QStringList found;
+        for (const NotOffered& one : FindNotOffered(pane))
+            found << one.shown + u" > "_s + one.instead;
+        return found;
+    };
+    EXPECT_EQ(popup(kJobTypePopup)->text(), u"Not On This Printer SavedJob"_s);
+    EXPECT_EQ(popup(kDestinationPopup)->text(), u"Not On This Printer Middle2"_s);
+    EXPECT_EQ(words().size(), 5) << words().join(u'\n').toStdString();
+    EXPECT_TRUE(words().contains(u"Not On This Printer 4 Hole Punch > NoHolePunch"_s));
+    EXPECT_TRUE(WindowSummary(pane).contains(WithCaution(u"Not On This Printer SavedJob"_s)));
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "OutputBin"), u"Middle2"_s);
+    EXPECT_EQ(ReadTicketValue(ticket, key::FinishingOutputColor), 77);
+
+    EXPECT_FALSE(popup(kJobTypePopup)->chooseItem(popup(kJobTypePopup)->value()));
+    ReplaceNotOffered(pane);
+    EXPECT_EQ(words(), QStringList());
+    EXPECT_EQ(GetPopupButtonTicketValue(popup(kJobTypePopup)), kJobTypeNormal);
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "StapleLocation"), u"None"_s);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "KSPunch"), u"None"_s);
+    EXPECT_EQ(ReadTicketValue(ticket, key::FinishingOutputColor), kStandardQuality);
 }
 
 TEST_F(PaperOutputPanelTest, WithoutABookletMakerTheTwoSidedRowSaysWhatHoldsItAndEndsIt)
