@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QRegularExpression>
 #include <QSlider>
 #include <QTemporaryDir>
 
@@ -73,7 +74,7 @@ QString StateOf(const QWidget& control)
 {
     if (const auto* popup = qobject_cast<const PopupButton*>(&control)) {
         const MenuItem* item = popup->selectedItem();
-        return item ? QString::number(item->value) + (item->notOffered ? u"!"_s : u""_s) : u"nothing"_s;
+        return item ? QString::number(item->value) + (item->notOffered ? u" !"_s : u""_s) : u"nothing"_s;
     }
     if (const auto* menu = qobject_cast<const MenuControl*>(&control)) {
         QStringList checked;
@@ -225,22 +226,145 @@ test::PPDVariant With(const char* finisher, const char* punchUnit, bool hasFaxAn
     return ppd;
 }
 
-TEST_F(ShownAndSentTest, EveryChoiceIsShownAsItIsSentOnEveryPrinter)
-{
-    ASSERT_TRUE(factory);
-    std::vector<Chosen> all;
-    for (const char* finisher : {"DClass_BK", "CClass"}) {
-        withPane(With(finisher, "HolePunch24", true), [&](const OpenPane& pane) {
+class AllChoicesTest : public ShownAndSentTest {
+protected:
+    // Of the printer that has everything.
+    void playOn(const test::PPDVariant& ppd)
+    {
+        withPane(ppd, [this](const OpenPane& pane) {
             pane.sync(false);
             const Settings start = pane.settings();
-            const Shown shownAtStart = pane.read(start);
+            shownAtStart = pane.read(start);
             PlayAll(pane, [&](const Chosen& chosen) {
                 ExpectReadAsChosen(pane, start, shownAtStart, chosen);
                 all.push_back(chosen);
             });
         });
     }
-    EXPECT_GT(all.size(), 200U);
+
+    std::vector<Chosen> all;
+    Shown shownAtStart;
+};
+
+// Where a row's own control is not there, another one says it.
+bool HasRowsOfItsOwn(const Settings& settings)
+{
+    const auto isFinished = [&](const char* option) {
+        const QString* choice = settings.choices.string(option);
+        return choice && *choice != u"None"_s;
+    };
+    return isFinished("StapleLocation") || isFinished("KSPunch") || isFinished("KSFold");
+}
+
+QStringList Facts(const QString& summary)
+{
+    QString plain = summary;
+    plain.remove(u' ').remove(u"NotOnThisPrinter"_s).remove(WithCaution({}).trimmed());
+    return plain.toLower().split(QRegularExpression(u"[/,]"_s), Qt::SkipEmptyParts);
+}
+
+// Each pop-up has the value, marked where it does not offer it. One with nothing to choose from may be empty at the
+// start's value.
+void ExpectSameValues(const OpenPane& pane, const Shown& expected, const Shown& shownAtStart)
+{
+    for (const PopupButton* popup : pane.dialog.pane.findChildren<PopupButton*>()) {
+        const ControlID id = GetControlID(*popup);
+        const QString name = u"%1#%2"_s.arg(id.signature).arg(id.number);
+        if (!expected.contains(name))
+            continue;
+        const QString value = expected.at(name).section(u' ', 0, 0);
+        const MenuItem* item = popup->selectedItem();
+        if (!item) {
+            EXPECT_EQ(value, shownAtStart.at(name).section(u' ', 0, 0)) << name.toStdString();
+            continue;
+        }
+        const auto offers = [&](const MenuItem& one) { return !one.notOffered && one.value == item->value; };
+        EXPECT_EQ(item->value, value.toInt()) << name.toStdString();
+        EXPECT_EQ(item->notOffered, std::ranges::none_of(popup->menu().items, offers)) << name.toStdString();
+    }
+}
+
+void ExpectUnchanged(const OpenPane& pane, const Settings& settings)
+{
+    pane.sync(false);
+    EXPECT_EQ(Difference(settings.values, pane.settings().values), "");
+    EXPECT_EQ(Difference(settings.choices, pane.settings().choices), "");
+}
+
+TEST_F(AllChoicesTest, AreShownAsTheyAreSentOnEveryPrinter)
+{
+    ASSERT_TRUE(factory);
+    playOn(With("CClass", "HolePunch24", true)); // with pop-ups for finishing
+    all.clear();
+    playOn(With("DClass_BK", "HolePunch24", true));
+    ASSERT_GT(all.size(), 150U);
+
+    std::vector<test::PPDVariant> others;
+    others.push_back(With("CClass", "HolePunch23", false));
+    others.push_back(With("None", "None", false));
+    others.push_back(With("None", "None", false)); // and hardly an option
+    for (const char* option : {"Duplex", "OutputBin", "Jog", "KSOutputOption", "MediaType", "MediaColor", "KSFold",
+                               "KSPunch", "StapleLocation"})
+        others.back().removeOption(option);
+    for (const test::PPDVariant& other : others) {
+        SCOPED_TRACE(&other - others.data());
+        withPane(other, [this](const OpenPane& pane) {
+            for (const Chosen& chosen : all) {
+                if (HasRowsOfItsOwn(chosen.settings))
+                    continue;
+                SCOPED_TRACE(chosen.what.toStdString());
+                pane.read(chosen.settings);
+                ExpectSameValues(pane, chosen.shown, shownAtStart);
+                ExpectUnchanged(pane, chosen.settings);
+            }
+        });
+        for (const Chosen& chosen : all) {
+            if (!HasRowsOfItsOwn(chosen.settings))
+                continue;
+            SCOPED_TRACE(chosen.what.toStdString());
+            const auto compare = [&](const OpenPane& pane) {
+                const QStringList here = Facts(WindowSummary(pane.dialog.pane).join(u'/'));
+                for (const QString& fact : Facts(chosen.shown.at(u"summary"_s)))
+                    EXPECT_TRUE(here.contains(fact)) << fact.toStdString() << " in " << here.join(u'/').toStdString();
+                ExpectSameValues(pane, chosen.shown, shownAtStart);
+                ExpectUnchanged(pane, chosen.settings);
+            };
+            withPane(other, compare, &chosen.settings);
+        }
+    }
+}
+
+// What the printer does when nobody chooses is shown as if it had been chosen.
+TEST_F(ShownAndSentTest, DefaultsAreShownAsChoicesAre)
+{
+    ASSERT_TRUE(factory);
+    const std::map<const char*, std::vector<const char*>> choices{
+        {"Duplex", {"None", "DuplexNoTumble", "DuplexTumble"}},
+        {"OutputBin", {"Middle", "Top", "Stacker", "Booklet"}},
+        {"StapleLocation", {"None", "DualLandscape", "SinglePortrait", "MultipleStaples"}},
+        {"KSPunch", {"2HolePunch", "None", "4HolePunch"}},
+        {"KSFold", {"None", "None", "None", "C", "BiFold"}},
+        {"MediaType", {"Transparency", "Bond", "TabStock", "Labels", "Standard"}},
+        {"MediaColor", {"Clear", "Blue", "Ivory", "Custom1", "Unspecified"}},
+        {"Jog", {"None", "EndOfSet"}},
+        {"KSOutputOption", {"True", "False"}},
+    };
+    for (std::size_t round = 0; round < 5; ++round) {
+        SCOPED_TRACE(round);
+        test::PPDVariant byDefault = With("DClass_BK", "HolePunch24", true);
+        Ticket ticket;
+        for (const auto& [option, offered] : choices) {
+            const char* choice = offered[std::min(round, offered.size() - 1)];
+            byDefault.setDefault(option, choice);
+            ticket.ppdDict().set(option, choice);
+        }
+        Shown shown;
+        withPane(byDefault, [&](const OpenPane& pane) { shown = ShownIn(pane.dialog.pane); });
+        const Settings chosen(ticket);
+        withPane(
+            byDefault, [&](const OpenPane& pane) { EXPECT_EQ(Difference(shown, ShownIn(pane.dialog.pane)), ""); },
+            &chosen);
+    }
 }
 
 } // namespace
