@@ -123,8 +123,8 @@ TEST_P(TicketVersionTest, DamageIsAnError)
 TEST_P(TicketVersionTest, ABombDoesNotGoOff)
 {
     const bool isFirst = GetParam() == 1;
-    const auto piece = [isFirst](const QByteArray& content, const QByteArray& announced) {
-        const QByteArray packed = PackTicket(isFirst ? TicketPacking::Zlib : TicketPacking::Bzip2, content);
+    const auto piece = [isFirst](const QByteArray& content, const QByteArray& announced, const QByteArray& more = {}) {
+        const QByteArray packed = PackTicket(isFirst ? TicketPacking::Zlib : TicketPacking::Bzip2, content) + more;
         const quint32 sum = quint32(crc32_z(0, reinterpret_cast<const Bytef*>(content.constData()), content.size()));
         const QByteArray value = (isFirst ? "kt1-1-1-" : "kt2-1-1-") + announced + '-' + QByteArray::number(sum, 16) +
                                  (isFirst ? "-" : "-0-") +
@@ -137,6 +137,7 @@ TEST_P(TicketVersionTest, ABombDoesNotGoOff)
     EXPECT_NE(Problem(piece(large, "1000")), QString());
     EXPECT_NE(Problem(piece("abc", "4")), QString());
     EXPECT_NE(Problem(piece("abc", "2")), QString());
+    EXPECT_NE(Problem(piece("abc", "3", "x")), QString()) << "bytes behind what is packed";
     for (const char* header : {"kt1", "kt1-1-1-5-0", "kt2-1-1-3-0-AAAA", "kt1-1-9-3-0-AAAA", "kt1-1-0-3-0-AAAA",
                                "kt1-1-1--3-0-AAAA", "kt1-1-1-3-zz-AAAA", "kt1-1-1-3-0-!!!!", "kt1-1-1-3-0-",
                                "kt2-1-1-3-0-2-AAAA", "kt2-1-1-3-0--1-AAAA", "kt2-1-1-3-0-0-", "kt3-1-1-3-0-0-AAAA", ""})

@@ -2,6 +2,7 @@
 #include "panels/booklet_watermark/FontBuilder.h"
 #include "panels/booklet_watermark/fonts/Sfnt.h"
 #include "panels/booklet_watermark/fonts/SfntName.h"
+#include "panels/booklet_watermark/fonts/Type42Strings.h"
 
 #include <QByteArrayList>
 
@@ -221,6 +222,20 @@ TEST(Type42, AFontThatCannotBeCutStaysUnfinished)
     EXPECT_EQ(Strings(Convert(builder.file()).text).size(), 2u) << "cut at a table";
 }
 
+TEST(Type42, AStringTakesUpToTheLastBoundaryThatFits)
+{
+    constexpr qsizetype kSize = 70'000, kMost = 65'534;
+    std::vector<char> out(RoomForStrings(kSize));
+    const auto first = [&](std::uint64_t boundary) {
+        const WrittenStrings written = WriteStrings(QByteArray(kSize, 'x'), {boundary}, {0, 8}, out.data());
+        const QByteArray text(out.data(), written.end - out.data());
+        return text.first(text.indexOf('>')).count("78");
+    };
+    EXPECT_EQ(first(kMost - 1), kMost - 1);
+    EXPECT_EQ(first(kMost), kMost);
+    EXPECT_EQ(first(kMost + 1), 8) << "and never half of one that does not fit";
+}
+
 TEST(Type42, MalformedFontsGiveNothing)
 {
     const auto error = [](const FontBuilder& builder) {
@@ -234,6 +249,19 @@ TEST(Type42, MalformedFontsGiveNothing)
         FontBuilder missing;
         missing.tables.erase(tag);
         EXPECT_EQ(error(missing), "DEBUG: Malformed TrueType file - missing vital table.\n") << tag;
+    }
+    for (const char* tag : {"glyf", "loca"}) {
+        QByteArray font = FontBuilder().file();
+        const qsizetype entry = font.indexOf(tag);
+        const auto resultOf = [&](unsigned offset) {
+            testing::internal::CaptureStderr();
+            const bool isComplete = Convert(font.replace(entry + 8, 4, BigEndian32(offset))).isComplete;
+            testing::internal::GetCapturedStderr();
+            return isComplete;
+        };
+        EXPECT_TRUE(resultOf(static_cast<unsigned>(font.size()))) << "an empty table at the end";
+        EXPECT_FALSE(resultOf(static_cast<unsigned>(font.size()) + 1)) << tag;
+        EXPECT_FALSE(resultOf(0xFFFFFFF0)) << tag;
     }
     FontBuilder magic;
     magic.patch("head", 12, BigEndian32(0x5F0F3CF4));
