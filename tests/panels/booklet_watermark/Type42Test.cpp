@@ -161,6 +161,13 @@ TEST(Type42, NamesThatWouldNotBeNamesAreLeftOut)
     EXPECT_FALSE(text.contains("a b"));
     EXPECT_FALSE(text.contains("show"));
     EXPECT_TRUE(text.contains("/.notdef 0 def\n/fine 4 def\nend readonly def\n"));
+
+    builder.setNames({0, 258}, {"x"});
+    builder.patch("post", 38, "\2"); // a byte longer than its table, and the byte behind it could be of a name
+    builder["zzzz"] = "zzzz";
+    EXPECT_FALSE(Convert(builder.file()).text.contains("xz"));
+    builder.patch("post", 38, "\1");
+    EXPECT_TRUE(Convert(builder.file()).text.contains("/x 1 def\n"));
 }
 
 TEST(Type42, CutsBetweenGlyphsOnly)
