@@ -74,6 +74,16 @@ TEST(JobCompositionTest, RefusesWhatWouldArriveDamaged)
     EXPECT_TRUE(refused.options.empty());
 }
 
+TEST(JobCompositionTest, OptionsAreAsLongAsTheProtocolTakes)
+{
+    const auto fits = [](qsizetype name, qsizetype value, QChar c = u'x') {
+        return !JobOptionFault({QString(name, c), QString(value, c)});
+    };
+    EXPECT_TRUE(fits(255, 32'767));
+    EXPECT_FALSE(fits(256, 1) || fits(1, 32'768) || fits(0, 1));
+    EXPECT_FALSE(fits(128, 1, u'ü') || fits(1, 16'384, u'ü')) << "bytes count";
+}
+
 TEST(JobCompositionTest, OptionsStringsAreReadAsAFilterGetsThem)
 {
     JobOptions options;
