@@ -131,6 +131,8 @@ TEST_P(TicketVersionTest, ABombDoesNotGoOff)
                                  packed.toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
         return JobOptions{{u"com.kesta.print.ticket.1"_s, QString::fromLatin1(value)}};
     };
+    const TicketPacking packing = isFirst ? TicketPacking::Zlib : TicketPacking::Bzip2;
+    EXPECT_EQ(UnpackTicket(packing, PackTicket(packing, "abc"), 4), QByteArray());
     const QByteArray large(kMaximumTicket + 1, '\0');
     EXPECT_EQ(DecodeTicket(piece("abc", "3")).propertyList, "abc");
     EXPECT_NE(Problem(piece(large, QByteArray::number(large.size()))), QString());

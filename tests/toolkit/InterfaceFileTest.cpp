@@ -7,7 +7,6 @@
 #include "toolkit/controls/ColorSwatch.h"
 #include "toolkit/controls/ListView.h"
 #include "toolkit/controls/Mnemonics.h"
-#include "toolkit/controls/SummaryTextView.h"
 #include "toolkit/controls/TabControl.h"
 #include "toolkit/controls/TextArea.h"
 
@@ -130,14 +129,6 @@ TEST_F(GalleryTest, ListsSortByTheLanguageAndKeepTheirRowNumbers)
     EXPECT_EQ(list.selectedRows(), (std::vector{2, 1, 0, 3})) << "selected rows are told from top to bottom";
     list.setRows({});
     EXPECT_TRUE(list.selectedRows().empty());
-}
-
-TEST_F(GalleryTest, SummariesKeepRoomForTheirUsualLines)
-{
-    auto& summary = get<SummaryTextView>(window, 106);
-    const int three = summary.sizeHint().height();
-    summary.setText(u"- None"_s);
-    EXPECT_EQ(summary.sizeHint().height(), three);
 }
 
 QChar MnemonicOf(const QString& text)
