@@ -45,6 +45,8 @@ TEST(JobCompositionTest, LaterSourcesPrevail)
     EXPECT_EQ(FindJobOption(ComposeJobOptions(sources).options, "orientation-requested"), u"4"_s);
     sources.fields.orientation = Orientation::ReverseLandscape;
     EXPECT_EQ(FindJobOption(ComposeJobOptions(sources).options, "orientation-requested"), u"5"_s);
+    sources.ticket = {};
+    EXPECT_EQ(FindJobOption(ComposeJobOptions(sources).options, "com.kesta.print.ticket.1"), std::nullopt);
 }
 
 TEST(JobCompositionTest, RefusesWhatWouldArriveDamaged)

@@ -36,26 +36,6 @@ protected:
     }
 };
 
-TEST_F(GalleryTest, TextsAreLookedUpAndTheirKeysKept)
-{
-    EXPECT_EQ(window->windowTitle(), u"Print"_s);
-    auto* cancel = GetWindowCancelButton(*window);
-    ASSERT_TRUE(cancel);
-    EXPECT_EQ(cancel->text(), u"Cancel"_s);
-    EXPECT_EQ(cancel->property("localizableKey").toString(), u"Cancel Command"_s);
-    EXPECT_EQ(get<TabControl>(controls, 20).titles(), (QStringList{u"Recipients"_s, u"Cover Sheet"_s, u"Options"_s}));
-    EXPECT_EQ(get<QLineEdit>(controls, 24).text(), u"1234"_s);
-    EXPECT_EQ(get<QWidget>(controls, 26).property("localizableKey"), QVariant()) << "a number is no key";
-}
-
-TEST_F(GalleryTest, AControlIsNamedByItsLabelOrByItself)
-{
-    EXPECT_EQ(ControlName(get<QWidget>(window, 101)), u"Job type"_s);
-    EXPECT_EQ(ControlName(get<QWidget>(window, 5)), u"Landscape"_s);
-    SetControlText(LabelOf(get<QWidget>(window, 101)), u"Kind of job"_s);
-    EXPECT_EQ(ControlName(get<QWidget>(window, 101)), u"Kind of job"_s);
-}
-
 TEST_F(GalleryTest, TrailingWidgetsAreAsWideAsTheWidest)
 {
     std::set<int> widths;
