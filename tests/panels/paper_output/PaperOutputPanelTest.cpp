@@ -225,6 +225,15 @@ TEST_F(PaperOutputPanelTest, PaperDecidesAboutTheFinishingWithEveryEvent)
     EXPECT_EQ(options().coilPunch, 0);
 }
 
+TEST_F(PaperOutputPanelTest, APageThatIsTurnedTurnsItsStaple)
+{
+    open();
+    EXPECT_TRUE(choose(kFinishingMenuButton, "Stp1"_code));
+    pageFormat.set("X", key::PMOrientation, Number::Index(2));
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "StapleLocation"), u"SingleLandscape"_s);
+}
+
 TEST_F(PaperOutputPanelTest, TwoSidedAndBookletAreLeftToTheirOwners)
 {
     ASSERT_EQ(initialize(), noErr);
