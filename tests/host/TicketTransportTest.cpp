@@ -140,6 +140,8 @@ TEST_P(TicketVersionTest, ABombDoesNotGoOff)
     EXPECT_NE(Problem(piece("abc", "4")), QString());
     EXPECT_NE(Problem(piece("abc", "2")), QString());
     EXPECT_NE(Problem(piece("abc", "3", "x")), QString()) << "bytes behind what is packed";
+    const QString fivePieces = isFirst ? u"kt1-1-5-3-0-AAAA"_s : u"kt2-1-5-3-0-0-AAAA"_s;
+    EXPECT_TRUE(Problem({{u"com.kesta.print.ticket.1"_s, fivePieces}}).contains(u"newer"_s)) << "four may travel";
     for (const char* header : {"kt1", "kt1-1-1-5-0", "kt2-1-1-3-0-AAAA", "kt1-1-9-3-0-AAAA", "kt1-1-0-3-0-AAAA",
                                "kt1-1-1--3-0-AAAA", "kt1-1-1-3-zz-AAAA", "kt1-1-1-3-0-!!!!", "kt1-1-1-3-0-",
                                "kt2-1-1-3-0-2-AAAA", "kt2-1-1-3-0--1-AAAA", "kt2-1-1-3-0-0-", "kt3-1-1-3-0-0-AAAA", ""})
