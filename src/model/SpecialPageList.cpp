@@ -70,6 +70,46 @@ void Place(Page exception, Exceptions& exceptions)
     exceptions.emplace_hint(place, start, std::move(exception));
 }
 
+// One after the other, each takes its pages from those before it.
+std::vector<Page> PlaceAll(std::vector<Page> pages, std::vector<Page> added)
+{
+    Exceptions placed;
+    for (Page& page : pages)
+        placed.emplace_hint(placed.end(), page->startPage(), std::move(page));
+    for (Page& exception : added)
+        Place(std::move(exception), placed);
+    pages.clear();
+    for (auto& [start, page] : placed)
+        pages.push_back(std::move(page));
+    return pages;
+}
+
+// All in order, if no two have a page in common: what PlaceAll comes to, in little more time than looking at each.
+bool Merge(std::vector<Page>& pages, std::vector<Page>& added)
+{
+    struct Span {
+        SInt32 start, end;
+        Page* page;
+    };
+    std::vector<Span> spans;
+    spans.reserve(pages.size() + added.size());
+    for (std::vector<Page>* some : {&pages, &added}) {
+        for (Page& page : *some)
+            spans.push_back({page->startPage(), LastPage(*page), &page});
+    }
+    std::ranges::sort(spans, {}, &Span::start);
+    const auto shared =
+        std::ranges::adjacent_find(spans, [](const Span& one, const Span& next) { return next.start <= one.end; });
+    if (shared != spans.end())
+        return false;
+    std::vector<Page> merged;
+    merged.reserve(spans.size());
+    for (const Span& span : spans)
+        merged.push_back(std::move(*span.page));
+    pages = std::move(merged);
+    return true;
+}
+
 } // namespace
 
 SpecialPageList::SpecialPageList(const SpecialPageList& other) : pages_(Clones(other.pages_)) {}
@@ -170,10 +210,7 @@ bool InsertList::canPromote(const SpecialPage* insert) const
 
 void InsertList::promote(const SpecialPage* insert)
 {
-    if (!canPromote(insert))
-        return;
-    const auto index = static_cast<std::size_t>(indexOfPage(insert));
-    pages_[index].swap(pages_[index - 1]);
+    move(insert, -1);
 }
 
 bool InsertList::canDemote(const SpecialPage* insert) const
@@ -185,10 +222,22 @@ bool InsertList::canDemote(const SpecialPage* insert) const
 
 void InsertList::demote(const SpecialPage* insert)
 {
-    if (!canDemote(insert))
+    move(insert, 1);
+}
+
+void InsertList::move(const SpecialPage* insert, SInt32 steps)
+{
+    const auto last = static_cast<CFIndex>(count()) - 1;
+    CFIndex place = indexOfPage(insert);
+    if (place < 0)
         return;
-    const auto index = static_cast<std::size_t>(indexOfPage(insert));
-    pages_[index].swap(pages_[index + 1]);
+    for (const CFIndex target = std::clamp<CFIndex>(place + steps, 0, last); place != target;) {
+        const CFIndex next = place + (target < place ? -1 : 1);
+        if (pageAtIndex(next)->startPage() == 0)
+            return;
+        pages_[static_cast<std::size_t>(place)].swap(pages_[static_cast<std::size_t>(next)]);
+        place = next;
+    }
 }
 
 void InsertList::promote(const ChosenPages& inserts)
@@ -212,14 +261,8 @@ OSStatus ExceptionPageList::add(const SpecialPages& exceptions)
     if (!AreAll<ExceptionPage>(exceptions))
         return kMissingArgument;
     std::vector<Page> added = Clones(exceptions); // of all first: some may be in this list and leave it
-    Exceptions placed;
-    for (Page& page : pages_)
-        placed.emplace_hint(placed.end(), page->startPage(), std::move(page));
-    for (Page& exception : added)
-        Place(std::move(exception), placed);
-    pages_.clear();
-    for (auto& [start, page] : placed)
-        pages_.push_back(std::move(page));
+    if (!Merge(pages_, added))
+        pages_ = PlaceAll(std::move(pages_), std::move(added));
     return noErr;
 }
 

@@ -100,6 +100,7 @@ OSStatus MakeExceptions(const ExceptionPage& like, const QString& text, const Ex
         return kInvalidPageNumbers;
     if (!IsFree(ranges, list, edited))
         return kPageRangeConflict;
+    made.reserve(made.size() + ranges.size());
     for (const PageRange& range : ranges) {
         made.push_back(like);
         made.back().setStartPage(range.start);
