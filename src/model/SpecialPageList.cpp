@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <map>
 #include <utility>
 
@@ -84,30 +85,45 @@ std::vector<Page> PlaceAll(std::vector<Page> pages, std::vector<Page> added)
     return pages;
 }
 
-// All in order, if no two have a page in common: what PlaceAll comes to, in little more time than looking at each.
-bool Merge(std::vector<Page>& pages, std::vector<Page>& added)
+SInt32 StartOf(const Page& page)
 {
-    struct Span {
-        SInt32 start, end;
-        Page* page;
-    };
-    std::vector<Span> spans;
-    spans.reserve(pages.size() + added.size());
-    for (std::vector<Page>* some : {&pages, &added}) {
-        for (Page& page : *some)
-            spans.push_back({page->startPage(), LastPage(*page), &page});
+    return page->startPage();
+}
+
+// Whether the exception pages that are added have none in common, neither with each other nor with those in order.
+bool AreApart(const std::vector<Page>& pages, const std::vector<Page>& added)
+{
+    std::vector<const SpecialPage*> sorted;
+    sorted.reserve(added.size());
+    for (const Page& page : added)
+        sorted.push_back(page.get());
+    std::ranges::sort(sorted, {}, &SpecialPage::startPage);
+    SInt32 taken = std::numeric_limits<SInt32>::min();
+    for (const SpecialPage* page : sorted) {
+        const auto behind = std::ranges::upper_bound(pages, LastPage(*page), {}, StartOf);
+        if (behind != pages.begin())
+            taken = std::max(taken, LastPage(**std::prev(behind)));
+        if (taken >= page->startPage())
+            return false;
+        taken = LastPage(*page);
     }
-    std::ranges::sort(spans, {}, &Span::start);
-    const auto shared =
-        std::ranges::adjacent_find(spans, [](const Span& one, const Span& next) { return next.start <= one.end; });
-    if (shared != spans.end())
-        return false;
-    std::vector<Page> merged;
-    merged.reserve(spans.size());
-    for (const Span& span : spans)
-        merged.push_back(std::move(*span.page));
-    pages = std::move(merged);
     return true;
+}
+
+// Each before the first of those in order that starts behind it.
+std::vector<Page> Merge(std::vector<Page> pages, std::vector<Page> added)
+{
+    std::ranges::stable_sort(added, {}, StartOf);
+    std::vector<Page> merged;
+    merged.reserve(pages.size() + added.size());
+    auto next = added.begin();
+    for (Page& page : pages) {
+        for (; next != added.end() && StartOf(*next) < StartOf(page); ++next)
+            merged.push_back(std::move(*next));
+        merged.push_back(std::move(page));
+    }
+    std::move(next, added.end(), std::back_inserter(merged));
+    return merged;
 }
 
 } // namespace
@@ -182,18 +198,7 @@ OSStatus InsertList::add(const SpecialPages& inserts)
 {
     if (!AreAll<Insert>(inserts))
         return kMissingArgument;
-    std::vector<Page> added = Clones(inserts);
-    std::ranges::stable_sort(added, {}, [](const Page& page) { return page->startPage(); });
-
-    std::vector<Page> before = std::exchange(pages_, {});
-    pages_.reserve(before.size() + added.size());
-    auto next = added.begin();
-    for (Page& page : before) {
-        for (; next != added.end() && (*next)->startPage() < page->startPage(); ++next)
-            pages_.push_back(std::move(*next));
-        pages_.push_back(std::move(page));
-    }
-    std::move(next, added.end(), std::back_inserter(pages_));
+    pages_ = Merge(std::move(pages_), Clones(inserts));
     return noErr;
 }
 
@@ -261,8 +266,8 @@ OSStatus ExceptionPageList::add(const SpecialPages& exceptions)
     if (!AreAll<ExceptionPage>(exceptions))
         return kMissingArgument;
     std::vector<Page> added = Clones(exceptions); // of all first: some may be in this list and leave it
-    if (!Merge(pages_, added))
-        pages_ = PlaceAll(std::move(pages_), std::move(added));
+    const auto place = AreApart(pages_, added) ? Merge : PlaceAll;
+    pages_ = place(std::move(pages_), std::move(added));
     return noErr;
 }
 

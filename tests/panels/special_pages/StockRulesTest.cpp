@@ -172,8 +172,10 @@ TEST_F(StockRulesTest, OverlaysLieOverEachOtherInOrder)
     stock.setPunched(kStockPunched);
     stock.setColor(kStockColorGoldenrod);
     EXPECT_EQ(pictures(), QStringList({u"Paper_Envelope-Goldenrod.gif"_s, u"Paper_Overlay-HolePunchedEnvelope.gif"_s}));
-    stock.setType(kStockTypeTransparency); // which is chosen clear, and without gloss then
+    ApplyStockCommand(stock, JobContext::Job, kStockTypeCommand, kStockTypeTransparency);
     stock.setPunched(kStockNotPunched);
+    EXPECT_EQ(pictures(), QStringList({u"Paper_Plain-Clear.gif"_s})) << "without gloss";
+    stock.setColor(kStockColorGoldenrod);
     EXPECT_EQ(pictures(), QStringList({u"Paper_Plain-Goldenrod.gif"_s, u"Paper_Overlay-LightweightGloss.gif"_s}));
     EXPECT_TRUE(StockIconPictures(nullptr).isEmpty());
 }
