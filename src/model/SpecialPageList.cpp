@@ -85,9 +85,13 @@ std::vector<Page> PlaceAll(std::vector<Page> pages, std::vector<Page> added)
     return pages;
 }
 
-SInt32 StartOf(const Page& page)
+constexpr auto kStart = [](const auto& page) { return page->startPage(); };
+
+// Typed pages and those of a ticket mostly come in order.
+void SortByStart(auto& pages)
 {
-    return page->startPage();
+    if (!std::ranges::is_sorted(pages, {}, kStart))
+        std::ranges::stable_sort(pages, {}, kStart);
 }
 
 // Whether the exception pages that are added have none in common, neither with each other nor with those in order.
@@ -97,10 +101,10 @@ bool AreApart(const std::vector<Page>& pages, const std::vector<Page>& added)
     sorted.reserve(added.size());
     for (const Page& page : added)
         sorted.push_back(page.get());
-    std::ranges::sort(sorted, {}, &SpecialPage::startPage);
+    SortByStart(sorted);
     SInt32 taken = std::numeric_limits<SInt32>::min();
     for (const SpecialPage* page : sorted) {
-        const auto behind = std::ranges::upper_bound(pages, LastPage(*page), {}, StartOf);
+        const auto behind = std::ranges::upper_bound(pages, LastPage(*page), {}, kStart);
         if (behind != pages.begin())
             taken = std::max(taken, LastPage(**std::prev(behind)));
         if (taken >= page->startPage())
@@ -113,12 +117,12 @@ bool AreApart(const std::vector<Page>& pages, const std::vector<Page>& added)
 // Each before the first of those in order that starts behind it.
 std::vector<Page> Merge(std::vector<Page> pages, std::vector<Page> added)
 {
-    std::ranges::stable_sort(added, {}, StartOf);
+    SortByStart(added);
     std::vector<Page> merged;
     merged.reserve(pages.size() + added.size());
     auto next = added.begin();
     for (Page& page : pages) {
-        for (; next != added.end() && StartOf(*next) < StartOf(page); ++next)
+        for (; next != added.end() && kStart(*next) < kStart(page); ++next)
             merged.push_back(std::move(*next));
         merged.push_back(std::move(page));
     }
