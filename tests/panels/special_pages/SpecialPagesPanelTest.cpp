@@ -4,6 +4,7 @@
 #include "panels/special_pages/editors/CoversHandler.h"
 #include "panels/special_pages/editors/ExceptionsHandler.h"
 #include "panels/special_pages/editors/ImageShiftDialog.h"
+#include "panels/special_pages/editors/ImageShiftScene.h"
 #include "panels/special_pages/editors/InsertsHandler.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/menus/MenuUtilities.h"
@@ -19,6 +20,7 @@
 #include "toolkit/windows/WindowSummary.h"
 
 #include <QAccessible>
+#include <QPainter>
 #include <QPushButton>
 
 #include <ctime>
@@ -256,6 +258,20 @@ TEST_F(SpecialPagesPanelTest, ExceptionsHaveSidesAndAnImageShift)
     EXPECT_EQ(CFDictionaryGetNumber<SInt32>(*stored[0].dictionary(), "SidesImaged"), 1);
     EXPECT_TRUE(stored[0].dictionary()->dictionary("com.kesta.print.ImageShiftOptionsPage"));
     EXPECT_EQ(WindowSummary(pane), QStringList{u"Exception Range As Summary Page Range In List 31 34 Simplex"_s});
+}
+
+TEST(ImageShiftScene, Side1StandsWhereTheWindowBegins)
+{
+    const auto sheets = [](Qt::LayoutDirection direction) {
+        QImage image(144, 84, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        DrawImageShiftScene(painter, image.rect(), {.isOn = true, .areAlike = false, .side1 = {10, 5}}, direction);
+        return std::pair(image.copy(0, 0, 64, 84), image.copy(80, 0, 64, 84));
+    };
+    const auto [left, right] = sheets(Qt::LeftToRight);
+    EXPECT_NE(left, right);
+    EXPECT_EQ(sheets(Qt::RightToLeft), std::pair(right, left));
 }
 
 TEST_F(SpecialPagesPanelTest, NinetyThousandRowsMakeNoPause)
