@@ -201,6 +201,10 @@ TEST_F(PaperOutputPanelTest, TwoSidedIsShownAsTheJobHasIt)
     ticket.set("X", key::FinishingDuplex, Number::Index(2));
     ASSERT_EQ(sync(true), noErr);
     EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedLongEdge);
+    test::ModalUser user;
+    user.then([](QWidget& window) { test::Press(window, kCommandOK); });
+    EXPECT_TRUE(choose(kFinishingMenuButton, kBookletCreation));
+    EXPECT_EQ(options().duplex, kTwoSidedLongEdge) << "no booklet gives back what the job had";
 }
 
 // Settings of a printer with everything, on one with nothing.
@@ -259,6 +263,36 @@ TEST_F(PaperOutputPanelTest, WithoutABookletMakerTheTwoSidedRowSaysWhatHoldsItAn
     EXPECT_EQ(PPDCopyCurrentChoice(ticket, "KSFold"), u"None"_s);
 }
 
+TEST_F(PaperOutputPanelTest, AJobThatIsABookletOpensOnLongEdge)
+{
+    ticket.set("X", key::FinishingDuplex, Number::Index(3));
+    ticket.set("X", key::BookletLayout, true);
+    open();
+    EXPECT_EQ(options().duplex, kTwoSidedLongEdge);
+}
+
+TEST_F(PaperOutputPanelTest, PaperDecidesAboutTheFinishingWithEveryEvent)
+{
+    const test::WithFeatures fitted({u"GBCAdvancedPunchKey"_s});
+    open();
+    options().stock.setType(kStockTypeLabels);
+    options().coilPunch = 1;
+    EXPECT_TRUE(test::Pick(popup(kQualityPopup), 200));
+    EXPECT_EQ(options().coilPunch, 0);
+    options().coilPunch = 1;
+    EXPECT_EQ(SendControlEvent(pane, CommandEvent{.command = kNoCommand}), EventResult::NotHandled);
+    EXPECT_EQ(options().coilPunch, 0);
+}
+
+TEST_F(PaperOutputPanelTest, APageThatIsTurnedTurnsItsStaple)
+{
+    open();
+    EXPECT_TRUE(choose(kFinishingMenuButton, "Stp1"_code));
+    pageFormat.set("X", key::PMOrientation, Number::Index(2));
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "StapleLocation"), u"SingleLandscape"_s);
+}
+
 TEST_F(PaperOutputPanelTest, TwoSidedAndBookletAreLeftToTheirOwners)
 {
     ASSERT_EQ(initialize(), noErr);
@@ -277,6 +311,9 @@ TEST_F(PaperOutputPanelTest, ClosedAndOpenedAgainItShowsTheSameInNewSummaries)
     open();
     EXPECT_TRUE(choose(kFinishingMenuButton, "Stp2"_code));
     const QString paper = text(kPaperSummary), finishing = text(kFinishingSummary);
+    const auto linesOf = [this](Control view) { return control(view)->property("lines").toInt(); };
+    const int lines = linesOf(kFinishingSummary);
+    EXPECT_GT(lines, 1);
     const PopupButton* popupBefore = popup(kJobTypePopup);
     EXPECT_EQ(slots->Close(prologue.context), noErr);
     EXPECT_EQ(text(kPaperSummary), u"no view"_s);
@@ -284,6 +321,7 @@ TEST_F(PaperOutputPanelTest, ClosedAndOpenedAgainItShowsTheSameInNewSummaries)
     EXPECT_EQ(slots->Open(prologue.context), noErr);
     EXPECT_EQ(text(kPaperSummary), paper);
     EXPECT_EQ(text(kFinishingSummary), finishing);
+    EXPECT_EQ(linesOf(kFinishingSummary), lines);
     EXPECT_EQ(popup(kJobTypePopup), popupBefore);
     EXPECT_TRUE(menu(kStockMenuButton)->chooseItem(1, 3));
     EXPECT_NE(text(kPaperSummary), paper) << "the paper menu shows in the new view";
