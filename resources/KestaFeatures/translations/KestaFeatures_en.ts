@@ -184,6 +184,50 @@
         <translation>Untitled</translation>
     </message>
     <message>
+        <source>Quality In Summary</source>
+        <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
+        <translation>quality: %1</translation>
+    </message>
+    <message>
+        <source>Destination In Summary</source>
+        <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
+        <translation>destination: %1</translation>
+    </message>
+    <message>
+        <source>Delayed Today In Summary</source>
+        <extracomment>In the window’s summary line. %1: a time</extracomment>
+        <translation>delayed to %1 today</translation>
+    </message>
+    <message>
+        <source>Delayed Tomorrow In Summary</source>
+        <extracomment>In the window’s summary line. %1: a time</extracomment>
+        <translation>delayed to %1 tomorrow</translation>
+    </message>
+    <message>
+        <source>Mirrored In Summary</source>
+        <translation>mirrored</translation>
+    </message>
+    <message>
+        <source>Optimization In Summary</source>
+        <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
+        <translation>optimization: %1</translation>
+    </message>
+    <message>
+        <source>Banner In Summary</source>
+        <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
+        <translation>banner sheet: %1</translation>
+    </message>
+    <message>
+        <source>Order In Summary</source>
+        <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
+        <translation>booklet image order: %1</translation>
+    </message>
+    <message>
+        <source>Image Quality In Summary</source>
+        <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
+        <translation>image quality: %1</translation>
+    </message>
+    <message>
         <source>Job Type:</source>
         <translation>Job type</translation>
     </message>

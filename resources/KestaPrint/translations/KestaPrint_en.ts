@@ -167,6 +167,56 @@
         <translation>You can still save copies, pages and orientation as set above.</translation>
     </message>
     <message>
+        <source>Other Choices Kept</source>
+        <extracomment>%1: a sentence</extracomment>
+        <translation>%1 Your other choices are not sent to it; they are kept for a printer that has them.</translation>
+    </message>
+    <message>
+        <source>Secure Job Title</source>
+        <translation>This is a secure print job</translation>
+    </message>
+    <message>
+        <source>Job Not Kept Question</source>
+        <extracomment>%1: the printer</extracomment>
+        <translation>%1 can’t keep this job until a passcode is typed. Print it now?</translation>
+    </message>
+    <message>
+        <source>Delayed Job Title</source>
+        <translation>This is a delayed print job</translation>
+    </message>
+    <message>
+        <source>Job Not Held Question</source>
+        <extracomment>%1: the printer</extracomment>
+        <translation>%1 can’t delay this job. Print it now?</translation>
+    </message>
+    <message>
+        <source>Saved Job Title</source>
+        <translation>This is a saved job</translation>
+    </message>
+    <message>
+        <source>Job Not Stored Question</source>
+        <extracomment>%1: the printer</extracomment>
+        <translation>%1 can’t save this job for later. Print it now?</translation>
+    </message>
+    <message>
+        <source>Fax Job Title</source>
+        <translation>This is a fax</translation>
+    </message>
+    <message>
+        <source>No Fax Question</source>
+        <extracomment>%1: the printer</extracomment>
+        <translation>%1 can’t send faxes. Print it on paper?</translation>
+    </message>
+    <message>
+        <source>Sample Set Title</source>
+        <translation>This is a sample set</translation>
+    </message>
+    <message>
+        <source>No Sample Set Question</source>
+        <extracomment>%1: the printer</extracomment>
+        <translation>%1 can’t print one set first. Print all copies now?</translation>
+    </message>
+    <message>
         <source>Pages Not Understood Title</source>
         <translation>These pages can’t be read</translation>
     </message>
@@ -841,6 +891,30 @@ Go back and change one of them.</translation>
     <message>
         <source>Script Without Dialog</source>
         <translation>"--script" plays in the dialog: leave out "--no-dialog" or "--script".</translation>
+    </message>
+    <message>
+        <source>Job Not Kept</source>
+        <translation>"%1" can't keep this job until a passcode is typed: print it on another printer with -d, or without --settings.</translation>
+    </message>
+    <message>
+        <source>Job Not Held</source>
+        <translation>"%1" can't delay this job: print it on another printer with -d, or without --settings.</translation>
+    </message>
+    <message>
+        <source>Job Not Stored</source>
+        <translation>"%1" can't save this job for later: print it on another printer with -d, or without --settings.</translation>
+    </message>
+    <message>
+        <source>No Fax</source>
+        <translation>"%1" can't send faxes: print it on another printer with -d, or without --settings.</translation>
+    </message>
+    <message>
+        <source>No Sample Set</source>
+        <translation>"%1" can't print one set first: print it on another printer with -d, or without --settings.</translation>
+    </message>
+    <message>
+        <source>Settings Left Out</source>
+        <translation>"%1" takes copies, pages, pages per sheet and orientation of the saved settings; the others are left out.</translation>
     </message>
     <message>
         <source>Choice Not Offered</source>

@@ -1,11 +1,13 @@
 #include "host/commandline/NoDialog.h"
 
 #include "host/commandline/Console.h"
-#include "host/commandline/DialogOptions.h"
 #include "host/job/JobComposition.h"
+#include "host/job/JobPromises.h"
 #include "host/job/SavedSettings.h"
+#include "host/job/SettingsMerge.h"
 #include "host/ppd/Constraints.h"
 #include "host/ppd/ListOptions.h"
+#include "host/ppd/PPDFacts.h"
 #include "host/server/DocumentSource.h"
 #include "host/server/Queues.h"
 #include "host/server/Submission.h"
@@ -30,7 +32,7 @@ struct Run {
     JobTickets tickets = {};
     NamedQueue queue = {};
     QueuePPD ppd = {}; // the path is --ppd's, or that of a private copy; empty for a queue without a PPD
-    PPDFacts facts = {};
+    PrinterFacts facts = {};
 };
 
 Failure FindPrinter(Run& run)
@@ -70,15 +72,40 @@ Failure ReadSettings(Run& run)
     return path.isEmpty() ? std::nullopt : ReadSavedSettings(path, run.tickets);
 }
 
-// What the command line says goes into the tickets, so that what is saved is what is printed.
-void ApplyCommandLine(Run& run)
+// A printer that the pane is not for gets what it would get from the dialog, whose window shows no more.
+Failure LeaveOutHidden(Run& run)
 {
+    if (run.facts.suitsPane())
+        return std::nullopt;
+    const QString name = run.queue.queue.name.isEmpty() ? run.facts.name : run.queue.queue.name;
+    if (const auto promise = PromiseOf(run.tickets.printSettings); promise && !run.queue.queue.name.isEmpty())
+        return Say(promise->refusal, name);
+    JobTickets fields;
+    if (!CopyFields(run.tickets, fields))
+        PrintNote(Say("Settings Left Out", name), run.texts);
+    CopyTickets(fields, run.tickets);
+    return std::nullopt;
+}
+
+// What the queue and the command line say goes into the tickets, so that what is saved is what is printed.
+void MergeIntoTickets(Run& run)
+{
+    const JobPresets& presets = run.commandLine.presets;
+    const JobOptions queueDefaults = run.facts.suitsPane() ? run.queue.defaults : JobOptions();
+    MergeSettings({.queueDefaults = queueDefaults, .commandLine = presets.options}, run.facts, run.tickets);
     Ticket& settings = run.tickets.printSettings;
-    PresetChoices(run.commandLine.presets.options, run.facts, Preset::Prevails, settings.ppdDict());
     const HostSettings saved = ReadTickets(settings, run.tickets.pageFormat);
-    const HostSettings wanted = StartingSettings(run.commandLine.presets, saved);
+    const HostSettings wanted = StartingSettings(presets, saved);
     if (wanted != saved)
         WriteTickets(wanted, settings, run.tickets.pageFormat);
+}
+
+// Of -o what the tickets don't say.
+JobOptions OutsideTickets(const Run& run)
+{
+    JobOptions options = run.commandLine.presets.options;
+    std::erase_if(options, [&](const JobOption& option) { return IsTaken(option, run.facts); });
+    return options;
 }
 
 bool IsChoiceOfCommandLine(const Run& run, const QString& keyword)
@@ -164,11 +191,12 @@ JobFields FieldsOf(const Run& run)
 Failure Send(Run& run)
 {
     const Ticket& settings = run.tickets.printSettings;
+    const Dictionary ticket = run.facts.suitsPane() ? settings.values() : Dictionary();
     const ComposedOptions composed = ComposeJobOptions({.queueDefaults = run.queue.defaults,
                                                         .ppdChoices = settings.ppdDict(),
-                                                        .commandLine = run.commandLine.presets.options,
+                                                        .commandLine = OutsideTickets(run),
                                                         .fields = FieldsOf(run),
-                                                        .ticket = settings.values(),
+                                                        .ticket = ticket,
                                                         .reader = run.facts.ticketReader});
     if (!composed.problem.isEmpty())
         return composed.problem;
@@ -196,8 +224,10 @@ Failure Print(Run& run)
     if (Failure failure = FindPrinter(run))
         return failure;
     if (!run.ppd.path.isEmpty())
-        run.facts = ReadPPDFacts(run.ppd.path, {});
-    ApplyCommandLine(run);
+        run.facts = ReadPPDFacts(run.ppd.path);
+    if (Failure failure = LeaveOutHidden(run))
+        return failure;
+    MergeIntoTickets(run);
     if (Failure failure = CheckChoices(run))
         return failure;
     if (Failure failure = SaveSettings(run)) // before sending: they are there to try again

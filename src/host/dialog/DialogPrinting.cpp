@@ -2,11 +2,13 @@
 
 #include "host/dialog/PrintDialog.h"
 
-#include "host/commandline/DialogOptions.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/job/JobComposition.h"
+#include "host/job/JobPromises.h"
 #include "host/job/SavedSettings.h"
+#include "host/job/SettingsMerge.h"
 #include "host/ppd/Constraints.h"
+#include "host/ppd/PPDFacts.h"
 #include "platform/plugins/Bundle.h"
 #include "platform/plugins/Sentence.h"
 #include "platform/system/FileChooser.h"
@@ -68,7 +70,7 @@ EventResult PrintDialog::print()
 {
     if (finder_.isBusy() || sending_ || !printer_)
         return EventResult::Handled;
-    if (!fields_->checkPages() || !acceptQueue())
+    if (!fields_->checkPages() || !acceptQueue() || !acceptPlainPrinting())
         return EventResult::Swallowed;
     storeInTickets();
     if (!settleConflicts() || !saveAfterPrint())
@@ -94,14 +96,28 @@ bool PrintDialog::acceptQueue() const
     return !question || GetNotices().ask(*question) == kAccept;
 }
 
+// The same, of a printer that can't do what the job's type says.
+bool PrintDialog::acceptPlainPrinting() const
+{
+    const auto promise = setAside_ && printer_->isQueue() ? PromiseOf(setAside_->printSettings) : std::nullopt;
+    if (!promise)
+        return true;
+    const Bundle& texts = *start_.texts;
+    return GetNotices().ask(
+               {.title = LocalizedString(texts, promise->title),
+                .message = LocalizedString(texts, promise->question).arg(PrinterTitle(printer_->queue, texts)),
+                .buttons = {LocalizedString(texts, "Print"), LocalizedString(texts, "Go Back")},
+                .cancelButton = 1}) == kAccept;
+}
+
 void PrintDialog::storeInTickets()
 {
     WriteTickets(fields_->settings(), tickets_.printSettings, tickets_.pageFormat);
     if (pane_)
         pane_->syncToTickets();
-    const PPDFacts facts = ReadPPDFacts(printer_ ? printer_->ppd.path : QString(), tickets_.printSettings.ppdDict());
-    if (facts.paper) // a panel may have chosen another page size
-        WritePaperRect(*facts.paper, tickets_.pageFormat);
+    const QString ppd = printer_ ? printer_->ppd.path : QString();
+    if (const auto paper = ReadPaper(ppd, tickets_.printSettings.ppdDict())) // a panel may have chosen another size
+        WritePaperRect(*paper, tickets_.pageFormat);
 }
 
 // False: the user goes back to the dialog.
@@ -193,7 +209,7 @@ std::optional<AcceptedJob> PrintDialog::composeJob()
                                       .pageRanges = settings.pageRanges,
                                       .orientation = settings.orientation,
                                       .pagesPerSheet = settings.pagesPerSheet},
-                           .ticket = tickets_.printSettings.values(),
+                           .ticket = setAside_ ? Dictionary() : tickets_.printSettings.values(),
                            .reader = ticketReader()});
     if (!composed.problem.isEmpty()) {
         failedToPrint(composed.problem);
@@ -227,7 +243,9 @@ void PrintDialog::sent(const SubmissionResult& result)
         close(DialogEnd::Accepted);
         return;
     }
-    openPane(); // everything stays as it was set, to try again
+    JobTickets chosen; // everything stays as it was set, to try again
+    CopyTickets(setAside_ ? *setAside_ : tickets_, chosen);
+    openPane(chosen);
     if (result.cancelled)
         GetNotices().show(
             {.title = LocalizedString(texts, "Sending Stopped Title"), .message = Sentence(result.message, texts)});

@@ -1,5 +1,6 @@
 #include "toolkit/windows/WindowSummary.h"
 
+#include "platform/plugins/Sentence.h"
 #include "toolkit/controls/PopupButton.h"
 #include "toolkit/controls/SummaryTextView.h"
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr char kPlace[] = "summaryPlace";
 constexpr char kDefault[] = "summaryDefault";
+constexpr char kSentence[] = "summarySentence"; // about a pop-up's item
 constexpr char kPhrases[] = "summaryPhrases";
 
 void Mark(QWidget* control, SInt32 place, const QVariant& shownByDefault)
@@ -32,7 +34,10 @@ bool IsHiddenItself(const QWidget& control)
 QStringList FactsOf(const PopupButton& popup)
 {
     const MenuItem* item = popup.selectedItem();
-    return item && item->value != popup.property(kDefault).toInt() ? QStringList(item->title) : QStringList();
+    if (!item || item->value == popup.property(kDefault).toInt())
+        return {};
+    const QVariant sentence = popup.property(kSentence);
+    return {sentence.isValid() ? FormatText(sentence.toString(), {item->title}) : item->title};
 }
 
 QStringList FactsOf(const SummaryTextView& view)
@@ -53,6 +58,13 @@ void ShowInSummary(PopupButton* popup, SInt32 place, SInt32 defaultValue)
 void ShowInSummary(QWidget* summaryTextView, SInt32 place, const QString& defaultText)
 {
     Mark(summaryTextView, place, defaultText);
+}
+
+void ShowInSummary(PopupButton* popup, SInt32 place, SInt32 defaultValue, const QString& sentence)
+{
+    Mark(popup, place, defaultValue);
+    if (popup)
+        popup->setProperty(kSentence, sentence);
 }
 
 void SetSummaryPhrases(QWidget& control, SInt32 place, const QStringList& phrases)
