@@ -62,18 +62,44 @@ TEST_F(BindingTest, ATicketThatDoesNotSayMeansWhatTheRuleSays)
 
 TEST_F(BindingTest, TheMenuIsOfTheMapOrOfThePrintersChoices)
 {
-    const Bundle bundle = test::BundleWithTexts({"Slow", "Fast", "Other %1"});
+    const Bundle bundle = test::BundleWithTexts({"Slow", "Fast"});
     const test::CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
     EXPECT_EQ(MenuOfRule(bundle, kBindings[0].rule, PPDGetCurrent()).menu.items[1].title, u"Fast"_s);
     EXPECT_EQ(MenuOfRule(bundle, kBindings[3].rule, PPDGetCurrent()).menu.count(), 3);
     EXPECT_EQ(MenuOfRule(bundle, kBindings[3].rule, nullptr).menu.count(), 0);
+}
 
-    const BindingRule withOther{.map = _SpeedMap, .other = "Other %1"};
-    EXPECT_EQ(MenuOfRule(bundle, withOther, nullptr, 2).menu.count(), 2);
-    const BoundMenu made = MenuOfRule(bundle, withOther, nullptr, 31);
-    EXPECT_EQ(made.menu.items.back().title, u"Other 31"_s);
-    EXPECT_EQ(made.menu.items.back().value, 31);
-    EXPECT_EQ(made.maximum, 3) << "it can be chosen";
+TEST_F(BindingTest, WhatNoItemStandsForHasANameOrANumber)
+{
+    constexpr auto _FaxMap = std::to_array<SettingRow>({{"Slow", 1}, {"Fast", 2, kNoCommand, "FaxKey", true}});
+    Bundle bundle = test::BundleWithAllTexts();
+    for (const char* key : {"Slow", "Fast", "Named", "%1!"})
+        bundle.strings.dictionary("Localizable")->set(key, key);
+    test::CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
+    PMSessionSetDataInSession(printer.session, kPMPrintSettingsTicket, ticket.reference());
+    ppd_file_t* ppd = PPDGetCurrent();
+    const auto other = [&](const BindingRule& rule, SInt32 value, SInt32 initial = 0) {
+        return ItemForOther(bundle, rule, ppd, MenuOfRule(bundle, rule, ppd).menu, value, initial);
+    };
+    const auto title = [&](const BindingRule& rule, SInt32 value) {
+        const std::optional<MenuItem> item = other(rule, value);
+        return item && item->notOffered ? item->title.section(u"Not On This Printer "_s, 1) : u"not marked"_s;
+    };
+    EXPECT_EQ(title({.map = _FaxMap}, 2), u"Fast"_s) << "its accessory is missing";
+    EXPECT_EQ(title({.map = _FaxMap}, 31), u"Other Value 31"_s);
+    EXPECT_EQ(title({.map = _FaxMap, .other = "%1!"}, 31), u"31!"_s);
+    EXPECT_EQ(title({.map = _FaxMap, .nameOf = [](SInt32) { return "Named"; }}, 31), u"Named"_s);
+    EXPECT_EQ(title({.option = PPDKeyword("OutputBin")}, 15), u"Middle2"_s) << "the keyword";
+    EXPECT_EQ(other({.map = _FaxMap, .otherwise = 1}, 2)->instead, 1);
+    EXPECT_FALSE(other({.map = _FaxMap, .otherwise = 9}, 9)) << "what goes without saying";
+    PPDSetCurrentChoice(ticket, "OutputBin", "Attic");
+    EXPECT_EQ(title({.option = PPDKeyword("OutputBin")}, kUnmappedChoice), u"Attic"_s);
+    PPDSetCurrentChoice(ticket, "Duplex", "DuplexTumble");
+    EXPECT_EQ(title({.option = PPDKeyword("Duplex")}, kUnmappedChoice), u"not marked"_s) << "the printer has it";
+
+    ppd = nullptr; // nothing of the kind
+    EXPECT_FALSE(other({.option = PPDKeyword("KSEconomode")}, 5, 5));
+    EXPECT_EQ(title({.option = PPDKeyword("KSEconomode")}, 1), u"Draft"_s);
 }
 
 } // namespace

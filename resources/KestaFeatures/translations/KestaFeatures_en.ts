@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Booklet Creation...</source>
-        <translation>Booklet Creation…</translation>
+        <translation>Booklet Options…</translation>
     </message>
     <message>
         <source>Choose Paper</source>
@@ -286,6 +286,24 @@
     <message>
         <source>Choose Finishing</source>
         <translation>Choose Finishing</translation>
+    </message>
+    <message>
+        <source>End Booklet</source>
+        <translation>End Booklet</translation>
+    </message>
+    <message>
+        <source>Booklet Holds Two Sided</source>
+        <translation>The job is a booklet, which is printed on both sides.</translation>
+    </message>
+    <message>
+        <source>Not On This Printer</source>
+        <extracomment>%1: an item of a pop-up, for a value that the printer does not offer</extracomment>
+        <translation>%1, not on this printer</translation>
+    </message>
+    <message>
+        <source>Other Value</source>
+        <extracomment>%1: a number that stands for no choice that a panel knows</extracomment>
+        <translation>Value %1</translation>
     </message>
     <message>
         <source>Fax Setup Unavailable Header</source>
@@ -903,6 +921,10 @@
         <translation>The watermark “%1” is removed for everybody who uses this computer.</translation>
     </message>
     <message>
+        <source>Fold Without Layout Hint</source>
+        <translation>The pages stay in their order. Turn the booklet layout on to read them as a booklet.</translation>
+    </message>
+    <message>
         <source>Booklet Options Title</source>
         <translation>Booklet Options</translation>
     </message>
@@ -1139,7 +1161,7 @@
     </message>
     <message>
         <source>Request Offset:</source>
-        <translation>Request offset</translation>
+        <translation>Offset stacking</translation>
     </message>
     <message>
         <source>Mirrored Output:</source>

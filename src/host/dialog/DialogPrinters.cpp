@@ -61,11 +61,16 @@ void PrintDialog::fillPrinterChoice()
         position = 1;
     }
     for (const Queue& queue : finder_.queues())
-        menu.items.push_back({.title = PrinterTitle(queue, *start_.texts)});
+        menu.items.push_back({.title = PrinterInList(queue, *start_.texts)});
     choice->setEnabled(!menu.items.empty()); // nothing to choose from while printers are looked for
+    if (!position && !menu.items.empty()) {  // no other printer's name in the place of the one that was asked for
+        const QString& asked = finder_.asked();
+        menu.items.push_back(
+            {.title = asked.isEmpty() ? LocalizedString(*start_.texts, "No Printer Chosen") : asked, .enabled = false});
+        position = menu.count();
+    }
     choice->setMenu(std::move(menu));
-    if (position)
-        choice->setValue(position);
+    choice->setValue(position);
 }
 
 void PrintDialog::choosePrinter(int position)

@@ -2,11 +2,12 @@
 
 #include "host/dialog/PrintDialog.h"
 
+#include "host/dialog/DialogQuestions.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/job/JobComposition.h"
-#include "host/job/JobPromises.h"
 #include "host/job/SavedSettings.h"
 #include "host/job/SettingsMerge.h"
+#include "host/ppd/ConstraintRules.h"
 #include "host/ppd/Constraints.h"
 #include "host/ppd/PPDFacts.h"
 #include "platform/plugins/Bundle.h"
@@ -15,57 +16,11 @@
 #include "platform/system/Notices.h"
 #include "platform/system/SafeFile.h"
 #include "toolkit/windows/InterfaceFile.h"
+#include "toolkit/windows/WindowSummary.h"
 
 using namespace Qt::StringLiterals;
 
 namespace kesta::host {
-namespace {
-
-constexpr int kAccept = 0; // of the buttons of a question before printing
-
-// The sentences, and the changes of all conflicts, one a line each.
-Alert ConflictQuestion(const ConflictReport& report, const Bundle& texts)
-{
-    QStringList sentences;
-    QStringList changes;
-    bool canResolve = true;
-    for (const ChoiceConflict& conflict : report.conflicts) {
-        sentences << Sentence(conflict.sentence, texts);
-        canResolve = canResolve && !conflict.changes.empty();
-        for (const ChoiceChange& change : conflict.changes)
-            changes << Sentence(change.text, texts);
-    }
-    changes.removeDuplicates();
-    const QString title = LocalizedString(texts, "Conflict Title");
-    const QString goBack = LocalizedString(texts, "Go Back");
-    if (!canResolve)
-        return {title, LocalizedString(texts, "Conflict No Way Out").arg(sentences.join(u'\n')), {goBack}, 0};
-    return {title,
-            LocalizedString(texts, "Conflict Message").arg(sentences.join(u'\n'), changes.join(u'\n')),
-            {LocalizedString(texts, "Accept Changes"), goBack},
-            1};
-}
-
-// Of a queue that won't print what it is sent now; nothing when it will.
-std::optional<Alert> QueueQuestion(const Queue& queue, const Bundle& texts)
-{
-    if (queue.isAccepting && !queue.isStopped)
-        return std::nullopt;
-    const bool waits = queue.isAccepting;
-    QString message =
-        waits ? LocalizedString(texts, "Queue Stopped Message") : LocalizedString(texts, "Queue Not Accepting Message");
-    if (!queue.stateMessage.isEmpty())
-        message = LocalizedString(texts, "Queue Reason").arg(message, queue.stateMessage);
-    const QString title =
-        waits ? LocalizedString(texts, "Queue Stopped Title") : LocalizedString(texts, "Queue Not Accepting Title");
-    return Alert{title.arg(PrinterTitle(queue, texts)),
-                 message,
-                 {LocalizedString(texts, "Print Anyway"), LocalizedString(texts, "Go Back")},
-                 1};
-}
-
-} // namespace
-
 EventResult PrintDialog::print()
 {
     if (finder_.isBusy() || sending_ || !printer_)
@@ -73,7 +28,7 @@ EventResult PrintDialog::print()
     if (!fields_->checkPages() || !acceptQueue() || !acceptPlainPrinting())
         return EventResult::Swallowed;
     storeInTickets();
-    if (!settleConflicts() || !saveAfterPrint())
+    if (!settleNotOffered() || !settleUnknown() || !settleConflicts() || !saveAfterPrint())
         return EventResult::Swallowed;
     fields_->rememberPages();
     accepted_ = composeJob();
@@ -93,7 +48,7 @@ bool PrintDialog::acceptQueue() const
     const int position = finder_.position(); // the list says more than the single look-up: why it takes none
     const Queue& queue = position ? finder_.queues()[position - 1] : printer_->queue;
     const std::optional<Alert> question = QueueQuestion(queue, *start_.texts);
-    return !question || GetNotices().ask(*question) == kAccept;
+    return !question || IsAccepted(*question);
 }
 
 // The same, of a printer that can't do what the job's type says.
@@ -102,12 +57,7 @@ bool PrintDialog::acceptPlainPrinting() const
     const auto promise = setAside_ && printer_->isQueue() ? PromiseOf(setAside_->printSettings) : std::nullopt;
     if (!promise)
         return true;
-    const Bundle& texts = *start_.texts;
-    return GetNotices().ask(
-               {.title = LocalizedString(texts, promise->title),
-                .message = LocalizedString(texts, promise->question).arg(PrinterTitle(printer_->queue, texts)),
-                .buttons = {LocalizedString(texts, "Print"), LocalizedString(texts, "Go Back")},
-                .cancelButton = 1}) == kAccept;
+    return IsAccepted(PromiseQuestion(*promise, PrinterTitle(printer_->queue, *start_.texts), *start_.texts));
 }
 
 void PrintDialog::storeInTickets()
@@ -120,18 +70,53 @@ void PrintDialog::storeInTickets()
         WritePaperRect(*paper, tickets_.pageFormat);
 }
 
+// What the panels show and this printer does not offer. False: the user goes back to the dialog.
+bool PrintDialog::settleNotOffered()
+{
+    const std::vector<NotOffered> shown = pane_ ? FindNotOffered(paneArea_->host()) : std::vector<NotOffered>();
+    if (shown.empty())
+        return true;
+    if (!IsAccepted(NotOfferedQuestion(shown, *start_.texts)))
+        return false;
+    ReplaceNotOffered(paneArea_->host());
+    storeInTickets();
+    return true;
+}
+
+// The same of choices that no panel shows: from saved settings, or of -o. Those that switch something off are no loss.
+bool PrintDialog::settleUnknown()
+{
+    JobOptions& options = start_.request.presets.options;
+    Dictionary& choices = tickets_.printSettings.ppdDict();
+    Dictionary wanted = choices;
+    for (const JobOption& option : options) {
+        if (facts_.choices.contains(option.name) && !IsTaken(option, facts_))
+            wanted.set(option.name, option.value);
+    }
+    const QStringList unknown = FindConflicts(printer_->ppd.path, wanted).unknown;
+    QStringList named = unknown;
+    named.removeIf([&](const QString& fault) {
+        const QString* choice = wanted.string(fault.section(u'=', 0, 0));
+        return choice && IsOffChoice(choice->toUtf8().constData());
+    });
+    if (!named.isEmpty() && !IsAccepted(LeaveOutQuestion(named, *start_.texts)))
+        return false;
+    for (const QString& fault : unknown) {
+        const QString keyword = fault.section(u'=', 0, 0);
+        choices.remove(keyword);
+        std::erase_if(options, [&](const JobOption& option) { return option.name == keyword; });
+    }
+    return true;
+}
+
 // False: the user goes back to the dialog.
 bool PrintDialog::settleConflicts()
 {
     Dictionary& choices = tickets_.printSettings.ppdDict();
     const ConflictReport report = FindConflicts(printer_->ppd.path, choices);
-    for (const QString& unknown : report.unknown) // of another printer that was chosen before
-        choices.remove(unknown.section(u'=', 0, 0));
     if (report.conflicts.empty())
         return true;
-    const Alert question = ConflictQuestion(report, *start_.texts);
-    const bool accepted = GetNotices().ask(question) == kAccept && question.buttons.size() > 1;
-    if (!accepted)
+    if (!IsAccepted(ConflictQuestion(report, *start_.texts)))
         return false;
     choices = ApplyChanges(report, choices);
     if (pane_) { // the panels keep each option under a key of their own too

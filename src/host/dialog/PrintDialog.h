@@ -89,6 +89,8 @@ private:
     bool acceptQueue() const;
     bool acceptPlainPrinting() const;
     void storeInTickets();
+    bool settleNotOffered();
+    bool settleUnknown();
     bool settleConflicts();
     bool saveSettingsTo(const QString& path);
     void saveSettings();

@@ -1,9 +1,11 @@
 #include "toolkit/windows/WindowSummary.h"
 
 #include "platform/plugins/Sentence.h"
+#include "toolkit/controls/Controls.h"
 #include "toolkit/controls/PopupButton.h"
 #include "toolkit/controls/SummaryTextView.h"
 
+#include <QPointer>
 #include <QVariant>
 
 #include <map>
@@ -34,10 +36,12 @@ bool IsHiddenItself(const QWidget& control)
 QStringList FactsOf(const PopupButton& popup)
 {
     const MenuItem* item = popup.selectedItem();
-    if (!item || item->value == popup.property(kDefault).toInt())
+    if (!item || (!item->notOffered && item->value == popup.property(kDefault).toInt()))
         return {};
-    const QVariant sentence = popup.property(kSentence);
-    return {sentence.isValid() ? FormatText(sentence.toString(), {item->title}) : item->title};
+    const QString sentence = popup.property(kSentence).toString();
+    const QString title = item->notOffered ? WithCaution(item->title) : item->title;
+    const bool isNamed = sentence.contains(u"%1"_s) || (!sentence.isEmpty() && !item->notOffered);
+    return {isNamed ? FormatText(sentence, {title}) : title};
 }
 
 QStringList FactsOf(const SummaryTextView& view)
@@ -84,12 +88,37 @@ QStringList SummaryFacts(const QString& summary)
     return facts;
 }
 
+std::vector<NotOffered> FindNotOffered(const QWidget& window)
+{
+    std::vector<NotOffered> found;
+    for (const MenuControl* control : window.findChildren<MenuControl*>()) {
+        for (const MenuItem& item : control->shownNotOffered()) {
+            const MenuItem* instead = control->itemAt({item.instead});
+            found.push_back({ControlName(*control), item.title, instead ? instead->title : QString()});
+        }
+    }
+    return found;
+}
+
+void ReplaceNotOffered(QWidget& window)
+{
+    for (const QPointer<MenuControl> control : window.findChildren<MenuControl*>()) {
+        if (control)
+            control->chooseInstead();
+    }
+}
+
 QStringList WindowSummary(const QWidget& window)
 {
     std::map<SInt32, QStringList> found, phrasesOf;
+    QStringList unplaced;
     for (const QWidget* control : window.findChildren<QWidget*>()) {
         const QVariant place = control->property(kPlace);
-        if (!place.isValid() || IsHiddenItself(*control))
+        const auto* menu = qobject_cast<const MenuControl*>(control);
+        const bool isNotOffered = menu && !menu->shownNotOffered().empty(); // told in any case
+        if (isNotOffered && !place.isValid())
+            unplaced << WithCaution(menu->shownNotOffered().front().title);
+        if (!place.isValid() || (IsHiddenItself(*control) && !isNotOffered))
             continue;
         if (const QVariant phrases = control->property(kPhrases); phrases.isValid())
             phrasesOf[place.toInt()] += phrases.toStringList();
@@ -105,7 +134,7 @@ QStringList WindowSummary(const QWidget& window)
     QStringList summary;
     for (const auto& [place, phrases] : phrasesOf)
         summary += phrases;
-    return summary;
+    return summary + unplaced;
 }
 
 } // namespace kesta
