@@ -18,6 +18,11 @@ bool HasItemsOfItsOwn(const BindingRule& rule)
 
 void ShowItem(const FormPlace& place, PopupButton& popup, const BindingRule& rule, SInt32 value, SInt32 initial)
 {
+    if (rule.byPosition) {
+        if (value >= 1 && value <= popup.menu().count())
+            popup.setValue(value);
+        return;
+    }
     popup.dropExtra();
     if (SetPopupButtonToTicketValue(&popup, value))
         return;

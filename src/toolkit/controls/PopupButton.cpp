@@ -23,7 +23,7 @@ namespace {
 
 constexpr int kInset = 1; // points, of the text in its field: what Qt's own styles keep free
 constexpr int kMarkSize = 16;
-constexpr int kMarkRoom = kMarkSize + 4; // before the text
+constexpr int kMarkRoom = kMarkSize + 6; // before the text
 
 QStyleOptionComboBox StyleOption(const PopupButton& button)
 {
