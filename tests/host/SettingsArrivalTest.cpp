@@ -74,7 +74,8 @@ protected:
         reader.write(job ? job->options : QByteArray());
         reader.closeWriteChannel();
         reader.waitForFinished();
-        if (const auto list = kesta::ParsePropertyList(reader.readAllStandardOutput()).value; list && list->dictionary())
+        if (const auto list = kesta::ParsePropertyList(reader.readAllStandardOutput()).value;
+            list && list->dictionary())
             result.ticket = *list->dictionary();
         return result;
     }
@@ -235,6 +236,28 @@ TEST_F(SettingsArrivalTest, AFaxGivesItsColourBack)
     EXPECT_EQ(FindJobOption(arrived().options, "KSTColor"), std::nullopt);
     ASSERT_EQ(print(fax + QStringList{u"-oKSTColor=Color"_s}, toNormal).status, 0);
     EXPECT_EQ(FindJobOption(arrived().options, "KSTColor"), u"Color"_s);
+}
+
+TEST_F(SettingsArrivalTest, WhatThePrinterDoesNotOfferIsNamedAndLeftOut)
+{
+    JobTickets foreign;
+    foreign.printSettings.set("K", key::JobType, Dictionary{{key::JobTypeNumber, Number::Index(4)}});
+    foreign.printSettings.ppdDict() = {{"OutputBin", "Nowhere"}, {"OtherMakers", "Thing"}, {"OtherOff", "None"}};
+    const QString kept = folder.filePath(u"kept.plist"_s);
+    const Ended ended =
+        print({u"-oDuplex=Foo"_s, u"--settings"_s, settingsOf(foreign), u"--save-settings"_s, kept},
+              "print\nexpect \"Not Offered Title\"\nexpect \"Nowhere, not on this printer\"\npress \"Go Back\"\n"
+              "expect-value \"Output Destination:\" \"Nowhere, not on this printer\"\nprint\npress \"Accept Changes\"\n"
+              "expect \"OtherMakers\\nDuplex=Foo\\n\"\npress \"Leave Out\"");
+    ASSERT_EQ(ended.status, 0) << ended.errors.toStdString();
+    const Arrived job = arrived();
+    EXPECT_EQ(duplexIn(job), u"None"_s);
+    EXPECT_EQ(FindJobOption(job.options, "OutputBin"), u"Auto"_s);
+    EXPECT_EQ(FindJobOption(job.options, "OtherMakers"), std::nullopt);
+    EXPECT_EQ(FindJobOption(job.options, "OtherOff"), std::nullopt);
+    const Dictionary* jobType = job.ticket.dictionary(key::JobType);
+    ASSERT_TRUE(jobType);
+    EXPECT_EQ(jobType->number(key::JobTypeNumber)->as<int>(), 1);
 }
 
 } // namespace

@@ -1417,17 +1417,19 @@
         <source>Back Cover Summary</source>
         <translation>back cover</translation>
     </message>
-    <message>
-        <source>One Insert Summary</source>
-        <translation>1 insert</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>Inserts Summary</source>
-        <translation>%1 inserts</translation>
+        <translation>
+            <numerusform>%n insert</numerusform>
+            <numerusform>%n inserts</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Exceptions Summary</source>
-        <translation>%1 exceptions</translation>
+        <translation>
+            <numerusform>%n exception</numerusform>
+            <numerusform>%n exceptions</numerusform>
+        </translation>
     </message>
     <message>
         <source>Exception Page Summary</source>

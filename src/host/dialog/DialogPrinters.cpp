@@ -123,6 +123,11 @@ void PrintDialog::mergeSettings()
     own_ = PrintersOwnChoices(sources, facts_, tickets_);
     MergeSettings(sources, facts_, tickets_);
     Ticket& settings = tickets_.printSettings;
+    foreign_.clear();
+    for (const auto& [keyword, choice] : settings.ppdDict()) {
+        if (choice.string() && !facts_.offers(keyword, *choice.string()))
+            foreign_ << keyword;
+    }
     if (const auto paper = ReadPaper(printer_->ppd.path, settings.ppdDict()))
         WritePaperRect(*paper, tickets_.pageFormat);
     const auto byDefault = facts_.defaults.find(kDuplexOption);

@@ -83,29 +83,33 @@ bool PrintDialog::settleNotOffered()
     return true;
 }
 
-// The same of choices that no panel shows: from saved settings, or of -o. Those that switch something off are no loss.
+// The same of choices that no panel shows: from saved settings, another printer or -o. Those that switch something off
+// are no loss, nor is what panels write whether the printer has it or not.
 bool PrintDialog::settleUnknown()
 {
+    const QString& ppd = printer_->ppd.path;
     JobOptions& options = start_.request.presets.options;
     Dictionary& choices = tickets_.printSettings.ppdDict();
-    Dictionary wanted = choices;
+    Dictionary typed; // of the printer's options, but not with its choices
     for (const JobOption& option : options) {
         if (facts_.choices.contains(option.name) && !IsTaken(option, facts_))
-            wanted.set(option.name, option.value);
+            typed.set(option.name, option.value);
     }
-    const QStringList unknown = FindConflicts(printer_->ppd.path, wanted).unknown;
+    const QStringList unknown = FindConflicts(ppd, choices).unknown;
+    const QStringList unknownTyped = FindConflicts(ppd, typed).unknown;
     QStringList named = unknown;
     named.removeIf([&](const QString& fault) {
-        const QString* choice = wanted.string(fault.section(u'=', 0, 0));
-        return choice && IsOffChoice(choice->toUtf8().constData());
+        const QString keyword = fault.section(u'=', 0, 0);
+        const QString* choice = choices.string(keyword);
+        return !foreign_.contains(keyword) || (choice && IsOffChoice(choice->toUtf8().constData()));
     });
+    named += unknownTyped;
     if (!named.isEmpty() && !IsAccepted(LeaveOutQuestion(named, *start_.texts)))
         return false;
-    for (const QString& fault : unknown) {
-        const QString keyword = fault.section(u'=', 0, 0);
-        choices.remove(keyword);
-        std::erase_if(options, [&](const JobOption& option) { return option.name == keyword; });
-    }
+    for (const QString& fault : unknown)
+        choices.remove(fault.section(u'=', 0, 0));
+    for (const QString& fault : unknownTyped)
+        std::erase_if(options, [&](const JobOption& option) { return option.name == fault.section(u'=', 0, 0); });
     return true;
 }
 

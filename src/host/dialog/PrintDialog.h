@@ -114,9 +114,10 @@ private:
     EventHandler handler_;          // before the pane's, which come first
     PrinterFinder finder_;
     std::optional<DialogPrinter> printer_;
-    PrinterFacts facts_; // of the printer
-    Dictionary own_;     // what the settings got from the printer alone
-    JobOptions untaken_; // of -o: those that no pane has shown yet
+    PrinterFacts facts_;  // of the printer
+    Dictionary own_;      // what the settings got from the printer alone
+    QStringList foreign_; // options that the settings say what the printer does not offer about
+    JobOptions untaken_;  // of -o: those that no pane has shown yet
     // What the user chose for printers with the pane, while another one gets only what the window shows.
     std::optional<JobTickets> setAside_;
     bool hasMore_ = false; // set aside than the window shows

@@ -38,9 +38,9 @@ public:
     void choose(int position); // in queues(), from 1
 
     const std::vector<Queue>& queues() const { return list_.queues; }
-    int position() const;                 // of the chosen printer in queues(), from 1; 0 while there is none
+    int position() const;                           // of the chosen printer in queues(), from 1; 0 while there is none
     const QString& asked() const { return asked_; } // the wanted printer as it was named; empty: the default one
-    bool isBusy() const { return busy_; } // about the wanted printer
+    bool isBusy() const { return busy_; }           // about the wanted printer
     bool isListing() const { return listTask_.has_value() && !hasList_; } // the others are not known yet
 
 private:

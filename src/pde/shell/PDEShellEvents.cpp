@@ -41,13 +41,14 @@ void ShowJobTypeSetup(PDEShellContext& shell)
 {
     const JobTypeCheck* check = GetJobTypeCheck();
     QWidget* button = check && check->setupButton ? check->setupButton() : nullptr;
-    if (!button || !button->isEnabled())
+    if (!button)
         return;
     for (const PanelRecord& panel : shell.panels) {
         if (panel.userPane && panel.userPane->isAncestorOf(button) && panel.index != GetShownPanel()._lastTabIndex)
             SelectAndShow(panel.index, shell);
     }
-    button->setFocus(Qt::TabFocusReason); // with its ring
+    if (button->isEnabled())                  // a fax has no setup to go to
+        button->setFocus(Qt::TabFocusReason); // with its ring
 }
 
 EventResult HandleHit(PDEShellContext& shell, const HitEvent& hit)
