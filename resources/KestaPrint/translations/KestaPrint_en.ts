@@ -596,6 +596,11 @@ Go back and change one of them.</translation>
         <translation>The settings in %1 can’t be used: %2</translation>
     </message>
     <message>
+        <source>Settings Too Large To Save</source>
+        <extracomment>%1: a file; %2: what is wrong</extracomment>
+        <translation>%1 was not written, because it could not be read again: %2</translation>
+    </message>
+    <message>
         <source>Settings Of Another Kind</source>
         <translation>It is not a job settings file: %1.</translation>
     </message>

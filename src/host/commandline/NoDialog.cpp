@@ -13,7 +13,6 @@
 #include "host/server/Submission.h"
 
 #include "platform/printsystem/JobSettings.h"
-#include "platform/system/SafeFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -157,15 +156,6 @@ Failure CheckChoices(Run& run)
     return report.conflicts.empty() ? std::nullopt : std::optional(ConflictLines(report));
 }
 
-Failure SaveSettings(const Run& run)
-{
-    const QString& path = run.commandLine.saveSettingsPath;
-    if (path.isEmpty())
-        return std::nullopt;
-    const auto error = WriteFile(path, WriteSavedSettings(run.tickets), FileAccess::OwnerOnly);
-    return error ? std::optional(Verbatim(error->text)) : std::nullopt;
-}
-
 // The host's own fields as far as the tickets or the command line name them; what -o names is sent as it was given.
 JobFields FieldsOf(const Run& run)
 {
@@ -230,7 +220,8 @@ Failure Print(Run& run)
     MergeIntoTickets(run);
     if (Failure failure = CheckChoices(run))
         return failure;
-    if (Failure failure = SaveSettings(run)) // before sending: they are there to try again
+    const QString& path = run.commandLine.saveSettingsPath; // before sending: they are there to try again
+    if (Failure failure = path.isEmpty() ? std::nullopt : SaveSettings(path, run.tickets))
         return failure;
     return hasQueue ? Send(run) : std::nullopt;
 }

@@ -14,7 +14,6 @@
 #include "platform/plugins/Sentence.h"
 #include "platform/system/FileChooser.h"
 #include "platform/system/Notices.h"
-#include "platform/system/SafeFile.h"
 #include "toolkit/windows/InterfaceFile.h"
 #include "toolkit/windows/WindowSummary.h"
 
@@ -133,11 +132,10 @@ bool PrintDialog::settleConflicts()
 
 bool PrintDialog::saveSettingsTo(const QString& path)
 {
-    const std::optional<FileError> error = WriteFile(path, WriteSavedSettings(tickets_), FileAccess::OwnerOnly);
-    if (!error)
-        return true;
-    failed(Verbatim(error->text), LocalizedString(*start_.texts, "Saving Failed Title"));
-    return false;
+    const std::optional<Message> problem = SaveSettings(path, tickets_);
+    if (problem)
+        failed(*problem, LocalizedString(*start_.texts, "Saving Failed Title"));
+    return !problem;
 }
 
 std::optional<QString> PrintDialog::askForFile()
