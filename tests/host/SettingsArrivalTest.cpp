@@ -48,7 +48,8 @@ protected:
     void setUserDefaults(const QByteArray& options) const
     {
         for (const QString& name : {u"lpoptions"_s, u".cups/lpoptions"_s})
-            write(name, options.isEmpty() ? options : "Dest Kesta " + options + '\n');
+            write(name, options.isEmpty() ? options
+                                          : "Dest Kesta " + options + "\nDest Kesta/upright Duplex=DuplexNoTumble\n");
     }
 
     Ended print(const QStringList& more, const QByteArray& script = "print\n") const
@@ -133,6 +134,7 @@ TEST_F(SettingsArrivalTest, TwoSidedFromAnySourceIsTheSameEverywhere)
         {"Duplex=DuplexTumble", {}, u"DuplexTumble"_s},
         {"sides=two-sided-long-edge", {}, u"DuplexNoTumble"_s},
         {"Duplex=DuplexTumble", {u"-osides=one-sided"_s}, u"None"_s},
+        {"Duplex=DuplexTumble", {u"-dKesta/upright"_s}, u"DuplexNoTumble"_s},
         {"Duplex=DuplexTumble", {u"-oDuplex=DuplexNoTumble"_s}, u"DuplexNoTumble"_s},
         {"Duplex=DuplexNoTumble", fromContrary, u"DuplexTumble"_s},
         {"Duplex=DuplexNoTumble", fromChoice, u"DuplexTumble"_s},
@@ -222,6 +224,11 @@ TEST_F(SettingsArrivalTest, WithoutADialogTheSameIsLeftOutOrRefused)
         EXPECT_EQ(refused.status, 1);
         EXPECT_TRUE(refused.errors.contains(said)) << refused.errors.toStdString();
     }
+    for (const auto& [type, said] : std::map<int, QString>{{5, u"recipients"_s}, {6, u"passcode"_s}}) {
+        normal.printSettings.set("K", key::JobType, Dictionary{{key::JobTypeNumber, Number::Index(type)}});
+        const Ended refused = print({u"--settings"_s, settingsOf(normal)}, "");
+        EXPECT_TRUE(refused.status == 1 && refused.errors.contains(said)) << refused.errors.toStdString();
+    }
     EXPECT_EQ(server.jobState(2), 0);
 }
 
@@ -232,6 +239,8 @@ TEST_F(SettingsArrivalTest, AFaxGivesItsColourBack)
     const QStringList fax{u"--settings"_s, QStringLiteral(JOB_SCRIPTS) + u"/fax.plist"_s};
     const QByteArray toNormal = "sync to-tickets\nchoose \"Job Type:\" =1\nchoose Printer \"Plain\"\n"
                                 "choose Printer \"Kesta\"\nprint";
+    ASSERT_EQ(print(fax, {}).status, 0);
+    EXPECT_EQ(FindJobOption(arrived().options, "KSTColor"), u"BW"_s);
     ASSERT_EQ(print(fax, toNormal).status, 0);
     EXPECT_EQ(FindJobOption(arrived().options, "KSTColor"), std::nullopt);
     ASSERT_EQ(print(fax + QStringList{u"-oKSTColor=Color"_s}, toNormal).status, 0);

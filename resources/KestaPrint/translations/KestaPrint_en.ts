@@ -186,6 +186,14 @@
         <translation>%1 Your other choices are not sent to it; they are kept for a printer that has them.</translation>
     </message>
     <message>
+        <source>Passcode Missing</source>
+        <translation>A secure print job needs a passcode.</translation>
+    </message>
+    <message>
+        <source>Recipients Missing</source>
+        <translation>A fax needs recipients.</translation>
+    </message>
+    <message>
         <source>Secure Job Title</source>
         <translation>This is a secure print job</translation>
     </message>
@@ -930,6 +938,14 @@ Go back and change one of them.</translation>
     <message>
         <source>Script Without Dialog</source>
         <translation>"--script" plays in the dialog: leave out "--no-dialog" or "--script".</translation>
+    </message>
+    <message>
+        <source>Passcode Missing</source>
+        <translation>a secure print job needs a passcode, which no settings file keeps: print it in the dialog, or without --settings.</translation>
+    </message>
+    <message>
+        <source>Recipients Missing</source>
+        <translation>a fax needs recipients, and the settings have none: print it in the dialog, or without --settings.</translation>
     </message>
     <message>
         <source>Job Not Kept</source>

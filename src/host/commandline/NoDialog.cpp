@@ -86,6 +86,19 @@ Failure LeaveOutHidden(Run& run)
     return std::nullopt;
 }
 
+// As the dialog does before it lets a job go.
+Failure CheckJobType(Run& run)
+{
+    Ticket& settings = run.tickets.printSettings;
+    if (!run.commandLine.ppdPath.isEmpty()) // nothing is printed
+        return std::nullopt;
+    if (Failure missing = MissingFor(settings))
+        return missing;
+    if (IsFax(settings) && run.facts.offers(u"KSTColor"_s, u"BW"_s))
+        settings.ppdDict().set("KSTColor", "BW"); // a fax has no colours
+    return std::nullopt;
+}
+
 // What the queue and the command line say goes into the tickets, so that what is saved is what is printed.
 void MergeIntoTickets(Run& run)
 {
@@ -218,6 +231,8 @@ Failure Print(Run& run)
     if (Failure failure = LeaveOutHidden(run))
         return failure;
     MergeIntoTickets(run);
+    if (Failure failure = CheckJobType(run))
+        return failure;
     if (Failure failure = CheckChoices(run))
         return failure;
     const QString& path = run.commandLine.saveSettingsPath; // before sending: they are there to try again

@@ -17,4 +17,10 @@ struct JobPromise {
 // Nothing for a job that would come out as it is meant to.
 std::optional<JobPromise> PromiseOf(const Ticket& printSettings);
 
+// What the job can't do without and its settings lack: the passcode of a secure job, which no file keeps, or the
+// recipients of a fax. The dialog asks for them.
+std::optional<Message> MissingFor(const Ticket& printSettings);
+
+bool IsFax(const Ticket& printSettings);
+
 } // namespace kesta::host
