@@ -232,6 +232,65 @@ TEST_F(SettingsArrivalTest, WithoutADialogTheSameIsLeftOutOrRefused)
     EXPECT_EQ(server.jobState(2), 0);
 }
 
+// One panel's settings, several at once, and what stands for them in the job.
+struct PanelJob {
+    const char* script;
+    std::map<const char*, const char*> choices; // of the printer's options
+    const char* key;                            // of the ticket
+};
+const PanelJob kPanelJobs[] = {
+    {"choose \"Two Sided Printing:\" =2\nchoose \"Print Quality:\" TonerSaver\nchoose \"Output Destination:\" #3\n"
+     "command Hpn2\ncommand Cfld\n",
+     {{"Duplex", "DuplexNoTumble"}, {"OutputBin", "Top"}, {"KSFold", "C"}},
+     key::FinishingOutputColor},
+    {"panel SpecialPagesTitle\npress \"Add Covers Command\"\nchoose \"Cover Options Label\" #2\npress \"OK Command\"\n",
+     {},
+     key::SpecialPagesFrontCover},
+    {"panel ColorOptions\ntype \"Lightness\" 20\ntype \"Contrast\" -10\n", {}, key::FullColorOptions},
+    {"panel Advanced\nchoose \"Mirrored Output:\" Enabled\nchoose \"Request Offset:\" #2\n"
+     "choose \"Output Options:\" \"Face Up\"\n",
+     {{"Jog", "EndOfSet"}, {"KSOutputOption", "True"}},
+     key::InvertImageOptions},
+};
+
+// Through printers that have none of it, and with every source having its say about something else.
+TEST_F(SettingsArrivalTest, EachPanelsSettingsComeThroughOtherPrintersAsTheyWere)
+{
+    JobTickets start;
+    start.printSettings.ppdDict().set("PageSize", "A4");
+    const QStringList sources{u"--settings"_s, settingsOf(start), u"-oKSTColor=BW"_s};
+    setUserDefaults("InputSlot=Tray1");
+    for (const PanelJob& panel : kPanelJobs) {
+        SCOPED_TRACE(panel.script);
+        const QByteArray tour = "summary\nchoose Printer Acme\nchoose Printer Plain\nchoose Printer Kesta\nsummary\n"
+                                "sync to-tickets\ndump chosen.plist\nprint\n";
+        const Ended ended = print(sources, panel.script + tour);
+        ASSERT_EQ(ended.status, 0) << ended.errors.toStdString();
+        const QStringList said = ended.output.split(u'\n');
+        EXPECT_TRUE(said.size() > 2 && said[0] == said[1]) << ended.output.toStdString();
+        EXPECT_NE(said[0], u"1 copy, all pages"_s);
+        JobTickets chosen;
+        QFile file(folder.filePath(u"chosen.plist"_s));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly) && !ReadJobSettings(file.readAll(), chosen));
+        const Arrived job = arrived();
+        EXPECT_TRUE(job.ticket == chosen.printSettings.values());
+        EXPECT_TRUE(job.ticket.find(panel.key)) << panel.key;
+        for (const auto& [keyword, choice] : chosen.printSettings.ppdDict()) {
+            const QString arrivedChoice = FindJobOption(job.options, keyword).value_or(QString());
+            EXPECT_EQ(arrivedChoice.compare(*choice.string(), Qt::CaseInsensitive), 0)
+                << keyword.toStdString() << arrivedChoice.toStdString();
+        }
+        for (const auto& [keyword, choice] : panel.choices)
+            EXPECT_EQ(chosen.printSettings.ppdDict().string(keyword) ? *chosen.printSettings.ppdDict().string(keyword)
+                                                                     : QString(),
+                      QLatin1StringView(choice))
+                << keyword;
+        EXPECT_EQ(FindJobOption(job.options, "PageSize"), u"A4"_s);
+        EXPECT_EQ(FindJobOption(job.options, "KSTColor"), u"BW"_s);
+        EXPECT_EQ(FindJobOption(job.options, "InputSlot"), u"Tray1"_s);
+    }
+}
+
 TEST_F(SettingsArrivalTest, AFaxGivesItsColourBack)
 {
     ASSERT_EQ(print({}, "choose \"Job Type:\" =7\npress \"OK Command\"\nsync to-tickets\nprint").status, 0);

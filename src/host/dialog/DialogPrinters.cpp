@@ -65,8 +65,9 @@ void PrintDialog::fillPrinterChoice()
     choice->setEnabled(!menu.items.empty()); // nothing to choose from while printers are looked for
     if (!position && !menu.items.empty()) {  // no other printer's name in the place of the one that was asked for
         const QString& asked = finder_.asked();
-        menu.items.push_back(
-            {.title = asked.isEmpty() ? LocalizedString(*start_.texts, "No Printer Chosen") : asked, .enabled = false});
+        menu.items.push_back({.title = asked.isEmpty() ? LocalizedString(*start_.texts, "No Printer Chosen") : asked,
+                              .enabled = false,
+                              .notOffered = !asked.isEmpty()});
         position = menu.count();
     }
     choice->setMenu(std::move(menu));

@@ -47,8 +47,10 @@ void ShowJobTypeSetup(PDEShellContext& shell)
         if (panel.userPane && panel.userPane->isAncestorOf(button) && panel.index != GetShownPanel()._lastTabIndex)
             SelectAndShow(panel.index, shell);
     }
-    if (button->isEnabled())                  // a fax has no setup to go to
-        button->setFocus(Qt::TabFocusReason); // with its ring
+    if (!button->isEnabled()) // a fax has no setup to go to
+        return;
+    button->setFocus(Qt::TabFocusReason);
+    button->window()->setAttribute(Qt::WA_KeyboardFocusChange); // with its ring
 }
 
 EventResult HandleHit(PDEShellContext& shell, const HitEvent& hit)
