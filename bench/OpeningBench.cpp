@@ -27,7 +27,7 @@ void OpenWindow(const QString& path)
     PrintSession session;
     session.printer = PMPrinter{.ppdPath = path};
     SetCurrentPrintSession(&session);
-    host::ReadPPDFacts(path, {});
+    host::ReadPPDFacts(path);
     LoadInstallableOptions(PPDGetCurrent(), InstalledFeatures);
     UnloadInstallableOptions();
     PPDCloseCurrent();

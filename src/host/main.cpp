@@ -17,7 +17,9 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <fcntl.h>
 #include <malloc.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <span>
@@ -155,6 +157,18 @@ int RunOnConsole(const CommandLineResult& parsed)
     return Fail(Say("No Display"), texts);
 }
 
+// Where one of the three standard files is closed, the next file that is opened would take its place: the document
+// would be read from whatever that is.
+void OpenStandardFiles()
+{
+    int opened = 0;
+    do {
+        opened = ::open("/dev/null", O_RDWR);
+    } while (opened >= 0 && opened <= STDERR_FILENO);
+    if (opened > STDERR_FILENO)
+        ::close(opened);
+}
+
 int Run(int argc, char** argv)
 {
     const std::span<const char* const> arguments(argv + 1, argc > 0 ? static_cast<std::size_t>(argc) - 1 : 0);
@@ -179,6 +193,7 @@ int Run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    kesta::host::OpenStandardFiles();
     mallopt(M_ARENA_MAX, 1); // the threads beside the window wait for a server: a heap each would be memory for nothing
     return kesta::host::Run(argc, argv);
 }

@@ -1,7 +1,5 @@
 #include "model/JobType.h"
 
-#include "pde/interface/TicketKeys.h"
-
 #include <algorithm>
 #include <array>
 

@@ -1,16 +1,9 @@
 #pragma once
 
+#include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"
 
 namespace kesta {
-
-// What the job type's number says. There are more, up to kHighestJobType, that only a ticket can bring.
-inline constexpr SInt32 kJobTypeNormal = 1;
-inline constexpr SInt32 kJobTypeSavedJob = 3;
-inline constexpr SInt32 kJobTypeFax = 5;
-inline constexpr SInt32 kJobTypeSecurePrint = 6;
-inline constexpr SInt32 kJobTypeDelayedPrint = 7;
-inline constexpr SInt32 kHighestJobType = 9;
 
 // How the job is printed and what the types that need setting up ask for: the ticket's dictionary of the job type.
 struct JobType {

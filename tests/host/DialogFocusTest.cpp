@@ -104,7 +104,7 @@ TEST_F(DialogFocusTest, TabWalksFromThePrinterToTheLastButton)
                              u"Booklet image order"_s,
                              u"Output options"_s,
                              u"Banner sheet"_s,
-                             u"Request offset"_s,
+                             u"Offset stacking"_s,
                              u"Mirrored output"_s,
                              u"Printing optimization"_s,
                              u"About…"_s,

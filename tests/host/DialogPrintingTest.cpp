@@ -75,9 +75,21 @@ TEST_F(DialogPrintingTest, AnotherPrinterGetsAPaneOfItsOwn)
     EXPECT_EQ(calls(), u"Prologue, Initialize, Open, Sync out, Close, Terminate 0, "
                        "Prologue, Initialize, Open, Close, Terminate 0"_s);
     options.queue = u"Nowhere"_s;
-    EXPECT_EQ(run("expect \"Unknown Printer Title\"\nchoose Printer #1\nexpect-enabled Help yes\nprint"), 0);
+    EXPECT_EQ(run("expect \"Unknown Printer Title\"\nexpect-value Printer Nowhere\nchoose Printer #1\nexpect-enabled "
+                  "Help yes\nprint"),
+              0);
     EXPECT_EQ(fault, QString());
     EXPECT_TRUE(server.job(1));
+}
+
+TEST_F(DialogPrintingTest, TheListSaysWhichPrintersDoNotPrintNow)
+{
+    server.administer(u"cupsdisable"_s, {u"Kesta"_s});
+    server.administer(u"cupsreject"_s, {u"Plain"_s});
+    EXPECT_EQ(run("expect-value Printer \"Kesta (paused)\"\nchoose Printer \"Plain (takes no jobs)\"\nprint\n"
+                  "expect \"Queue Not Accepting Title\"\npress \"Go Back\"\ncancel"),
+              0);
+    EXPECT_EQ(fault, QString());
 }
 
 TEST_F(DialogPrintingTest, BeginsWithThePrinterOfTheLastJob)

@@ -1,9 +1,12 @@
 #include "host/job/HostTickets.h"
 #include "host/job/PageRanges.h"
+#include "host/job/SavedSettings.h"
 #include "platform/printsystem/PrintSystemKeys.h"
 #include "support/TestTexts.h"
 
 #include <gtest/gtest.h>
+
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -120,10 +123,29 @@ TEST(HostTickets, PaperAndSides)
     pageFormat.set("x", key::PMUnadjustedPaperRect, Array{Number::Index(1)});
     EXPECT_FALSE(ReadPaperRect(pageFormat));
 
-    WriteInitialDuplexing(DuplexingOfChoice("DuplexTumble"), printSettings);
-    WriteInitialDuplexing(DuplexingOfChoice("DuplexNoTumble"), printSettings); // the first stays
+    WriteInitialDuplexing(3, printSettings);
+    WriteInitialDuplexing(2, printSettings); // the first stays
     EXPECT_TRUE(*printSettings.values().find(key::PMDuplexing) == Value(Number::Index(3)));
-    EXPECT_EQ(DuplexingOfChoice("None"), 1);
+}
+
+// A file that this program writes, it reads again; one that it would not, it does not write.
+TEST(SavedSettings, WhatCouldNotBeReadAgainIsNotWritten)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"saved.plist"_s);
+    JobTickets tickets;
+    tickets.printSettings.set("x", key::PMJobName, "first");
+    EXPECT_EQ(SaveSettings(path, tickets), std::nullopt);
+    tickets.printSettings.set("x", key::PMJobName, QString(kLargestJobSettings, u'x'));
+    EXPECT_EQ(SaveSettings(path, tickets).value_or(Message()).key, u"Settings Too Large To Save"_s);
+    Value deep(Array{});
+    for (int depth = 0; depth < 60; ++depth)
+        deep = Array{deep};
+    tickets.printSettings.set("x", key::PMJobName, deep);
+    EXPECT_TRUE(SaveSettings(path, tickets));
+    JobTickets read;
+    EXPECT_EQ(ReadSavedSettings(path, read), std::nullopt);
+    EXPECT_TRUE(read.printSettings.values() == (Dictionary{{key::PMJobName, "first"}}));
 }
 
 } // namespace

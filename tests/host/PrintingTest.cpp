@@ -50,7 +50,7 @@ protected:
     {
         Ticket& ticket = tickets.printSettings;
         ticket.set("com.kesta.print", "com.kesta.print.JobType",
-                   Dictionary{{"JobType", Number::Index(6)}, {"Owner", QString(u"Zoë \"O'Neil\" \\ {1}"_s)}});
+                   Dictionary{{"JobType", Number::Index(8)}, {"Owner", QString(u"Zoë \"O'Neil\" \\ {1}"_s)}});
         ticket.set("com.kesta.print", "com.kesta.print.Density", Number::Float64(0.1));
         ticket.set("com.kesta.print", "com.kesta.print.Fonts", QByteArray(3000, '\x7f'));
         ticket.ppdDict().set("StapleLocation", "DualLandscape");
@@ -100,7 +100,7 @@ TEST_F(PrintingTest, TheDocumentArrivesWithExactlyTheseOptions)
     EXPECT_EQ(PagesOf(job.data), 4);
     const Outcome shown = RunProgram(KESTA_TICKET, {u"show"_s}, job.options);
     EXPECT_EQ(shown.output, WritePropertyList(tickets.printSettings.values())) << shown.error.constData();
-    EXPECT_EQ(RunProgram(KESTA_TICKET, {u"get"_s, u"com.kesta.print.JobType/JobType"_s}, job.options).output, "6\n");
+    EXPECT_EQ(RunProgram(KESTA_TICKET, {u"get"_s, u"com.kesta.print.JobType/JobType"_s}, job.options).output, "8\n");
 
     tickets.printSettings.ppdDict().set("KSPunch", "2HolePunch");
     EXPECT_EQ(ReadAll(saved), WriteJobSettings(tickets)) << "what is saved is what was printed";

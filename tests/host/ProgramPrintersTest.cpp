@@ -54,7 +54,7 @@ TEST_F(ProgramPrintersTest, WhatIsNoDescriptionSaysWhy)
     expectPlainOptions(folder.filePath(u"missing.ppd"_s), "there is no such file");
     expectPlainOptions(folder.path(), "it is not a file");
     PPDVariant ppd;
-    expectPlainOptions(ppd.truncate(0).path(), "it does not begin as a PPD file does");
+    expectPlainOptions(ppd.truncate(0).path(), "it does not begin as a printer description does");
 
     const PPDVariant whole;
     for (const char* place : {"*CloseUI: *Jog", "*CloseGroup: InstallableOptions"}) {

@@ -127,4 +127,12 @@ TEST_F(ProgramServerTest, AJobWaitsAtAPausedQueue)
     EXPECT_EQ(server.jobState(1), 3);
 }
 
+TEST_F(ProgramServerTest, ClosedStandardInputIsAnEmptyDocument)
+{
+    prepare = [] { ::close(STDIN_FILENO); };
+    const Ended ended = run({u"-h"_s, server.address(), u"--no-dialog"_s});
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_TRUE(ended.errors.contains(u"is empty"_s)) << ended.errors.toStdString();
+}
+
 } // namespace

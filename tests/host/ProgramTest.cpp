@@ -20,7 +20,7 @@ TEST_F(ProgramTest, PlaysAScriptWithoutADisplayAndSavesTheSame)
         play("panel Advanced\nchoose \"Mirrored Output:\" Enabled\nsync to-tickets\ndump dump.plist\nsummary\nprint",
              {u"--save-settings"_s, u"saved.plist"_s, u"-n"_s, u"2"_s});
     EXPECT_EQ(first.status, 0) << first.errors.toStdString();
-    EXPECT_EQ(first.output, u"2 copies\n"_s);
+    EXPECT_EQ(first.output, u"2 copies \u00B7 mirrored\n"_s);
     EXPECT_EQ(first.errors, QString());
     QFile saved(folder.filePath(u"saved.plist"_s));
     QFile dump(folder.filePath(u"dump.plist"_s));
@@ -103,6 +103,23 @@ TEST_F(ProgramTest, AFileThatCannotBePrintedIsNamedBeforeAServerIsAsked)
     EXPECT_EQ(silent.status, 1);
     EXPECT_TRUE(silent.errors.contains(u"does not answer"_s) && silent.errors.contains(server))
         << silent.errors.toStdString();
+}
+
+TEST_F(ProgramTest, TheSummarySaysAllThatIsNotTheDefault)
+{
+    const Ended plain = play("panel #2\nsync to-tickets\nsync from-tickets\nsummary");
+    EXPECT_EQ(plain.output, u"1 copy, all pages\n"_s) << plain.errors.toStdString();
+    const Ended ended = play("choose \"Job Type:\" =7\ntype \"TimeToPrint:\" \"20:00\"\npress \"OK Command\"\n"
+                             "choose \"Print Quality:\" TonerSaver\nchoose \"Output Destination:\" #2\n"
+                             "panel Advanced\nchoose \"Output Options:\" \"Face Up\"\n"
+                             "choose \"Mirrored Output:\" Enabled\nchoose \"Request Offset:\" #2\n"
+                             "choose \"Printing Optimization:\" Speed\nchoose \"Banner Sheet:\" Off\n"
+                             "panel ColorOptions\ntype \"Lightness\" 20\nsync to-tickets\nsync from-tickets\nsummary");
+    QString summary = ended.output.trimmed();
+    EXPECT_TRUE(summary.startsWith(u"Delayed to 20:00 to"_s)) << ended.errors.toStdString() << summary.toStdString();
+    EXPECT_EQ(summary.section(u" \u00B7 "_s, 1),
+              u"quality: Toner saver \u00B7 colors adjusted \u00B7 destination: Center tray, Face up, Offset each set "
+              "\u00B7 mirrored, optimization: Speed \u00B7 banner sheet: Off"_s);
 }
 
 TEST_F(ProgramTest, WorksWithoutItsPlugIn)

@@ -230,18 +230,18 @@ TEST_F(SealedTicketTest, ThePPDSaysWhatTheServerReads)
         content.replace("*KSTicketVersion: \"2\"\n", "");
         ppd.write(content + lines);
         ppd.close();
-        return ReadPPDFacts(path, {});
+        return ReadPPDFacts(path);
     };
-    const PPDFacts none = read("");
+    const PrinterFacts none = read("");
     EXPECT_EQ(none.ticketReader.version, 1);
     EXPECT_TRUE(none.ticketReader.publicKeys.isEmpty());
-    const PPDFacts both = read("*KSTicketVersion: \"2\"\n*KSTicketKey: \"" + keys.publicKey + "\"\n");
+    const PrinterFacts both = read("*KSTicketVersion: \"2\"\n*KSTicketKey: \"" + keys.publicKey + "\"\n");
     EXPECT_EQ(both.ticketReader.version, 2);
     EXPECT_EQ(TicketReaderProblem(both.ticketReader), std::nullopt);
     EXPECT_EQ(both.ticketReader.publicKeys, QByteArrayList{keys.publicKey});
     for (const char* line : {"*KSTicketKey:", "*KSTicketKey: \"\"", "*KSTicketKey x: \"kk1\"", "*ksticketkey: \"kk1\"",
                              "*KSTicketKey: \"kk1\"\n*KSTicketKey: \"kk2\""}) {
-        const PPDFacts facts = read(QByteArray(line) + '\n');
+        const PrinterFacts facts = read(QByteArray(line) + '\n');
         EXPECT_TRUE(TicketReaderProblem(facts.ticketReader)) << line;
     }
     EXPECT_FALSE(read("*KSTicketKey \"kk1\"\n").ticketReader.problem.isEmpty()) << "no colon";

@@ -67,6 +67,17 @@ TEST(DelayedPrintTime, TodayIsTheDayOnTheWallClock)
               kFirstOf1970 + midnight + 14 * kHour);
 }
 
+TEST(DelayedPrintTime, ADelayIsToldWithItsDay)
+{
+    constexpr SInt64 nine = 20'000 * kDay + 9 * kHour;
+    const Bundle bundle = test::BundleWithAllTexts();
+    const auto told = [&](SInt64 moment) { return DelayText(bundle, moment, StoppedClock(nine, 0)); };
+    EXPECT_EQ(told(20 * kHour), u"Delayed Today In Summary 20:00"_s);
+    EXPECT_EQ(told(8 * kHour + 30), u"Delayed Tomorrow In Summary 08:00:30"_s);
+    EXPECT_EQ(told(9 * kHour), u"Delayed Today In Summary 09:00"_s);
+    EXPECT_EQ(told(0), u"Delayed Tomorrow In Summary 00:00"_s);
+}
+
 TEST(DelayedPrintTime, EveryStoredMomentHasATimeOfDay)
 {
     EXPECT_EQ(TimeOfDay(0), 0);

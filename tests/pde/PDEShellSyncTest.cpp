@@ -90,15 +90,40 @@ TEST_F(PDEShellSyncTest, TheClientIsNamedAsFarAsItIsKnown)
     EXPECT_EQ(text(key::ClientIPAddress), u"none");
 }
 
-TEST_F(PDEShellSyncTest, AFaxHasNoColours)
+TEST_F(PDEShellSyncTest, AFaxHasNoColoursAndGivesThemBack)
 {
     initialize();
-    ticket.set("X", key::JobType, Dictionary{{"JobType", Number::SInt32(6)}});
-    write();
-    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "KSTColor"), std::nullopt);
-    ticket.set("X", key::JobType, Dictionary{{"JobType", Number::SInt32(5)}});
-    write();
-    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "KSTColor"), u"BW"_s);
+    const auto colorOf = [this](SInt32 jobType) {
+        ticket.set("X", key::JobType, Dictionary{{"JobType", Number::SInt32(jobType)}});
+        write();
+        return PPDCopyCurrentChoice(ticket, "KSTColor");
+    };
+    EXPECT_EQ(colorOf(6), std::nullopt);
+    EXPECT_EQ(colorOf(5), u"BW"_s);
+    EXPECT_EQ(colorOf(5), u"BW"_s);
+    EXPECT_EQ(colorOf(1), std::nullopt) << "nobody chose it";
+    for (const char* chosen : {"Color", "BW"}) {
+        ticket.ppdDict().set("KSTColor", chosen);
+        EXPECT_EQ(colorOf(5), u"BW"_s);
+        slots.Sync(prologue.context, &session(), true);
+        EXPECT_EQ(colorOf(1), QLatin1StringView(chosen));
+        EXPECT_EQ(colorOf(8), QLatin1StringView(chosen));
+    }
+}
+
+TEST_F(PDEShellSyncTest, SettingsThatBeginAsAFaxLoseItsColourToo)
+{
+    initialize();
+    const auto begin = [this](SInt32 jobType) {
+        ticket.ppdDict().set("KSTColor", "BW");
+        ticket.set("X", key::JobType, Dictionary{{"JobType", Number::SInt32(jobType)}});
+        slots.Sync(prologue.context, &session(), true);
+        ticket.set("X", key::JobType, Dictionary{{"JobType", Number::SInt32(1)}});
+        write();
+        return PPDCopyCurrentChoice(ticket, "KSTColor");
+    };
+    EXPECT_EQ(begin(5), std::nullopt);
+    EXPECT_EQ(begin(6), u"BW"_s) << "chosen by the user";
 }
 
 // What the Print button gets to hear, with a panel that says what the test wants.

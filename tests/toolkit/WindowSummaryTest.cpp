@@ -34,6 +34,11 @@ TEST(WindowSummary, TellsWhatIsNotTheDefaultInItsOrder)
     EXPECT_EQ(WindowSummary(window), (QStringList{u"Two"_s, u"Folded, Kind: own, Two"_s}));
     holes->hide();
     panel->hide(); // another one is in front
+    ShowInSummary(sides, 3, 5, u"sides: %1"_s);
+    EXPECT_EQ(WindowSummary(window), (QStringList{u"sides: Two"_s, u"Folded, Kind: own"_s}));
+    ShowInSummary(sides, 3, 5, u"turned"_s);
+    EXPECT_EQ(WindowSummary(window).front(), u"turned"_s);
+    ShowInSummary(sides, 3, 5, u"%1"_s);
     EXPECT_EQ(WindowSummary(window), (QStringList{u"Two"_s, u"Folded, Kind: own"_s}));
 }
 

@@ -8,6 +8,10 @@
         <translation>Color Options</translation>
     </message>
     <message>
+        <source>Colors In Summary</source>
+        <translation>colors adjusted</translation>
+    </message>
+    <message>
         <source>PrinterDefault</source>
         <translation>Printer default</translation>
     </message>

@@ -184,6 +184,50 @@
         <translation>Untitled</translation>
     </message>
     <message>
+        <source>Quality In Summary</source>
+        <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
+        <translation>quality: %1</translation>
+    </message>
+    <message>
+        <source>Destination In Summary</source>
+        <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
+        <translation>destination: %1</translation>
+    </message>
+    <message>
+        <source>Delayed Today In Summary</source>
+        <extracomment>In the window’s summary line. %1: a time</extracomment>
+        <translation>delayed to %1 today</translation>
+    </message>
+    <message>
+        <source>Delayed Tomorrow In Summary</source>
+        <extracomment>In the window’s summary line. %1: a time</extracomment>
+        <translation>delayed to %1 tomorrow</translation>
+    </message>
+    <message>
+        <source>Mirrored In Summary</source>
+        <translation>mirrored</translation>
+    </message>
+    <message>
+        <source>Optimization In Summary</source>
+        <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
+        <translation>optimization: %1</translation>
+    </message>
+    <message>
+        <source>Banner In Summary</source>
+        <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
+        <translation>banner sheet: %1</translation>
+    </message>
+    <message>
+        <source>Order In Summary</source>
+        <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
+        <translation>booklet image order: %1</translation>
+    </message>
+    <message>
+        <source>Image Quality In Summary</source>
+        <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
+        <translation>image quality: %1</translation>
+    </message>
+    <message>
         <source>Job Type:</source>
         <translation>Job type</translation>
     </message>
@@ -233,7 +277,7 @@
     </message>
     <message>
         <source>Booklet Creation...</source>
-        <translation>Booklet Creation…</translation>
+        <translation>Booklet Options…</translation>
     </message>
     <message>
         <source>Choose Paper</source>
@@ -877,6 +921,10 @@
         <translation>The watermark “%1” is removed for everybody who uses this computer.</translation>
     </message>
     <message>
+        <source>Fold Without Layout Hint</source>
+        <translation>The pages stay in their order. Turn the booklet layout on to read them as a booklet.</translation>
+    </message>
+    <message>
         <source>Booklet Options Title</source>
         <translation>Booklet Options</translation>
     </message>
@@ -1113,7 +1161,7 @@
     </message>
     <message>
         <source>Request Offset:</source>
-        <translation>Request offset</translation>
+        <translation>Offset stacking</translation>
     </message>
     <message>
         <source>Mirrored Output:</source>
@@ -1369,17 +1417,19 @@
         <source>Back Cover Summary</source>
         <translation>back cover</translation>
     </message>
-    <message>
-        <source>One Insert Summary</source>
-        <translation>1 insert</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>Inserts Summary</source>
-        <translation>%1 inserts</translation>
+        <translation>
+            <numerusform>%n insert</numerusform>
+            <numerusform>%n inserts</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Exceptions Summary</source>
-        <translation>%1 exceptions</translation>
+        <translation>
+            <numerusform>%n exception</numerusform>
+            <numerusform>%n exceptions</numerusform>
+        </translation>
     </message>
     <message>
         <source>Exception Page Summary</source>

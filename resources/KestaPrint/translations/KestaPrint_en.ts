@@ -120,6 +120,20 @@
         <translation>This printer can’t be used</translation>
     </message>
     <message>
+        <source>Printer Paused</source>
+        <extracomment>%1: the printer</extracomment>
+        <translation>%1 (paused)</translation>
+    </message>
+    <message>
+        <source>Printer Not Accepting</source>
+        <extracomment>%1: the printer</extracomment>
+        <translation>%1 (takes no jobs)</translation>
+    </message>
+    <message>
+        <source>No Printer Chosen</source>
+        <translation>None chosen</translation>
+    </message>
+    <message>
         <source>Printer With Place</source>
         <translation>%1, %2</translation>
     </message>
@@ -130,17 +144,17 @@
     <message>
         <source>Other Maker Message</source>
         <extracomment>%1: the printer; %2: its maker; %3: what can be done all the same</extracomment>
-        <translation>%1 has “%2” as its maker, and the pane is for printers whose maker is “Kesta”. %3</translation>
+        <translation>%1 has “%2” as its maker, and the other options are for printers of the maker “Kesta”. %3</translation>
     </message>
     <message>
         <source>No Maker Message</source>
         <extracomment>%1: the printer; %2: what can be done all the same</extracomment>
-        <translation>%1 does not say who made it, and the pane is for printers whose maker is “Kesta”. %2</translation>
+        <translation>%1 does not say who made it, and the other options are for printers of the maker “Kesta”. %2</translation>
     </message>
     <message>
         <source>Pane Failed Message</source>
         <extracomment>%1: the printer; %2: a status number; %3: what can be done all the same</extracomment>
-        <translation>The pane for %1 could not be started (%2). %3</translation>
+        <translation>The other options of %1 can’t be shown (%2). %3</translation>
     </message>
     <message>
         <source>No Description Message</source>
@@ -160,11 +174,69 @@
     </message>
     <message>
         <source>Printing Still Works</source>
-        <translation>You can still print with copies, pages and orientation as set above.</translation>
+        <translation>You can still print with copies, pages, pages per sheet and orientation as set above.</translation>
     </message>
     <message>
         <source>Saving Still Works</source>
-        <translation>You can still save copies, pages and orientation as set above.</translation>
+        <translation>You can still save copies, pages, pages per sheet and orientation as set above.</translation>
+    </message>
+    <message>
+        <source>Other Choices Kept</source>
+        <extracomment>%1: a sentence</extracomment>
+        <translation>%1 Your other choices are not sent to it; they are kept for a printer that has them.</translation>
+    </message>
+    <message>
+        <source>Passcode Missing</source>
+        <translation>A secure print job needs a passcode.</translation>
+    </message>
+    <message>
+        <source>Recipients Missing</source>
+        <translation>A fax needs recipients.</translation>
+    </message>
+    <message>
+        <source>Secure Job Title</source>
+        <translation>This is a secure print job</translation>
+    </message>
+    <message>
+        <source>Job Not Kept Question</source>
+        <extracomment>%1: the printer</extracomment>
+        <translation>%1 can’t keep this job until a passcode is typed. Print it now?</translation>
+    </message>
+    <message>
+        <source>Delayed Job Title</source>
+        <translation>This is a delayed print job</translation>
+    </message>
+    <message>
+        <source>Job Not Held Question</source>
+        <extracomment>%1: the printer</extracomment>
+        <translation>%1 can’t delay this job. Print it now?</translation>
+    </message>
+    <message>
+        <source>Saved Job Title</source>
+        <translation>This is a saved job</translation>
+    </message>
+    <message>
+        <source>Job Not Stored Question</source>
+        <extracomment>%1: the printer</extracomment>
+        <translation>%1 can’t save this job for later. Print it now?</translation>
+    </message>
+    <message>
+        <source>Fax Job Title</source>
+        <translation>This is a fax</translation>
+    </message>
+    <message>
+        <source>No Fax Question</source>
+        <extracomment>%1: the printer</extracomment>
+        <translation>%1 can’t send faxes. Print it on paper?</translation>
+    </message>
+    <message>
+        <source>Sample Set Title</source>
+        <translation>This is a sample set</translation>
+    </message>
+    <message>
+        <source>No Sample Set Question</source>
+        <extracomment>%1: the printer</extracomment>
+        <translation>%1 can’t print one set first. Print all copies now?</translation>
     </message>
     <message>
         <source>Pages Not Understood Title</source>
@@ -227,6 +299,26 @@ It says: %2</translation>
     <message>
         <source>Sending Stopped Title</source>
         <translation>The job was stopped</translation>
+    </message>
+    <message>
+        <source>Not Offered Title</source>
+        <translation>This printer can’t do all that is set</translation>
+    </message>
+    <message>
+        <source>Not Offered Sentence</source>
+        <extracomment>%1: what a control is called; %2: what it shows</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Leave Out Message</source>
+        <extracomment>%1: names of options, one a line</extracomment>
+        <translation>The printer does not have these options:
+%1
+Leave them out and print?</translation>
+    </message>
+    <message>
+        <source>Leave Out</source>
+        <translation>Leave Out</translation>
     </message>
     <message>
         <source>Conflict Title</source>
@@ -337,7 +429,7 @@ Go back and change one of them.</translation>
     </message>
     <message>
         <source>Queue Of Environment Unknown</source>
-        <translation>There is no printer “%2”, which %1 names as your default. Choose a printer above.</translation>
+        <translation>There is no printer “%2”, which your settings (%1) name as your default. Choose a printer above.</translation>
     </message>
     <message>
         <source>No Default Queue</source>
@@ -345,7 +437,7 @@ Go back and change one of them.</translation>
     </message>
     <message>
         <source>Queue Without PPD</source>
-        <translation>“%1” has no printer description (PPD), so its own options can’t be shown.</translation>
+        <translation>“%1” has no printer description, so its own options can’t be shown.</translation>
     </message>
     <message>
         <source>Queue PPD Not Fetched</source>
@@ -512,6 +604,11 @@ Go back and change one of them.</translation>
         <translation>The settings in %1 can’t be used: %2</translation>
     </message>
     <message>
+        <source>Settings Too Large To Save</source>
+        <extracomment>%1: a file; %2: what is wrong</extracomment>
+        <translation>%1 was not written, because it could not be read again: %2</translation>
+    </message>
+    <message>
         <source>Settings Of Another Kind</source>
         <translation>It is not a job settings file: %1.</translation>
     </message>
@@ -561,7 +658,7 @@ Go back and change one of them.</translation>
     </message>
     <message>
         <source>PPD Of Another Kind</source>
-        <translation>it does not begin as a PPD file does</translation>
+        <translation>it does not begin as a printer description does</translation>
     </message>
     <message>
         <source>PPD Not Text</source>
@@ -621,7 +718,7 @@ Go back and change one of them.</translation>
     </message>
     <message>
         <source>Plug-in Of Another Program</source>
-        <translation>%1 is not a plug-in for this program.</translation>
+        <translation>%1 is not made for this program.</translation>
     </message>
     <message>
         <source>Panel List Unusable</source>
@@ -653,7 +750,7 @@ Go back and change one of them.</translation>
     </message>
     <message>
         <source>Bundle Missing</source>
-        <translation>there is no bundle in %1</translation>
+        <translation>they are not in %1</translation>
     </message>
     <message>
         <source>Bundle Loaded Twice</source>
@@ -841,6 +938,38 @@ Go back and change one of them.</translation>
     <message>
         <source>Script Without Dialog</source>
         <translation>"--script" plays in the dialog: leave out "--no-dialog" or "--script".</translation>
+    </message>
+    <message>
+        <source>Passcode Missing</source>
+        <translation>a secure print job needs a passcode, which no settings file keeps: print it in the dialog, or without --settings.</translation>
+    </message>
+    <message>
+        <source>Recipients Missing</source>
+        <translation>a fax needs recipients, and the settings have none: print it in the dialog, or without --settings.</translation>
+    </message>
+    <message>
+        <source>Job Not Kept</source>
+        <translation>"%1" can't keep this job until a passcode is typed: print it on another printer with -d, or without --settings.</translation>
+    </message>
+    <message>
+        <source>Job Not Held</source>
+        <translation>"%1" can't delay this job: print it on another printer with -d, or without --settings.</translation>
+    </message>
+    <message>
+        <source>Job Not Stored</source>
+        <translation>"%1" can't save this job for later: print it on another printer with -d, or without --settings.</translation>
+    </message>
+    <message>
+        <source>No Fax</source>
+        <translation>"%1" can't send faxes: print it on another printer with -d, or without --settings.</translation>
+    </message>
+    <message>
+        <source>No Sample Set</source>
+        <translation>"%1" can't print one set first: print it on another printer with -d, or without --settings.</translation>
+    </message>
+    <message>
+        <source>Settings Left Out</source>
+        <translation>"%1" takes copies, pages, pages per sheet and orientation of the saved settings; the others are left out.</translation>
     </message>
     <message>
         <source>Choice Not Offered</source>

@@ -1,17 +1,18 @@
 #include "host/commandline/NoDialog.h"
 
 #include "host/commandline/Console.h"
-#include "host/commandline/DialogOptions.h"
 #include "host/job/JobComposition.h"
+#include "host/job/JobPromises.h"
 #include "host/job/SavedSettings.h"
+#include "host/job/SettingsMerge.h"
 #include "host/ppd/Constraints.h"
 #include "host/ppd/ListOptions.h"
+#include "host/ppd/PPDFacts.h"
 #include "host/server/DocumentSource.h"
 #include "host/server/Queues.h"
 #include "host/server/Submission.h"
 
 #include "platform/printsystem/JobSettings.h"
-#include "platform/system/SafeFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,7 +31,7 @@ struct Run {
     JobTickets tickets = {};
     NamedQueue queue = {};
     QueuePPD ppd = {}; // the path is --ppd's, or that of a private copy; empty for a queue without a PPD
-    PPDFacts facts = {};
+    PrinterFacts facts = {};
 };
 
 Failure FindPrinter(Run& run)
@@ -70,15 +71,53 @@ Failure ReadSettings(Run& run)
     return path.isEmpty() ? std::nullopt : ReadSavedSettings(path, run.tickets);
 }
 
-// What the command line says goes into the tickets, so that what is saved is what is printed.
-void ApplyCommandLine(Run& run)
+// A printer that the pane is not for gets what it would get from the dialog, whose window shows no more.
+Failure LeaveOutHidden(Run& run)
+{
+    if (run.facts.suitsPane())
+        return std::nullopt;
+    const QString name = run.queue.queue.name.isEmpty() ? run.facts.name : run.queue.queue.name;
+    if (const auto promise = PromiseOf(run.tickets.printSettings); promise && !run.queue.queue.name.isEmpty())
+        return Say(promise->refusal, name);
+    JobTickets fields;
+    if (!CopyFields(run.tickets, fields))
+        PrintNote(Say("Settings Left Out", name), run.texts);
+    CopyTickets(fields, run.tickets);
+    return std::nullopt;
+}
+
+// As the dialog does before it lets a job go.
+Failure CheckJobType(Run& run)
 {
     Ticket& settings = run.tickets.printSettings;
-    PresetChoices(run.commandLine.presets.options, run.facts, Preset::Prevails, settings.ppdDict());
+    if (!run.commandLine.ppdPath.isEmpty()) // nothing is printed
+        return std::nullopt;
+    if (Failure missing = MissingFor(settings))
+        return missing;
+    if (IsFax(settings) && run.facts.offers(u"KSTColor"_s, u"BW"_s))
+        settings.ppdDict().set("KSTColor", "BW"); // a fax has no colours
+    return std::nullopt;
+}
+
+// What the queue and the command line say goes into the tickets, so that what is saved is what is printed.
+void MergeIntoTickets(Run& run)
+{
+    const JobPresets& presets = run.commandLine.presets;
+    const JobOptions queueDefaults = run.facts.suitsPane() ? run.queue.defaults : JobOptions();
+    MergeSettings({.queueDefaults = queueDefaults, .commandLine = presets.options}, run.facts, run.tickets);
+    Ticket& settings = run.tickets.printSettings;
     const HostSettings saved = ReadTickets(settings, run.tickets.pageFormat);
-    const HostSettings wanted = StartingSettings(run.commandLine.presets, saved);
+    const HostSettings wanted = StartingSettings(presets, saved);
     if (wanted != saved)
         WriteTickets(wanted, settings, run.tickets.pageFormat);
+}
+
+// Of -o what the tickets don't say.
+JobOptions OutsideTickets(const Run& run)
+{
+    JobOptions options = run.commandLine.presets.options;
+    std::erase_if(options, [&](const JobOption& option) { return IsTaken(option, run.facts); });
+    return options;
 }
 
 bool IsChoiceOfCommandLine(const Run& run, const QString& keyword)
@@ -130,15 +169,6 @@ Failure CheckChoices(Run& run)
     return report.conflicts.empty() ? std::nullopt : std::optional(ConflictLines(report));
 }
 
-Failure SaveSettings(const Run& run)
-{
-    const QString& path = run.commandLine.saveSettingsPath;
-    if (path.isEmpty())
-        return std::nullopt;
-    const auto error = WriteFile(path, WriteSavedSettings(run.tickets), FileAccess::OwnerOnly);
-    return error ? std::optional(Verbatim(error->text)) : std::nullopt;
-}
-
 // The host's own fields as far as the tickets or the command line name them; what -o names is sent as it was given.
 JobFields FieldsOf(const Run& run)
 {
@@ -164,11 +194,12 @@ JobFields FieldsOf(const Run& run)
 Failure Send(Run& run)
 {
     const Ticket& settings = run.tickets.printSettings;
+    const Dictionary ticket = run.facts.suitsPane() ? settings.values() : Dictionary();
     const ComposedOptions composed = ComposeJobOptions({.queueDefaults = run.queue.defaults,
                                                         .ppdChoices = settings.ppdDict(),
-                                                        .commandLine = run.commandLine.presets.options,
+                                                        .commandLine = OutsideTickets(run),
                                                         .fields = FieldsOf(run),
-                                                        .ticket = settings.values(),
+                                                        .ticket = ticket,
                                                         .reader = run.facts.ticketReader});
     if (!composed.problem.isEmpty())
         return composed.problem;
@@ -196,11 +227,16 @@ Failure Print(Run& run)
     if (Failure failure = FindPrinter(run))
         return failure;
     if (!run.ppd.path.isEmpty())
-        run.facts = ReadPPDFacts(run.ppd.path, {});
-    ApplyCommandLine(run);
+        run.facts = ReadPPDFacts(run.ppd.path);
+    if (Failure failure = LeaveOutHidden(run))
+        return failure;
+    MergeIntoTickets(run);
+    if (Failure failure = CheckJobType(run))
+        return failure;
     if (Failure failure = CheckChoices(run))
         return failure;
-    if (Failure failure = SaveSettings(run)) // before sending: they are there to try again
+    const QString& path = run.commandLine.saveSettingsPath; // before sending: they are there to try again
+    if (Failure failure = path.isEmpty() ? std::nullopt : SaveSettings(path, run.tickets))
         return failure;
     return hasQueue ? Send(run) : std::nullopt;
 }

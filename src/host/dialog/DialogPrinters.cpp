@@ -2,9 +2,11 @@
 
 #include "host/dialog/PrintDialog.h"
 
-#include "host/commandline/DialogOptions.h"
 #include "host/dialog/DialogButtons.h"
 #include "host/dialog/PrintDialogControls.h"
+#include "host/job/SettingsMerge.h"
+#include "host/job/TwoSided.h"
+#include "host/ppd/PPDFacts.h"
 #include "platform/plugins/Bundle.h"
 #include "platform/plugins/Sentence.h"
 #include "toolkit/windows/InterfaceFile.h"
@@ -16,12 +18,6 @@
 using namespace Qt::StringLiterals;
 
 namespace kesta::host {
-namespace {
-
-constexpr char kMaker[] = "Kesta"; // whose printers the pane takes
-
-} // namespace
-
 void PrintDialog::startPrinters()
 {
     const JobRequest& request = start_.request;
@@ -65,18 +61,24 @@ void PrintDialog::fillPrinterChoice()
         position = 1;
     }
     for (const Queue& queue : finder_.queues())
-        menu.items.push_back({.title = PrinterTitle(queue, *start_.texts)});
+        menu.items.push_back({.title = PrinterInList(queue, *start_.texts)});
     choice->setEnabled(!menu.items.empty()); // nothing to choose from while printers are looked for
+    if (!position && !menu.items.empty()) {  // no other printer's name in the place of the one that was asked for
+        const QString& asked = finder_.asked();
+        menu.items.push_back({.title = asked.isEmpty() ? LocalizedString(*start_.texts, "No Printer Chosen") : asked,
+                              .enabled = false,
+                              .notOffered = !asked.isEmpty()});
+        position = menu.count();
+    }
     choice->setMenu(std::move(menu));
-    if (position)
-        choice->setValue(position);
+    choice->setValue(position);
 }
 
 void PrintDialog::choosePrinter(int position)
 {
     if (sending_ || (printer_ && !printer_->isQueue()))
         return;
-    closePane();
+    leavePrinter();
     printer_.reset();
     enableButtons();
     finder_.choose(position);
@@ -84,7 +86,7 @@ void PrintDialog::choosePrinter(int position)
 
 void PrintDialog::usePrinter(const DialogPrinter& printer)
 {
-    closePane();
+    leavePrinter();
     printer_ = printer;
     session_.printer = PMPrinter{.queue = printer.queue.name,
                                  .name = PrinterTitle(printer.queue, *start_.texts),
@@ -92,32 +94,68 @@ void PrintDialog::usePrinter(const DialogPrinter& printer)
                                  .deviceURI = printer.queue.deviceURI};
     if (!start_.request.deviceURI.isEmpty())
         session_.printer->deviceURI = start_.request.deviceURI;
-    presetFromPrinter();
-    openPane();
-}
-
-// What the panels read of the print system's own keys.
-void PrintDialog::presetFromPrinter()
-{
-    Dictionary& choices = tickets_.printSettings.ppdDict();
-    facts_ = printer_->ppd.path.isEmpty() ? PPDFacts{.problem = printer_->ppd.problem}
-                                          : ReadPPDFacts(printer_->ppd.path, choices);
-    PresetChoices(printer_->defaults, facts_, Preset::Fills, choices);
-    PresetChoices(start_.request.presets.options, facts_, Preset::Prevails, choices);
-    if (facts_.paper)
-        WritePaperRect(*facts_.paper, tickets_.pageFormat);
-    WriteInitialDuplexing(DuplexingOfChoice(facts_.duplexChoice), tickets_.printSettings);
+    facts_ = printer_->ppd.path.isEmpty() ? PrinterFacts{.problem = printer_->ppd.problem}
+                                          : ReadPPDFacts(printer_->ppd.path);
     if (!printer_->isQueue() && !facts_.name.isEmpty())
         printer_->queue.displayName = facts_.name;
+    JobTickets chosen;
+    CopyTickets(tickets_, chosen);
+    mergeSettings();
+    openPane(chosen);
 }
 
-void PrintDialog::openPane()
+// The settings are then what the user chose, and nothing of the printer's.
+void PrintDialog::leavePrinter()
+{
+    closePane();
+    if (setAside_) {
+        CopyTickets(*setAside_, tickets_);
+        setAside_.reset();
+        WriteTickets(fields_->settings(), tickets_.printSettings, tickets_.pageFormat);
+    }
+    WithdrawChoices(own_, tickets_.printSettings);
+    own_ = {};
+}
+
+// What the panels read: the settings with what the printer and the command line say, and what follows from all that.
+void PrintDialog::mergeSettings()
+{
+    const SettingSources sources{.queueDefaults = printer_->defaults, .commandLine = untaken_};
+    own_ = PrintersOwnChoices(sources, facts_, tickets_);
+    MergeSettings(sources, facts_, tickets_);
+    Ticket& settings = tickets_.printSettings;
+    foreign_.clear();
+    for (const auto& [keyword, choice] : settings.ppdDict()) {
+        if (choice.string() && !facts_.offers(keyword, *choice.string()))
+            foreign_ << keyword;
+    }
+    if (const auto paper = ReadPaper(printer_->ppd.path, settings.ppdDict()))
+        WritePaperRect(*paper, tickets_.pageFormat);
+    const auto byDefault = facts_.defaults.find(kDuplexOption);
+    const QString choice = byDefault == facts_.defaults.end() ? QString() : byDefault->second;
+    WriteInitialDuplexing(DuplexingOf(settings).value_or(DuplexingOfChoice(choice)), settings);
+}
+
+// Of a job for a printer without the pane remains what the window shows.
+void PrintDialog::setAside(const JobTickets& chosen)
+{
+    own_ = {};
+    CopyTickets(chosen, setAside_.emplace());
+    hasMore_ = !CopyFields(chosen, tickets_);
+    MergeSettings({.commandLine = start_.request.presets.options}, facts_, tickets_);
+}
+
+void PrintDialog::openPane(const JobTickets& chosen)
 {
     if (start_.plugIn.plugIn && facts_.problem.isEmpty())
         pane_.emplace(*start_.plugIn.plugIn, paneArea_->host(), session_);
     paneStatus_ = pane_ ? pane_->status() : noErr;
     if (paneStatus_ != noErr)
         pane_.reset();
+    if (pane_)
+        std::erase_if(untaken_, [this](const JobOption& option) { return IsTaken(option, facts_); });
+    else
+        setAside(chosen);
     recallPanel();
     if (pane_)
         paneArea_->showPane();
@@ -138,8 +176,9 @@ void PrintDialog::enableButtons()
 PaneMessage PrintDialog::whyNoPane() const
 {
     const Bundle& texts = *start_.texts;
-    const QString stillWorks = start_.request.ppdPath.isEmpty() ? LocalizedString(texts, "Printing Still Works")
-                                                                : LocalizedString(texts, "Saving Still Works");
+    const QString works = start_.request.ppdPath.isEmpty() ? LocalizedString(texts, "Printing Still Works")
+                                                           : LocalizedString(texts, "Saving Still Works");
+    const QString stillWorks = hasMore_ ? LocalizedString(texts, "Other Choices Kept").arg(works) : works;
     if (!start_.plugIn.plugIn)
         return {LocalizedString(texts, "No Plug-in Title"),
                 LocalizedString(texts, "No Plug-in Message").arg(Sentence(start_.plugIn.error, texts), stillWorks)};
@@ -148,7 +187,7 @@ PaneMessage PrintDialog::whyNoPane() const
     const QString message =
         !facts_.problem.isEmpty()
             ? LocalizedString(texts, "No Description Message").arg(Sentence(facts_.problem, texts), stillWorks)
-        : maker == QLatin1StringView(kMaker)
+        : facts_.suitsPane()
             ? LocalizedString(texts, "Pane Failed Message").arg(name, QString::number(paneStatus_), stillWorks)
         : maker.isEmpty() ? LocalizedString(texts, "No Maker Message").arg(name, stillWorks)
                           : LocalizedString(texts, "Other Maker Message").arg(name, maker, stillWorks);

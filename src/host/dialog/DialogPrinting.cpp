@@ -2,76 +2,32 @@
 
 #include "host/dialog/PrintDialog.h"
 
-#include "host/commandline/DialogOptions.h"
+#include "host/dialog/DialogQuestions.h"
 #include "host/dialog/PrintDialogControls.h"
 #include "host/job/JobComposition.h"
 #include "host/job/SavedSettings.h"
+#include "host/job/SettingsMerge.h"
+#include "host/ppd/ConstraintRules.h"
 #include "host/ppd/Constraints.h"
+#include "host/ppd/PPDFacts.h"
 #include "platform/plugins/Bundle.h"
 #include "platform/plugins/Sentence.h"
 #include "platform/system/FileChooser.h"
 #include "platform/system/Notices.h"
-#include "platform/system/SafeFile.h"
 #include "toolkit/windows/InterfaceFile.h"
+#include "toolkit/windows/WindowSummary.h"
 
 using namespace Qt::StringLiterals;
 
 namespace kesta::host {
-namespace {
-
-constexpr int kAccept = 0; // of the buttons of a question before printing
-
-// The sentences, and the changes of all conflicts, one a line each.
-Alert ConflictQuestion(const ConflictReport& report, const Bundle& texts)
-{
-    QStringList sentences;
-    QStringList changes;
-    bool canResolve = true;
-    for (const ChoiceConflict& conflict : report.conflicts) {
-        sentences << Sentence(conflict.sentence, texts);
-        canResolve = canResolve && !conflict.changes.empty();
-        for (const ChoiceChange& change : conflict.changes)
-            changes << Sentence(change.text, texts);
-    }
-    changes.removeDuplicates();
-    const QString title = LocalizedString(texts, "Conflict Title");
-    const QString goBack = LocalizedString(texts, "Go Back");
-    if (!canResolve)
-        return {title, LocalizedString(texts, "Conflict No Way Out").arg(sentences.join(u'\n')), {goBack}, 0};
-    return {title,
-            LocalizedString(texts, "Conflict Message").arg(sentences.join(u'\n'), changes.join(u'\n')),
-            {LocalizedString(texts, "Accept Changes"), goBack},
-            1};
-}
-
-// Of a queue that won't print what it is sent now; nothing when it will.
-std::optional<Alert> QueueQuestion(const Queue& queue, const Bundle& texts)
-{
-    if (queue.isAccepting && !queue.isStopped)
-        return std::nullopt;
-    const bool waits = queue.isAccepting;
-    QString message =
-        waits ? LocalizedString(texts, "Queue Stopped Message") : LocalizedString(texts, "Queue Not Accepting Message");
-    if (!queue.stateMessage.isEmpty())
-        message = LocalizedString(texts, "Queue Reason").arg(message, queue.stateMessage);
-    const QString title =
-        waits ? LocalizedString(texts, "Queue Stopped Title") : LocalizedString(texts, "Queue Not Accepting Title");
-    return Alert{title.arg(PrinterTitle(queue, texts)),
-                 message,
-                 {LocalizedString(texts, "Print Anyway"), LocalizedString(texts, "Go Back")},
-                 1};
-}
-
-} // namespace
-
 EventResult PrintDialog::print()
 {
     if (finder_.isBusy() || sending_ || !printer_)
         return EventResult::Handled;
-    if (!fields_->checkPages() || !acceptQueue())
+    if (!fields_->checkPages() || !acceptQueue() || !acceptPlainPrinting())
         return EventResult::Swallowed;
     storeInTickets();
-    if (!settleConflicts() || !saveAfterPrint())
+    if (!settleNotOffered() || !settleUnknown() || !settleConflicts() || !saveAfterPrint())
         return EventResult::Swallowed;
     fields_->rememberPages();
     accepted_ = composeJob();
@@ -91,7 +47,16 @@ bool PrintDialog::acceptQueue() const
     const int position = finder_.position(); // the list says more than the single look-up: why it takes none
     const Queue& queue = position ? finder_.queues()[position - 1] : printer_->queue;
     const std::optional<Alert> question = QueueQuestion(queue, *start_.texts);
-    return !question || GetNotices().ask(*question) == kAccept;
+    return !question || IsAccepted(*question);
+}
+
+// The same, of a printer that can't do what the job's type says.
+bool PrintDialog::acceptPlainPrinting() const
+{
+    const auto promise = setAside_ && printer_->isQueue() ? PromiseOf(setAside_->printSettings) : std::nullopt;
+    if (!promise)
+        return true;
+    return IsAccepted(PromiseQuestion(*promise, PrinterTitle(printer_->queue, *start_.texts), *start_.texts));
 }
 
 void PrintDialog::storeInTickets()
@@ -99,9 +64,52 @@ void PrintDialog::storeInTickets()
     WriteTickets(fields_->settings(), tickets_.printSettings, tickets_.pageFormat);
     if (pane_)
         pane_->syncToTickets();
-    const PPDFacts facts = ReadPPDFacts(printer_ ? printer_->ppd.path : QString(), tickets_.printSettings.ppdDict());
-    if (facts.paper) // a panel may have chosen another page size
-        WritePaperRect(*facts.paper, tickets_.pageFormat);
+    const QString ppd = printer_ ? printer_->ppd.path : QString();
+    if (const auto paper = ReadPaper(ppd, tickets_.printSettings.ppdDict())) // a panel may have chosen another size
+        WritePaperRect(*paper, tickets_.pageFormat);
+}
+
+// What the panels show and this printer does not offer. False: the user goes back to the dialog.
+bool PrintDialog::settleNotOffered()
+{
+    const std::vector<NotOffered> shown = pane_ ? FindNotOffered(paneArea_->host()) : std::vector<NotOffered>();
+    if (shown.empty())
+        return true;
+    if (!IsAccepted(NotOfferedQuestion(shown, *start_.texts)))
+        return false;
+    ReplaceNotOffered(paneArea_->host());
+    storeInTickets();
+    return true;
+}
+
+// The same of choices that no panel shows: from saved settings, another printer or -o. Those that switch something off
+// are no loss, nor is what panels write whether the printer has it or not.
+bool PrintDialog::settleUnknown()
+{
+    const QString& ppd = printer_->ppd.path;
+    JobOptions& options = start_.request.presets.options;
+    Dictionary& choices = tickets_.printSettings.ppdDict();
+    Dictionary typed; // of the printer's options, but not with its choices
+    for (const JobOption& option : options) {
+        if (facts_.choices.contains(option.name) && !IsTaken(option, facts_))
+            typed.set(option.name, option.value);
+    }
+    const QStringList unknown = FindConflicts(ppd, choices).unknown;
+    const QStringList unknownTyped = FindConflicts(ppd, typed).unknown;
+    QStringList named = unknown;
+    named.removeIf([&](const QString& fault) {
+        const QString keyword = fault.section(u'=', 0, 0);
+        const QString* choice = choices.string(keyword);
+        return !foreign_.contains(keyword) || (choice && IsOffChoice(choice->toUtf8().constData()));
+    });
+    named += unknownTyped;
+    if (!named.isEmpty() && !IsAccepted(LeaveOutQuestion(named, *start_.texts)))
+        return false;
+    for (const QString& fault : unknown)
+        choices.remove(fault.section(u'=', 0, 0));
+    for (const QString& fault : unknownTyped)
+        std::erase_if(options, [&](const JobOption& option) { return option.name == fault.section(u'=', 0, 0); });
+    return true;
 }
 
 // False: the user goes back to the dialog.
@@ -109,13 +117,9 @@ bool PrintDialog::settleConflicts()
 {
     Dictionary& choices = tickets_.printSettings.ppdDict();
     const ConflictReport report = FindConflicts(printer_->ppd.path, choices);
-    for (const QString& unknown : report.unknown) // of another printer that was chosen before
-        choices.remove(unknown.section(u'=', 0, 0));
     if (report.conflicts.empty())
         return true;
-    const Alert question = ConflictQuestion(report, *start_.texts);
-    const bool accepted = GetNotices().ask(question) == kAccept && question.buttons.size() > 1;
-    if (!accepted)
+    if (!IsAccepted(ConflictQuestion(report, *start_.texts)))
         return false;
     choices = ApplyChanges(report, choices);
     if (pane_) { // the panels keep each option under a key of their own too
@@ -128,11 +132,10 @@ bool PrintDialog::settleConflicts()
 
 bool PrintDialog::saveSettingsTo(const QString& path)
 {
-    const std::optional<FileError> error = WriteFile(path, WriteSavedSettings(tickets_), FileAccess::OwnerOnly);
-    if (!error)
-        return true;
-    failed(Verbatim(error->text), LocalizedString(*start_.texts, "Saving Failed Title"));
-    return false;
+    const std::optional<Message> problem = SaveSettings(path, tickets_);
+    if (problem)
+        failed(*problem, LocalizedString(*start_.texts, "Saving Failed Title"));
+    return !problem;
 }
 
 std::optional<QString> PrintDialog::askForFile()
@@ -193,7 +196,7 @@ std::optional<AcceptedJob> PrintDialog::composeJob()
                                       .pageRanges = settings.pageRanges,
                                       .orientation = settings.orientation,
                                       .pagesPerSheet = settings.pagesPerSheet},
-                           .ticket = tickets_.printSettings.values(),
+                           .ticket = setAside_ ? Dictionary() : tickets_.printSettings.values(),
                            .reader = ticketReader()});
     if (!composed.problem.isEmpty()) {
         failedToPrint(composed.problem);
@@ -227,7 +230,9 @@ void PrintDialog::sent(const SubmissionResult& result)
         close(DialogEnd::Accepted);
         return;
     }
-    openPane(); // everything stays as it was set, to try again
+    JobTickets chosen; // everything stays as it was set, to try again
+    CopyTickets(setAside_ ? *setAside_ : tickets_, chosen);
+    openPane(chosen);
     if (result.cancelled)
         GetNotices().show(
             {.title = LocalizedString(texts, "Sending Stopped Title"), .message = Sentence(result.message, texts)});

@@ -1,9 +1,9 @@
 #include "host/dialog/PrintDialog.h"
 
-#include "host/commandline/DialogOptions.h"
 #include "host/dialog/DialogButtons.h"
 #include "host/dialog/DialogSummary.h"
 #include "host/dialog/PrintDialogControls.h"
+#include "host/job/SettingsMerge.h"
 #include "host/job/TicketTransport.h"
 #include "platform/plugins/Bundle.h"
 #include "platform/values/PropertyList.h"
@@ -54,6 +54,7 @@ PrintDialog::PrintDialog(DialogStart start)
                .word = [this](const PaneMessage& message) { paneArea_->showMessage(message); },
                .found = [this](const DialogPrinter& printer) { usePrinter(printer); }})
 {
+    untaken_ = start_.request.presets.options;
     AddToSession(tickets_, session_);
     session_.canCarry = [](const Dictionary& printSettings) {
         return !EncodeTicket(WritePropertyList(printSettings)).options.empty();

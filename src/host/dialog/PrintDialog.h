@@ -6,8 +6,8 @@
 #include "host/dialog/PaneArea.h"
 #include "host/dialog/PrinterFinder.h"
 #include "host/job/JobRequest.h"
+#include "host/job/PrinterFacts.h"
 #include "host/pane/Pane.h"
-#include "host/ppd/PPDFacts.h"
 #include "host/script/ScriptPlayer.h"
 #include "host/server/Submission.h"
 #include "platform/printsystem/JobSettings.h"
@@ -74,8 +74,10 @@ private:
     void fillPrinterChoice();
     void usePrinter(const DialogPrinter& printer);
     void choosePrinter(int position);
-    void presetFromPrinter();
-    void openPane();
+    void mergeSettings();
+    void leavePrinter();
+    void setAside(const JobTickets& chosen);
+    void openPane(const JobTickets& chosen); // or says why there is none
     void recallPanel();
     void rememberDialog() const;
     void closePane(); // what the pane shows goes to the tickets first
@@ -85,7 +87,10 @@ private:
     // DialogPrinting.cpp: what Print and Save Settings do
     EventResult print();
     bool acceptQueue() const;
+    bool acceptPlainPrinting() const;
     void storeInTickets();
+    bool settleNotOffered();
+    bool settleUnknown();
     bool settleConflicts();
     bool saveSettingsTo(const QString& path);
     void saveSettings();
@@ -109,7 +114,13 @@ private:
     EventHandler handler_;          // before the pane's, which come first
     PrinterFinder finder_;
     std::optional<DialogPrinter> printer_;
-    PPDFacts facts_; // of the printer
+    PrinterFacts facts_;  // of the printer
+    Dictionary own_;      // what the settings got from the printer alone
+    QStringList foreign_; // options that the settings say what the printer does not offer about
+    JobOptions untaken_;  // of -o: those that no pane has shown yet
+    // What the user chose for printers with the pane, while another one gets only what the window shows.
+    std::optional<JobTickets> setAside_;
+    bool hasMore_ = false; // set aside than the window shows
     DialogMemory memory_;
     std::optional<Pane> pane_;
     OSStatus paneStatus_ = noErr; // of the last attempt to open one

@@ -116,4 +116,12 @@ QString PrinterTitle(const Queue& queue, const Bundle& texts)
     return LocalizedString(texts, "Printer With Place").arg(name, queue.location);
 }
 
+QString PrinterInList(const Queue& queue, const Bundle& texts)
+{
+    const QString title = PrinterTitle(queue, texts);
+    if (!queue.isAccepting)
+        return FormatText(LocalizedString(texts, "Printer Not Accepting"), {title});
+    return queue.isStopped ? FormatText(LocalizedString(texts, "Printer Paused"), {title}) : title;
+}
+
 } // namespace kesta::host

@@ -38,8 +38,9 @@ public:
     void choose(int position); // in queues(), from 1
 
     const std::vector<Queue>& queues() const { return list_.queues; }
-    int position() const;                 // of the chosen printer in queues(), from 1; 0 while there is none
-    bool isBusy() const { return busy_; } // about the wanted printer
+    int position() const;                           // of the chosen printer in queues(), from 1; 0 while there is none
+    const QString& asked() const { return asked_; } // the wanted printer as it was named; empty: the default one
+    bool isBusy() const { return busy_; }           // about the wanted printer
     bool isListing() const { return listTask_.has_value() && !hasList_; } // the others are not known yet
 
 private:
@@ -63,6 +64,9 @@ private:
     std::optional<BackgroundTask> findTask_;
     std::optional<BackgroundTask> ppdTask_;
 };
+
+// The same with what keeps it from printing, as it stands in the list.
+QString PrinterInList(const Queue& queue, const Bundle& texts);
 
 // As a person picks it: the printer's description, with its place unless the description says it already.
 QString PrinterTitle(const Queue& queue, const Bundle& texts);

@@ -94,11 +94,4 @@ void WriteInitialDuplexing(SInt32 duplexing, Ticket& printSettings)
         SetNumber(printSettings, key::PMDuplexing, duplexing);
 }
 
-SInt32 DuplexingOfChoice(QAnyStringView choice)
-{
-    if (QAnyStringView::equal(choice, "DuplexNoTumble"))
-        return 2;
-    return QAnyStringView::equal(choice, "DuplexTumble") ? 3 : 1;
-}
-
 } // namespace kesta::host

@@ -46,7 +46,4 @@ std::optional<PaperRect> ReadPaperRect(const Ticket& pageFormat);
 // How sides are printed unless a panel says otherwise: 1 one-sided, 2 and 3 two-sided. What stands in the ticket stays.
 void WriteInitialDuplexing(SInt32 duplexing, Ticket& printSettings);
 
-// The duplexing that a choice of the printer's option "Duplex" stands for.
-SInt32 DuplexingOfChoice(QAnyStringView choice);
-
 } // namespace kesta::host

@@ -1,6 +1,7 @@
 #include "host/job/JobComposition.h"
 
 #include "host/job/SealedTicket.h"
+#include "host/job/TwoSided.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +36,8 @@ std::optional<Message> AddChecked(JobOptions& options, const JobOption& option)
 
 std::optional<Message> AddAll(JobOptions& options, const JobOptions& more)
 {
+    if (DuplexingOf(more)) // in whatever word; an earlier source may have the other one
+        RemoveJobOption(options, kDuplexOption);
     for (const JobOption& option : more) {
         if (auto fault = AddChecked(options, option))
             return fault;
@@ -81,6 +84,7 @@ ComposedOptions ComposeJobOptions(const JobSources& sources)
         fault = AddAll(composed.options, sources.commandLine);
     if (fault)
         return {{}, *fault};
+    AlignSides(composed.options);
     AddFields(composed.options, sources.fields);
     if (const auto problem = TicketReaderProblem(sources.reader))
         return {{}, *problem};

@@ -5,9 +5,14 @@
 
 namespace kesta::host {
 
-QByteArray WriteSavedSettings(const JobTickets& tickets)
+std::optional<Message> SaveSettings(const QString& path, const JobTickets& tickets)
 {
-    return WriteJobSettings(tickets, kJobSecrets);
+    const QByteArray bytes = WriteJobSettings(tickets, kJobSecrets);
+    JobTickets readBack;
+    if (const std::optional<Message> problem = ReadJobSettings(bytes, readBack))
+        return Say("Settings Too Large To Save", path, *problem);
+    const std::optional<FileError> error = WriteFile(path, bytes, FileAccess::OwnerOnly);
+    return error ? std::optional(Verbatim(error->text)) : std::nullopt;
 }
 
 std::optional<Message> ReadSavedSettings(const QString& path, JobTickets& tickets)

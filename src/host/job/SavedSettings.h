@@ -4,8 +4,9 @@
 
 namespace kesta::host {
 
-// The job settings as a file that the user keeps: all of them but kJobSecrets.
-QByteArray WriteSavedSettings(const JobTickets& tickets);
+// Saves the job settings as a file that the user keeps and nobody else can read: all of them but kJobSecrets. Nothing
+// on success; otherwise why they are not saved, what could not be read again included, and the file is as it was.
+std::optional<Message> SaveSettings(const QString& path, const JobTickets& tickets);
 
 // The file's settings replace everything in the tickets; nothing on success. Otherwise what names the file and says
 // what is wrong with it, and the tickets are as they were.

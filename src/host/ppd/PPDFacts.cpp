@@ -10,13 +10,14 @@ QString Text(const char* utf8)
     return QString::fromUtf8(utf8); // libcups turns texts into UTF-8; null is an empty text
 }
 
-void AddChoices(const ppd_group_t& group, PPDFacts& facts)
+void AddChoices(const ppd_group_t& group, PrinterFacts& facts)
 {
     for (int i = 0; i < group.num_options; ++i) {
         const ppd_option_t& option = group.options[i];
         std::set<QString>& choices = facts.choices[Text(option.keyword)];
         for (int j = 0; j < option.num_choices; ++j)
             choices.insert(Text(option.choices[j].choice));
+        facts.defaults[Text(option.keyword)] = Text(option.defchoice);
     }
     for (int i = 0; i < group.num_subgroups; ++i)
         AddChoices(group.subgroups[i], facts);
@@ -48,26 +49,23 @@ TicketReader ReaderOf(ppd_file_t& ppd)
 
 } // namespace
 
-bool PPDFacts::offers(const QString& keyword, const QString& choice) const
-{
-    const auto option = choices.find(keyword);
-    return option != choices.end() && option->second.contains(choice);
-}
-
-PPDFacts ReadPPDFacts(const QString& ppdPath, const Dictionary& chosen)
+PrinterFacts ReadPPDFacts(const QString& ppdPath)
 {
     const auto [ppd, problem] = OpenPPDFile(ppdPath);
     if (!ppd)
         return {.ticketReader = {.problem = problem}, .problem = problem};
-    PPDFacts facts{.name = Text(ppd->nickname ? ppd->nickname : ppd->modelname),
-                   .manufacturer = Text(ppd->manufacturer),
-                   .paper = PaperOf(*ppd, chosen),
-                   .ticketReader = ReaderOf(*ppd)};
+    PrinterFacts facts{.name = Text(ppd->nickname ? ppd->nickname : ppd->modelname),
+                       .manufacturer = Text(ppd->manufacturer),
+                       .ticketReader = ReaderOf(*ppd)};
     for (int i = 0; i < ppd->num_groups; ++i)
         AddChoices(ppd->groups[i], facts);
-    if (const ppd_option_t* duplex = ppdFindOption(ppd.get(), "Duplex"))
-        facts.duplexChoice = Text(duplex->defchoice);
     return facts;
+}
+
+std::optional<PaperRect> ReadPaper(const QString& ppdPath, const Dictionary& choices)
+{
+    const PPDFile file = OpenPPDFile(ppdPath);
+    return file.ppd ? PaperOf(*file.ppd, choices) : std::nullopt;
 }
 
 } // namespace kesta::host

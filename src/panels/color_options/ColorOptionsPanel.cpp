@@ -4,7 +4,9 @@
 #include "panels/color_options/SwatchStrip.h"
 #include "pde/forms/CustomValueDialog.h"
 #include "pde/forms/FormPanel.h"
+#include "pde/interface/SummaryPlaces.h"
 #include "toolkit/windows/ModalLoop.h"
+#include "toolkit/windows/WindowSummary.h"
 
 #include <algorithm>
 
@@ -36,6 +38,10 @@ void ShowNamesAndState(const _ColorOptionsPanelContext& panel)
     SetControlEnabled(Find(panel, kResetButton), HasAdjustments(panel.options));
     if (QWidget* strip = Find(panel, kAfterStrip))
         strip->update();
+    const bool isPlain = record == FullColorOptions();
+    if (QWidget* view = panel.view)
+        SetSummaryPhrases(*view, SummaryPlace::Colors,
+                          isPlain ? QStringList() : QStringList(LocalizedString(*panel.bundle, "Colors In Summary")));
 }
 
 // The dialog for a typed value is the one of the plug-in that shows this panel.

@@ -2,7 +2,9 @@
 
 #include "panels/image_options/ImageOptions.h"
 #include "pde/forms/FormPanel.h"
+#include "pde/interface/SummaryPlaces.h"
 #include "toolkit/controls/PictureView.h"
+#include "toolkit/windows/WindowSummary.h"
 
 #include <QAbstractButton>
 
@@ -23,13 +25,33 @@ void ShowPictures(const _ImageOptionsContext& panel)
     ShowPicture(panel, kInvertIllustration, InvertIllustration(panel.options.invert));
 }
 
+// The window's summary leaves out what a job without settings would have.
+void AppearInSummary(_ImageOptionsContext& panel)
+{
+    ImageOptions plain;
+    ReadQuality(plain, Ticket(), panel.ppd);
+    ShowInSummary(FindPopupButton(panel.pane, {kSignature, kQualityPopup}), SummaryPlace::Quality, plain.quality,
+                  LocalizedString(*panel.bundle, "Image Quality In Summary"));
+}
+
+void ShowState(const _ImageOptionsContext& panel)
+{
+    ShowPictures(panel);
+    const bool isMirrored = panel.options.invert.mirrorImage;
+    if (QWidget* view = panel.view)
+        SetSummaryPhrases(*view, SummaryPlace::Other,
+                          isMirrored ? QStringList(LocalizedString(*panel.bundle, "Mirrored In Summary"))
+                                     : QStringList());
+}
+
 constexpr FormPanel<ImageOptions> kPanel{
     .title = "ImageOptions",
     .interfaceFile = "ImageOptionsPanel",
     .window = "Panel",
     .signature = kSignature,
     .bindings = kBindings,
-    .Show = ShowPictures,
+    .Opened = AppearInSummary,
+    .Show = ShowState,
 };
 using Form = FormSlots<kPanel>;
 

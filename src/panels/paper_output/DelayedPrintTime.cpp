@@ -1,6 +1,10 @@
 #include "panels/paper_output/DelayedPrintTime.h"
 
+#include "pde/ticket/LocalizedText.h"
 #include "platform/system/Clock.h"
+
+#include <QLocale>
+#include <QTime>
 
 namespace kesta {
 namespace {
@@ -27,6 +31,18 @@ SInt64 NextMomentAt(int timeOfDay, const Clock& clock)
     const SInt64 now = WallClock(clock);
     const SInt64 today = now - TimeOfDay(now) + timeOfDay;
     return today < now ? today + kSecondsADay : today;
+}
+
+QString DelayText(const Bundle& bundle, SInt64 moment, const Clock& clock)
+{
+    const int timeOfDay = TimeOfDay(moment);
+    const bool isToday = NextMomentAt(timeOfDay, clock) - WallClock(clock) < kSecondsADay - TimeOfDay(WallClock(clock));
+    const QTime time = QTime::fromMSecsSinceStartOfDay(timeOfDay * 1000);
+    QString format = QLocale().timeFormat(QLocale::ShortFormat);
+    if (time.second() == 0)
+        format.remove(QStringLiteral(":ss"));
+    return LocalizedFormat(bundle, isToday ? "Delayed Today In Summary" : "Delayed Tomorrow In Summary",
+                           {QLocale().toString(time, format)});
 }
 
 } // namespace kesta

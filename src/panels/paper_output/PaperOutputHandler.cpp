@@ -98,6 +98,7 @@ EventResult pdeShellPaperOutputEventHandler(_PaperOutputContext& panel, const Hi
         break;
     case kJobTypeSetupButton:
         SetUpJobType(panel);
+        EnableDisableJobTypeSetupButton(panel); // the summary says what was set up
         break;
     case kEndBookletButton:
         StopBooklet(panel);

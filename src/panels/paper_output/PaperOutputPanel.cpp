@@ -22,6 +22,7 @@ JobTypeCheck CheckOf(const _PaperOutputContext& panel)
                     const std::optional<QString>& passcode = panel.options.jobType.securePasscode;
                     return passcode && !passcode->isEmpty();
                 },
+            .setupButton = [&panel] { return FindHere(panel, kJobTypeSetupButton); },
             .hasFaxRecipients =
                 [&panel] { return panel.options.recipientList && panel.options.recipientList->count() > 0; },
             .runFaxSetup =

@@ -1,5 +1,6 @@
 #include "panels/paper_output/PaperOutputView.h"
 
+#include "panels/paper_output/DelayedPrintTime.h"
 #include "panels/paper_output/FinishingRules.h"
 #include "panels/paper_output/FinishingSummary.h"
 #include "panels/paper_output/PaperOutputPictures.h"
@@ -7,6 +8,7 @@
 #include "pde/interface/SummaryPlaces.h"
 #include "pde/menus/MenuUtilities.h"
 #include "platform/plugins/Bundle.h"
+#include "platform/system/Clock.h"
 #include "printer/InstallableOptions.h"
 #include "toolkit/controls/MenuButton.h"
 #include "toolkit/controls/PictureView.h"
@@ -133,13 +135,25 @@ void AppearInSummary(const _PaperOutputContext& panel)
 {
     PaperOutputOptions plain;
     ReadTicket(plain, Ticket(), panel.ppd);
-    ShowInSummary(Popup(panel, kJobTypePopup), SummaryPlace::JobType, plain.jobType.number);
     ShowInSummary(FindHere(panel, kPaperSummary), SummaryPlace::Paper, PaperSummary(*panel.bundle, panel.ppd, plain));
     ShowInSummary(Popup(panel, kTwoSidedPopup), SummaryPlace::Sides, plain.duplex);
     ShowInSummary(Popup(panel, kStaplePopup), SummaryPlace::Finishing, plain.staple);
     ShowInSummary(Popup(panel, kPunchPopup), SummaryPlace::Finishing, plain.punch);
     ShowInSummary(FindHere(panel, kFinishingSummary), SummaryPlace::Finishing,
                   CreateFinishingString(*panel.bundle, plain, panel.rows));
+    ShowInSummary(Popup(panel, kQualityPopup), SummaryPlace::Quality, plain.printQuality,
+                  LocalizedString(*panel.bundle, "Quality In Summary"));
+    ShowInSummary(Popup(panel, kDestinationPopup), SummaryPlace::Output, plain.outputBin,
+                  LocalizedString(*panel.bundle, "Destination In Summary"));
+}
+
+// A delayed job says until when; the others are called as in their menu.
+void DescribeJobType(const _PaperOutputContext& panel)
+{
+    const JobType& job = panel.options.jobType;
+    const bool isDelayed = job.number == kJobTypeDelayedPrint;
+    ShowInSummary(Popup(panel, kJobTypePopup), SummaryPlace::JobType, kJobTypeNormal,
+                  isDelayed ? DelayText(*panel.bundle, job.delayedPrintTime, GetClock()) : QStringLiteral("%1"));
 }
 
 // Its number and signature as a control among them, its lines, and its place in the window's summary.
@@ -291,6 +305,7 @@ void ShowTwoSided(const _PaperOutputContext& panel)
 
 bool EnableDisableJobTypeSetupButton(const _PaperOutputContext& panel)
 {
+    DescribeJobType(panel);
     const bool isFax = panel.options.jobType.number == kJobTypeFax;
     const bool enabled = JobTypeNeedsSetup(panel.options.jobType.number) && !isFax;
     if (QWidget* button = FindHere(panel, kJobTypeSetupButton)) {

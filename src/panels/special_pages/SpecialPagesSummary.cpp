@@ -59,12 +59,6 @@ MaybeText NamePart(const Bundle& bundle, const Stock& stock)
                            {LocalizedString(bundle, "Paper Name Label"), stock.customName()});
 }
 
-// One or several in words that differ.
-QString Counted(const Bundle& bundle, std::size_t count, const char* oneKey, const char* severalKey)
-{
-    return count == 1 ? LocalizedString(bundle, oneKey) : LocalizedFormat(bundle, severalKey, {QString::number(count)});
-}
-
 } // namespace
 
 QString CopySpecialPageSummary(const Bundle& bundle, const SpecialPage& page, const Ticket* settings)
@@ -162,10 +156,10 @@ QStringList PageTexts::phrases() const
                                             : !set_.frontCover ? "Back Cover Summary"
                                                                : "Both Covers Summary");
     if (const std::size_t inserts = set_.inserts.count())
-        phrases << Counted(bundle_, inserts, "One Insert Summary", "Inserts Summary");
+        phrases << LocalizedCount(bundle_, "Inserts Summary", static_cast<int>(inserts));
     const std::size_t exceptions = set_.exceptions.count();
     if (exceptions > kNamedExceptions)
-        return phrases << LocalizedFormat(bundle_, "Exceptions Summary", {QString::number(exceptions)});
+        return phrases << LocalizedCount(bundle_, "Exceptions Summary", static_cast<int>(exceptions));
     for (const SpecialPage* page : set_.exceptions.pages())
         phrases << exceptionPhrase(static_cast<const ExceptionPage&>(*page));
     return phrases;

@@ -4,6 +4,8 @@
 
 #include <functional>
 
+class QWidget;
+
 namespace kesta {
 
 struct Bundle;
@@ -13,6 +15,7 @@ struct Bundle;
 struct JobTypeCheck {
     std::function<SInt32()> jobType = {};
     std::function<bool()> hasPasscode = {};              // asked for secure jobs
+    std::function<QWidget*()> setupButton = {};          // of the job type; null while the panel has no window
     std::function<bool()> hasFaxRecipients = {};         // asked for faxes
     std::function<void(const Bundle&)> runFaxSetup = {}; // lets the user name recipients, modally
 };

@@ -11,6 +11,10 @@ struct SummaryPlace {
     static constexpr SInt32 Sides = 3;
     static constexpr SInt32 Finishing = 4;
     static constexpr SInt32 OtherPages = 5;
+    static constexpr SInt32 Quality = 6;
+    static constexpr SInt32 Colors = 7;
+    static constexpr SInt32 Output = 8; // where the sheets come out, and how
+    static constexpr SInt32 Other = 9;
 };
 
 } // namespace kesta

@@ -1,7 +1,7 @@
 #include "pde/shell/PDEShell.h"
 
-#include "model/JobType.h"
 #include "pde/interface/JobTypeCheck.h"
+#include "pde/interface/TicketKeys.h"
 #include "pde/menus/BundleUtilities.h"
 #include "pde/menus/SystemUtilities.h"
 #include "pde/ticket/LocalizedText.h"
@@ -18,6 +18,13 @@ constexpr int kMostPasscodeDigits = 10;
 
 enum class Step : SInt32 { Previous = -1, Next = 1 };
 
+void SelectAndShow(SInt32 index, PDEShellContext& shell)
+{
+    selectPanel(index, shell);
+    if (PopupButton* choice = FindPopupButton(shell.parentPane, {kSignature, kPanelChoice}))
+        choice->setValue(index);
+}
+
 void SelectAndShowInChoice(Step step, PDEShellContext& shell)
 {
     const auto count = static_cast<SInt32>(shell.panels.size());
@@ -26,9 +33,24 @@ void SelectAndShowInChoice(Step step, PDEShellContext& shell)
         index = 1;
     else if (index < 1)
         index = count;
-    selectPanel(index, shell);
-    if (PopupButton* choice = FindPopupButton(shell.parentPane, {kSignature, kPanelChoice}))
-        choice->setValue(index);
+    SelectAndShow(index, shell);
+}
+
+// Where the user mends what OK was refused for: the panel comes to the front, the keyboard to its button.
+void ShowJobTypeSetup(PDEShellContext& shell)
+{
+    const JobTypeCheck* check = GetJobTypeCheck();
+    QWidget* button = check && check->setupButton ? check->setupButton() : nullptr;
+    if (!button)
+        return;
+    for (const PanelRecord& panel : shell.panels) {
+        if (panel.userPane && panel.userPane->isAncestorOf(button) && panel.index != GetShownPanel()._lastTabIndex)
+            SelectAndShow(panel.index, shell);
+    }
+    if (!button->isEnabled()) // a fax has no setup to go to
+        return;
+    button->setFocus(Qt::TabFocusReason);
+    button->window()->setAttribute(Qt::WA_KeyboardFocusChange); // with its ring
 }
 
 EventResult HandleHit(PDEShellContext& shell, const HitEvent& hit)
@@ -64,8 +86,12 @@ EventResult HandleCommand(PDEShellContext& shell, FourCharCode command)
     case kCommandPanelDown:
         SelectAndShowInChoice(Step::Previous, shell);
         return EventResult::NotHandled;
-    case kCommandOK:
-        return CheckJobType(*shell.bundle);
+    case kCommandOK: {
+        const EventResult result = CheckJobType(*shell.bundle);
+        if (result != EventResult::NotHandled)
+            ShowJobTypeSetup(shell);
+        return result;
+    }
     default:
         return EventResult::NotHandled;
     }

@@ -1,6 +1,5 @@
 #include "pde/shell/PDEShell.h"
 
-#include "model/JobType.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"
 #include "platform/system/SystemConfiguration.h"
@@ -55,10 +54,43 @@ OSStatus WriteJobWideKeys(Ticket& settings)
     ticket.set(key::ControllerVersion, "5.0");
     const OSStatus status = WriteClientInformation(ticket);
 
-    const Dictionary* jobType = settings.values().dictionary(key::JobType);
-    if (jobType && CFDictionaryGetNumber<SInt32>(*jobType, key::JobTypeNumber) == kJobTypeFax)
-        PPDSetCurrentChoice(settings, "KSTColor", "BW"); // a fax has no colours
     return status;
+}
+
+constexpr QLatin1StringView kColorOption("KSTColor");
+constexpr char kFaxColor[] = "BW"; // a fax has no colours
+
+bool IsFax(const Ticket& settings)
+{
+    const Dictionary* jobType = settings.values().dictionary(key::JobType);
+    return jobType && CFDictionaryGetNumber<SInt32>(*jobType, key::JobTypeNumber) == kJobTypeFax;
+}
+
+// Settings that begin as a fax have their colour from a shell, too: what was chosen before is not known.
+void RecallFaxColor(PrintSession& session, const Ticket& settings)
+{
+    if (!IsFax(settings))
+        session.replacedChoices.erase(kColorOption);
+    else if (PPDCopyCurrentChoice(settings, kColorOption) == QLatin1StringView(kFaxColor))
+        session.replacedChoices.try_emplace(kColorOption);
+}
+
+// What the user chose is there again as soon as the job is no fax.
+void WriteFaxColor(PrintSession& session, Ticket& settings)
+{
+    if (IsFax(settings)) {
+        session.replacedChoices.try_emplace(kColorOption,
+                                            PPDCopyCurrentChoice(settings, kColorOption).value_or(QString()));
+        PPDSetCurrentChoice(settings, kColorOption, kFaxColor);
+        return;
+    }
+    const auto replaced = session.replacedChoices.extract(kColorOption);
+    if (replaced.empty())
+        return;
+    if (replaced.mapped().isEmpty())
+        settings.ppdDict().remove(kColorOption);
+    else
+        settings.ppdDict().set(kColorOption, replaced.mapped());
 }
 
 } // namespace
@@ -77,11 +109,16 @@ OSStatus Sync(PDEShellContext& shell, PrintSession& session, SyncDirection direc
         if (panel.index == shown)
             panelStatus = panel.interface.Sync(panel.context, &session, toControls);
     }
-    if (toControls)
-        return panelStatus;
-
     const auto [settings, status] = GetTicketFromSession(session, kPMPrintSettingsTicket);
-    return settings ? WriteJobWideKeys(*settings) : status;
+    if (toControls) {
+        if (settings)
+            RecallFaxColor(session, *settings);
+        return panelStatus;
+    }
+    if (!settings)
+        return status;
+    WriteFaxColor(session, *settings);
+    return WriteJobWideKeys(*settings);
 }
 
 } // namespace kesta::shell

@@ -29,6 +29,9 @@ struct PrintSession {
     std::map<QString, std::uint32_t> data = {};
     std::optional<PMPrinter> printer = {};
     std::function<bool(const Dictionary& printSettings)> canCarry = {}; // null: whatever there is
+    // Choices that the plug-in has set in the place of the user's for as long as the job is of some kind: option
+    // keyword to what was chosen before; "" for nothing. Here, because they outlive a pane when the printer changes.
+    std::map<QString, QString> replacedChoices = {};
 };
 
 void PMSessionSetDataInSession(PrintSession& session, QAnyStringView name, std::uint32_t value);

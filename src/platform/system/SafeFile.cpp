@@ -295,7 +295,7 @@ FileContent ReadFile(const QString& path, qsizetype limit)
     QByteArray bytes;
     const int code = file.open(path, O_RDONLY) ? ReadUpTo(file, limit, bytes) : errno;
     if (code == EFBIG)
-        return {std::nullopt, {code, QStringLiteral("%1: larger than %2 bytes").arg(path).arg(limit)}};
+        return {std::nullopt, {code, QStringLiteral("%1: larger than %2 bytes").arg(path, QString::number(limit))}};
     if (code != 0)
         return {std::nullopt, ErrorOf(path, code)};
     return {std::move(bytes)};

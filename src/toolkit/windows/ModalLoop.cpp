@@ -92,7 +92,7 @@ ModalResult RunModalLoop(QWidget& window)
     Loop loop{.window = &window};
     QObject::connect(&loop.idle, &QTimer::timeout, [&loop] { ActWhenIdle(loop); });
     QObject::connect(&window, &QObject::destroyed, &loop.events, &QEventLoop::quit);
-    const QWidget* before = FrontWindow();
+    const QPointer<QWidget> before = FrontWindow();
     State().loops.push_back(&loop);
 
     WindowEvents windowEvents;
@@ -104,6 +104,8 @@ ModalResult RunModalLoop(QWidget& window)
     std::erase(State().loops, &loop);
     if (loop.window)
         loop.window->hide();
+    if (before && before->isVisible()) // not every window system sees to it
+        before->activateWindow();
     return loop.result;
 }
 

@@ -1,5 +1,6 @@
 #include "toolkit/windows/WindowSummary.h"
 
+#include "platform/plugins/Sentence.h"
 #include "toolkit/controls/Controls.h"
 #include "toolkit/controls/PopupButton.h"
 #include "toolkit/controls/SummaryTextView.h"
@@ -16,6 +17,7 @@ namespace {
 
 constexpr char kPlace[] = "summaryPlace";
 constexpr char kDefault[] = "summaryDefault";
+constexpr char kSentence[] = "summarySentence"; // about a pop-up's item
 constexpr char kPhrases[] = "summaryPhrases";
 
 void Mark(QWidget* control, SInt32 place, const QVariant& shownByDefault)
@@ -34,9 +36,12 @@ bool IsHiddenItself(const QWidget& control)
 QStringList FactsOf(const PopupButton& popup)
 {
     const MenuItem* item = popup.selectedItem();
-    if (item && item->notOffered)
-        return {WithCaution(item->title)};
-    return item && item->value != popup.property(kDefault).toInt() ? QStringList(item->title) : QStringList();
+    if (!item || (!item->notOffered && item->value == popup.property(kDefault).toInt()))
+        return {};
+    const QString sentence = popup.property(kSentence).toString();
+    const QString title = item->notOffered ? WithCaution(item->title) : item->title;
+    const bool isNamed = sentence.contains(u"%1"_s) || (!sentence.isEmpty() && !item->notOffered);
+    return {isNamed ? FormatText(sentence, {title}) : title};
 }
 
 QStringList FactsOf(const SummaryTextView& view)
@@ -57,6 +62,13 @@ void ShowInSummary(PopupButton* popup, SInt32 place, SInt32 defaultValue)
 void ShowInSummary(QWidget* summaryTextView, SInt32 place, const QString& defaultText)
 {
     Mark(summaryTextView, place, defaultText);
+}
+
+void ShowInSummary(PopupButton* popup, SInt32 place, SInt32 defaultValue, const QString& sentence)
+{
+    Mark(popup, place, defaultValue);
+    if (popup)
+        popup->setProperty(kSentence, sentence);
 }
 
 void SetSummaryPhrases(QWidget& control, SInt32 place, const QStringList& phrases)
@@ -99,10 +111,14 @@ void ReplaceNotOffered(QWidget& window)
 QStringList WindowSummary(const QWidget& window)
 {
     std::map<SInt32, QStringList> found, phrasesOf;
+    QStringList unplaced;
     for (const QWidget* control : window.findChildren<QWidget*>()) {
         const QVariant place = control->property(kPlace);
         const auto* menu = qobject_cast<const MenuControl*>(control);
-        if (!place.isValid() || (IsHiddenItself(*control) && !(menu && !menu->shownNotOffered().empty())))
+        const bool isNotOffered = menu && !menu->shownNotOffered().empty(); // told in any case
+        if (isNotOffered && !place.isValid())
+            unplaced << WithCaution(menu->shownNotOffered().front().title);
+        if (!place.isValid() || (IsHiddenItself(*control) && !isNotOffered))
             continue;
         if (const QVariant phrases = control->property(kPhrases); phrases.isValid())
             phrasesOf[place.toInt()] += phrases.toStringList();
@@ -118,7 +134,7 @@ QStringList WindowSummary(const QWidget& window)
     QStringList summary;
     for (const auto& [place, phrases] : phrasesOf)
         summary += phrases;
-    return summary;
+    return summary + unplaced;
 }
 
 } // namespace kesta

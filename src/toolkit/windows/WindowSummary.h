@@ -18,6 +18,10 @@ class PopupButton;
 void ShowInSummary(PopupButton* popup, SInt32 place, SInt32 defaultValue);
 void ShowInSummary(QWidget* summaryTextView, SInt32 place, const QString& defaultText);
 
+// Says it in a sentence, or words, that name what the item is about; the item's title stands in their place %1, if they
+// have one. May be called again with others.
+void ShowInSummary(PopupButton* popup, SInt32 place, SInt32 defaultValue, const QString& sentence);
+
 // From now on the summary has these phrases for the control, each by itself, until it is given others.
 void SetSummaryPhrases(QWidget& control, SInt32 place, const QStringList& phrases);
 

@@ -161,7 +161,7 @@ TEST_F(SpecialPagesTest, EditorsAndScreenReadersAreToldMore)
     addInserts({insert});
     set.backCover = MakeCover();
     EXPECT_EQ(PageTexts(bundle, set, &settings).phrases(),
-              (QStringList{u"Back Cover Summary"_s, u"One Insert Summary"_s,
+              (QStringList{u"Back Cover Summary"_s, u"Inserts Summary"_s,
                            u"Exception Range On Summary Page Range In List 3 7 yellow"_s}));
 }
 

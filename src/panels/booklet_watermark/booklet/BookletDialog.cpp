@@ -128,10 +128,19 @@ void SyncFromUI(const BookletWindow& dialog, Booklet& booklet)
     dialog.bound.takeAll(booklet);
 }
 
-void ShowIllustration(const BookletWindow& dialog, const Booklet& before)
+// Sheets can be folded, and stapled in the fold, without becoming a booklet: whoever expects one reads why.
+void ShowFoldHint(const BookletWindow& dialog, const Bundle& bundle, const Booklet& shown)
+{
+    const bool foldsOnly = !shown.isOn() && shown.fold != kNotFinished;
+    SetControlText(dialog.control(kFoldHint),
+                   foldsOnly ? LocalizedString(bundle, "Fold Without Layout Hint") : QString());
+}
+
+void ShowChoices(const BookletWindow& dialog, const Bundle& bundle, const Booklet& before)
 {
     Booklet shown = before;
     SyncFromUI(dialog, shown);
+    ShowFoldHint(dialog, bundle, shown);
     if (auto* picture = FindControlAs<PictureView>(&dialog.window, {kSignature, kIllustration}))
         picture->setPicture(QString::fromLatin1(BookletIllustration(shown)));
 }
@@ -146,10 +155,10 @@ OSStatus RunModalBookletDialog(const Bundle& bundle, Booklet& booklet, QAnyStrin
     BuildControls(dialog, bundle);
     SyncToUI(dialog, booklet);
     EnableControls(dialog);
-    ShowIllustration(dialog, booklet);
+    ShowChoices(dialog, bundle, booklet);
     const EventHandler handler = InstallEventHandler(*window, [&](const HitEvent&) {
         EnableControls(dialog);
-        ShowIllustration(dialog, booklet);
+        ShowChoices(dialog, bundle, booklet);
         return EventResult::NotHandled;
     });
     if (RunModalDialog(bundle, *window, {}) != ModalResult::OK)

@@ -40,6 +40,7 @@ enum Control : SInt32 {
     kCreepField = 14,
     kCreepRange = 15,
     kIllustration = 16,
+    kFoldHint = 17, // not in BookletOptions
 };
 
 } // namespace booklet
