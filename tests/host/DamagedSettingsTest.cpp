@@ -101,9 +101,9 @@ protected:
     }
 
     // Numbers that no control shows, or whose pop-up keeps its choice: they come out as they came in.
-    const QStringList carried =
-        Texts({key::AdvancedBookletLayoutOrder, key::BannerPage, key::FinishingBindValue, key::FinishingOffset,
-               key::FinishingOffsetEnableSubset, key::FinishingOptions, key::FinishingSlipSheet});
+    const QStringList carried = Texts({key::AdvancedBookletLayoutOrder, key::BannerPage, key::FinishingBindValue,
+                                       key::FinishingOffset, key::FinishingOffsetEnableSubset, key::FinishingOptions,
+                                       key::FinishingSlipSheet, key::PrintingOptimization});
     const QStringList keys = InSources(u"\"(com\\.[^\"]+)\""_s,
                                        {u"pde/interface/TicketKeys.h"_s, u"platform/printsystem/PrintSystemKeys.h"_s});
     const QStringList fields =

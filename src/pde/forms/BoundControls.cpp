@@ -18,6 +18,11 @@ bool HasItemsOfItsOwn(const BindingRule& rule)
 
 void ShowItem(const FormPlace& place, PopupButton& popup, const BindingRule& rule, SInt32 value)
 {
+    if (rule.byPosition) {
+        if (value >= 1 && value <= popup.menu().count())
+            popup.setValue(value);
+        return;
+    }
     if (rule.other) {
         BoundMenu made = MenuOfRule(place.bundle, rule, place.ppd, value);
         popup.setMenu(std::move(made.menu), made.maximum);

@@ -15,8 +15,8 @@ namespace kesta {
 // What the control offers, and where a job keeps the number. A part that is left out has no say.
 struct BindingRule {
     SettingMap map = {}; // a pop-up's items; without one the choices of the printer's option, or the panel's own
-    const char* other = nullptr; // key of a text with a number: titles one more item for a number that none stands for
-    bool byPosition = false;     // the chosen item's place counts, from 1, not what the item stands for
+    const char* other = nullptr; // key of a text, with a number or not: titles one more item for what none stands for
+    bool byPosition = false;     // the item's place counts, from 1, not what it stands for
     bool whenOpenedOnly = false; // shown when the window opens, not when tickets are read
     SInt32 on = 1;               // of a check box
     SInt32 off = 0;
