@@ -29,8 +29,8 @@ MenuAndPosition NameMenu(const Bundle& bundle, const NameSetting& setting, const
     menu.items.push_back({.title = LocalizedString(bundle, "PrinterDefault"), .value = kUnset});
     for (SInt32 kind = 1; kind < setting.namedKind; ++kind)
         menu.items.push_back(BuiltInProfile(bundle, kind));
-    if (profile.kind == setting.namedKind)
-        menu.items.push_back({.title = profile.name.value_or(QString()), .value = profile.kind});
+    if (profile.kind == setting.namedKind && profile.name)
+        menu.items.push_back({.title = *profile.name, .value = profile.kind});
     else if (PositionOf(menu, profile.kind) == 0)
         menu.items.push_back(BuiltInProfile(bundle, profile.kind));
     const char* ask = setting.control == kToneCurve ? "Named Curve..." : "Named Profile...";
