@@ -70,6 +70,11 @@ TEST(MediaLimits, ComeFromThePPD)
     EXPECT_NE(limits, without);
     EXPECT_LT(limits.minimumWidth, limits.maximumWidth);
     EXPECT_LT(limits.minimumHeight, limits.maximumHeight);
+
+    test::PPDVariant unlimited;
+    unlimited.replaceLines("*ParamCustomPageSize", {});
+    const test::CurrentPrinter other(unlimited);
+    EXPECT_EQ(GetMediaLimits(), without);
 }
 
 TEST(CreatePropertiesFromXMLFile, AnswersNothingOnAnyFailure)

@@ -28,7 +28,9 @@ struct ImageOptions {
 };
 
 inline constexpr auto kBindings = std::to_array<Binding<ImageOptions>>({
-    {kQualityPopup, kMember<&ImageOptions::quality>, {.option = PPDKeyword("JCLPrintQuality")}},
+    {kQualityPopup,
+     kMember<&ImageOptions::quality>,
+     {.other = "Other Quality", .option = PPDKeyword("JCLPrintQuality")}},
     {kMirrorCheckBox,
      {[](const ImageOptions& options) -> SInt32 { return options.invert.mirrorImage; },
       [](ImageOptions& options, SInt32 value) { options.invert.mirrorImage = value != 0; }}},
@@ -41,7 +43,8 @@ struct InvertControls {
     bool mirror = false;
 };
 
-// The PPD, which may be null, has the default of a quality that the ticket does not choose.
+// The PPD, which may be null, has the default of a quality that the ticket does not choose. What no choice stands for
+// is left as it is in the ticket.
 void ReadQuality(ImageOptions& options, const Ticket& settings, ppd_file_t* ppd);
 void WriteQuality(const ImageOptions& options, Ticket& settings);
 

@@ -32,7 +32,8 @@ BoundMenu MenuOfRule(const Bundle& bundle, const BindingRule& rule, ppd_file_t* 
         made.maximum = PopulateMenuFromMap(bundle, made.menu, rule.map, JobContext::Job);
     else if (rule.option)
         made.maximum = PPDPopulateMenuWithChoices(made.menu, ppd, *rule.option, kNoCommand, rule.conflicting);
-    if (rule.other && shown && !HasItem(made.menu, *shown)) {
+    const bool isWithoutOption = rule.option && made.menu.items.empty(); // there is nothing to choose then
+    if (rule.other && shown && !isWithoutOption && !HasItem(made.menu, *shown)) {
         made.menu.items.push_back(
             {.title = LocalizedFormat(bundle, rule.other, {QString::number(*shown)}), .value = *shown});
         ++made.maximum;
