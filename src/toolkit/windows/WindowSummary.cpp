@@ -35,6 +35,16 @@ QStringList FactsOf(const PopupButton& popup)
     return item && item->value != popup.property(kDefault).toInt() ? QStringList(item->title) : QStringList();
 }
 
+// A fact may be a name from a settings file.
+QString Cut(const QString& fact)
+{
+    constexpr qsizetype kLongestFact = 1000; // UTF-16 units
+    if (fact.size() <= kLongestFact)
+        return fact;
+    const bool splitsPair = fact[kLongestFact - 1].isHighSurrogate();
+    return fact.first(kLongestFact - (splitsPair ? 1 : 0)) + u'\u2026';
+}
+
 QStringList FactsOf(const SummaryTextView& view)
 {
     const QStringList byDefault = SummaryFacts(view.property(kDefault).toString());
@@ -67,7 +77,7 @@ QStringList SummaryFacts(const QString& summary)
     for (const QString& line : summary.split(u'\n')) {
         const QString fact = line.startsWith(u"- "_s) ? line.sliced(2).trimmed() : line.trimmed();
         if (!fact.isEmpty())
-            facts << fact;
+            facts << Cut(fact);
     }
     return facts;
 }
