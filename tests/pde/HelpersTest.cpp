@@ -5,6 +5,7 @@
 #include "printer/MediaLimits.h"
 #include "support/CurrentPrinter.h"
 #include "support/FakeSystem.h"
+#include "support/PPDVariant.h"
 #include "support/Recorders.h"
 #include "support/TestTexts.h"
 
