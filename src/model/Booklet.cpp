@@ -5,13 +5,6 @@
 namespace kesta {
 namespace {
 
-std::optional<SInt32> ReadForcedSize(const Dictionary& settings)
-{
-    const Dictionary* stock = settings.dictionary(key::JobLevelStock);
-    const bool isForced = settings.boolean(key::BookletForceNewSize).value_or(false);
-    return isForced && stock ? CFDictionaryGetNumber<SInt32>(*stock, "Size") : std::nullopt;
-}
-
 void WriteForcedSize(SInt32 size, const TicketWriter& settings)
 {
     const Ticket& ticket = settings;
@@ -29,6 +22,13 @@ void WriteForcedSize(SInt32 size, const TicketWriter& settings)
 
 } // namespace
 
+std::optional<SInt32> ReadForcedSize(const Ticket& settings)
+{
+    const Dictionary* stock = settings.values().dictionary(key::JobLevelStock);
+    const bool isForced = settings.values().boolean(key::BookletForceNewSize).value_or(false);
+    return isForced && stock ? CFDictionaryGetNumber<SInt32>(*stock, "Size") : std::nullopt;
+}
+
 void ReadBooklet(Booklet& booklet, const Ticket& settings)
 {
     const bool isOn = settings.values().boolean(key::BookletLayout).value_or(false);
@@ -37,7 +37,7 @@ void ReadBooklet(Booklet& booklet, const Ticket& settings)
         return;
     const Booklet plain;
     booklet.drawOutlines = ReadTicketValue(settings, key::BookletDrawOutlines).value_or(plain.drawOutlines);
-    booklet.newPaperSize = ReadForcedSize(settings.values()).value_or(plain.newPaperSize);
+    booklet.newPaperSize = ReadForcedSize(settings).value_or(plain.newPaperSize);
     booklet.gutter = ReadTicketValue(settings, key::Gutter).value_or(plain.gutter);
     booklet.creep = ReadTicketValue(settings, key::Creep).value_or(plain.creep);
 }

@@ -28,6 +28,9 @@ struct Booklet {
 // All but the fold, which is the PPD's. While the layout is off the ticket tells nothing else, and the rest stays.
 void ReadBooklet(Booklet& booklet, const Ticket& settings);
 
+// The stock size to which the pages are fitted; nothing while none is forced.
+std::optional<SInt32> ReadForcedSize(const Ticket& settings);
+
 // The new size becomes the one of the job's stock, where the ticket has a stock.
 void WriteBooklet(const Booklet& booklet, const TicketWriter& settings);
 

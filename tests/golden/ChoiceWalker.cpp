@@ -102,7 +102,7 @@ ChoiceEffect ChoiceWalker::start()
     return effect(std::move(shown_));
 }
 
-std::vector<WalkedChoice> ChoiceWalker::walk(const QString& panel)
+std::vector<WalkedChoice> ChoiceWalker::walk(const QString& panel, const std::function<void(const WalkedChoice&)>& then)
 {
     std::vector<WalkedChoice> choices;
     observe(dialog_.pane, panel);
@@ -110,6 +110,8 @@ std::vector<WalkedChoice> ChoiceWalker::walk(const QString& panel)
         const Trail trail = std::move(toRun_.front());
         toRun_.pop_front();
         choices.push_back(run(trail));
+        if (then && choices.back().isPossible)
+            then(choices.back());
         ++run_;
     }
     return choices;

@@ -39,7 +39,8 @@ public:
 
     ChoiceWalker(const PanelInterface& slots, KestaContextRef context, FakeDialog& dialog, Depth depth);
 
-    std::vector<WalkedChoice> walk(const QString& panel);
+    // The function is called after each, with the tickets and controls as it left them.
+    std::vector<WalkedChoice> walk(const QString& panel, const std::function<void(const WalkedChoice&)>& then = {});
 
     // What the panel writes and shows when nothing is chosen.
     ChoiceEffect start();

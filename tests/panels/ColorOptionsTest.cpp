@@ -165,6 +165,7 @@ protected:
     {
         bundle.strings.dictionary("Localizable")->set("Built-in Profile", "B%1");
         bundle.strings.dictionary("Localizable")->set("Other Value", "V%1");
+        bundle.strings.dictionary("Localizable")->set("Not On This Printer", "%1!");
     }
 };
 
@@ -176,7 +177,9 @@ TEST_F(ColorMenusTest, BuiltInProfilesAreThoseBelowTheNamedKind)
     EXPECT_EQ(names(kDestination), (QStringList{u"PrinterDefault"_s, u"B1"_s, u">Mine"_s, u"Named Profile..."_s}));
     record.setCMYKImagesProfile(9);
     EXPECT_EQ(names(kCMYKImages),
-              (QStringList{u"PrinterDefault"_s, u"B1"_s, u"B2"_s, u">B9"_s, u"Named Profile..."_s}));
+              (QStringList{u"PrinterDefault"_s, u"B1"_s, u"B2"_s, u">B9!"_s, u"Named Profile..."_s}));
+    record.fromTicket(Dictionary{{"RGBImagesProfile", Number::Index(kNamedRGBProfile)}});
+    EXPECT_EQ(names(kRGBImages)[5], u">B5!"_s) << "a number where a name belongs";
     EXPECT_EQ(names(kToneCurve), (QStringList{u">PrinterDefault"_s, u"Named Curve..."_s}));
 }
 
@@ -184,13 +187,17 @@ TEST_F(ColorMenusTest, AValueThatIsNoChoiceIsShownAsWhatItIs)
 {
     const auto titles = [this](Control control, SInt32 shown) {
         QStringList items;
-        for (const MenuItem& item : MenuOfRule(bundle, NumberOf(control).rule, nullptr, shown).menu.items)
+        const BindingRule& rule = NumberOf(control).rule;
+        const Menu menu = MenuOfRule(bundle, rule, nullptr).menu;
+        for (const MenuItem& item : menu.items)
             items << item.title;
+        if (const std::optional<MenuItem> other = ItemForOther(bundle, rule, nullptr, menu, shown, kUnset))
+            items << (other->notOffered ? other->title : QString());
         return items;
     };
     EXPECT_EQ(titles(kTrapping, kUnset), (QStringList{u"PrinterDefault"_s, u"Off"_s, u"On"_s}));
-    EXPECT_EQ(titles(kTrapping, -3).sliced(3), QStringList(u"V-3"_s));
-    EXPECT_EQ(titles(kTextRendering, 0).size(), 5);
+    EXPECT_EQ(titles(kTrapping, -3).sliced(3), QStringList(u"V-3!"_s));
+    EXPECT_EQ(titles(kTextRendering, kUnset).size(), 5);
 }
 
 TEST(ColorSwatches, WithoutAdjustmentsAColorStaysExactlyAsItIs)

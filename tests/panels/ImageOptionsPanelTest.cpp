@@ -64,7 +64,7 @@ TEST_F(ImageOptionsPanelTest, AnUnknownQualityIsShownAsSuchAndLeftAlone)
     ASSERT_EQ(sync(false), noErr);
     EXPECT_FALSE(ticket.values().find(key::ImageResolution));
     EXPECT_EQ(PPDCopyCurrentChoice(ticket, "JCLPrintQuality"), u"Fantastic"_s);
-    EXPECT_EQ(quality()->text(), u"Other Quality"_s);
+    EXPECT_EQ(quality()->text(), u"Not On This Printer Fantastic"_s);
     EXPECT_TRUE(test::Pick(quality(), 3));
     ASSERT_EQ(sync(false), noErr);
     EXPECT_EQ(*ticket.values().find(key::ImageResolution), Value(Number::SInt32(3)));

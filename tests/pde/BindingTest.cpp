@@ -14,7 +14,7 @@ namespace kesta {
 namespace {
 
 struct Record {
-    SInt32 kept = 7, defaulted = 7, offered = 7, bin = 7, shown = 7;
+    SInt32 kept = 7, defaulted = 7, bin = 7, shown = 7;
 
     bool operator==(const Record&) const = default;
 };
@@ -23,9 +23,8 @@ constexpr auto _SpeedMap = std::to_array<SettingRow>({{"Slow", 1}, {"Fast", 2}})
 constexpr auto kBindings = std::to_array<Binding<Record>>({
     {1, kMember<&Record::kept>, {.map = _SpeedMap, .key = "a"}},
     {2, kMember<&Record::defaulted>, {.key = "b", .otherwise = 5}},
-    {3, kMember<&Record::offered>, {.map = _SpeedMap, .key = "c", .otherwise = 2, .onlyOffered = true}},
-    {4, kMember<&Record::bin>, {.option = PPDKeyword("Duplex"), .otherwise = kUnset}},
-    {5, kMember<&Record::shown>, {.map = _SpeedMap}},
+    {3, kMember<&Record::bin>, {.option = PPDKeyword("Duplex"), .otherwise = kUnset}},
+    {4, kMember<&Record::shown>, {.map = _SpeedMap}},
 });
 
 class BindingTest : public testing::Test {
@@ -42,38 +41,63 @@ protected:
 
 TEST_F(BindingTest, WhatIsWrittenIsReadAndTheRestStays)
 {
-    const Record written{.kept = 9, .defaulted = 8, .offered = 1, .bin = 3, .shown = 4};
+    const Record written{.kept = 9, .defaulted = 8, .bin = 3, .shown = 4};
     WriteBindings(kBindings, written, TicketWriter(ticket, kPrintingManagerClient));
     EXPECT_EQ(ticket.client("a"), QLatin1StringView(kPrintingManagerClient));
-    EXPECT_EQ(ticket.values().count(), 3u) << "what has no key is in no entry";
+    EXPECT_EQ(ticket.values().count(), 2u) << "what has no key is in no entry";
     EXPECT_EQ(PPDCopyCurrentChoice(ticket, "Duplex"), u"DuplexTumble"_s);
-    EXPECT_EQ(read(), (Record{.kept = 9, .defaulted = 8, .offered = 1, .bin = 3}));
+    EXPECT_EQ(read(), (Record{.kept = 9, .defaulted = 8, .bin = 3}));
 }
 
 TEST_F(BindingTest, ATicketThatDoesNotSayMeansWhatTheRuleSays)
 {
-    EXPECT_EQ(read(), (Record{.defaulted = 5, .offered = 2, .bin = kUnset}));
+    EXPECT_EQ(read(), (Record{.defaulted = 5, .bin = kUnset}));
     WriteTicketValue(TicketWriter(ticket, "X"), "a", 99);
-    WriteTicketValue(TicketWriter(ticket, "X"), "c", 99);
-    EXPECT_EQ(read(), (Record{.kept = 99, .defaulted = 5, .offered = 2, .bin = kUnset})) << "99 is not offered";
+    EXPECT_EQ(read(), (Record{.kept = 99, .defaulted = 5, .bin = kUnset})) << "also what is not offered";
     const test::CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
     EXPECT_NE(read(PPDGetCurrent()).bin, kUnset) << "the printer's default";
 }
 
 TEST_F(BindingTest, TheMenuIsOfTheMapOrOfThePrintersChoices)
 {
-    const Bundle bundle = test::BundleWithTexts({"Slow", "Fast", "Other %1"});
+    const Bundle bundle = test::BundleWithTexts({"Slow", "Fast"});
     const test::CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
     EXPECT_EQ(MenuOfRule(bundle, kBindings[0].rule, PPDGetCurrent()).menu.items[1].title, u"Fast"_s);
-    EXPECT_EQ(MenuOfRule(bundle, kBindings[3].rule, PPDGetCurrent()).menu.count(), 3);
-    EXPECT_EQ(MenuOfRule(bundle, kBindings[3].rule, nullptr).menu.count(), 0);
+    EXPECT_EQ(MenuOfRule(bundle, kBindings[2].rule, PPDGetCurrent()).menu.count(), 3);
+    EXPECT_EQ(MenuOfRule(bundle, kBindings[2].rule, nullptr).menu.count(), 0);
+}
 
-    const BindingRule withOther{.map = _SpeedMap, .other = "Other %1"};
-    EXPECT_EQ(MenuOfRule(bundle, withOther, nullptr, 2).menu.count(), 2);
-    const BoundMenu made = MenuOfRule(bundle, withOther, nullptr, 31);
-    EXPECT_EQ(made.menu.items.back().title, u"Other 31"_s);
-    EXPECT_EQ(made.menu.items.back().value, 31);
-    EXPECT_EQ(made.maximum, 3) << "it can be chosen";
+TEST_F(BindingTest, WhatNoItemStandsForHasANameOrANumber)
+{
+    constexpr auto _FaxMap = std::to_array<SettingRow>({{"Slow", 1}, {"Fast", 2, kNoCommand, "FaxKey", true}});
+    Bundle bundle = test::BundleWithAllTexts();
+    for (const char* key : {"Slow", "Fast", "Named", "%1!"})
+        bundle.strings.dictionary("Localizable")->set(key, key);
+    test::CurrentPrinter printer{QStringLiteral(KESTA_PPD)};
+    PMSessionSetDataInSession(printer.session, kPMPrintSettingsTicket, ticket.reference());
+    ppd_file_t* ppd = PPDGetCurrent();
+    const auto other = [&](const BindingRule& rule, SInt32 value, SInt32 initial = 0) {
+        return ItemForOther(bundle, rule, ppd, MenuOfRule(bundle, rule, ppd).menu, value, initial);
+    };
+    const auto title = [&](const BindingRule& rule, SInt32 value) {
+        const std::optional<MenuItem> item = other(rule, value);
+        return item && item->notOffered ? item->title.section(u"Not On This Printer "_s, 1) : u"not marked"_s;
+    };
+    EXPECT_EQ(title({.map = _FaxMap}, 2), u"Fast"_s) << "its accessory is missing";
+    EXPECT_EQ(title({.map = _FaxMap}, 31), u"Other Value 31"_s);
+    EXPECT_EQ(title({.map = _FaxMap, .other = "%1!"}, 31), u"31!"_s);
+    EXPECT_EQ(title({.map = _FaxMap, .nameOf = [](SInt32) { return "Named"; }}, 31), u"Named"_s);
+    EXPECT_EQ(title({.option = PPDKeyword("OutputBin")}, 15), u"Middle2"_s) << "the keyword";
+    EXPECT_EQ(other({.map = _FaxMap, .otherwise = 1}, 2)->instead, 1);
+    EXPECT_FALSE(other({.map = _FaxMap, .otherwise = 9}, 9)) << "what goes without saying";
+    PPDSetCurrentChoice(ticket, "OutputBin", "Attic");
+    EXPECT_EQ(title({.option = PPDKeyword("OutputBin")}, kUnmappedChoice), u"Attic"_s);
+    PPDSetCurrentChoice(ticket, "Duplex", "DuplexTumble");
+    EXPECT_EQ(title({.option = PPDKeyword("Duplex")}, kUnmappedChoice), u"not marked"_s) << "the printer has it";
+
+    ppd = nullptr; // nothing of the kind
+    EXPECT_FALSE(other({.option = PPDKeyword("KSEconomode")}, 5, 5));
+    EXPECT_EQ(title({.option = PPDKeyword("KSEconomode")}, 1), u"Draft"_s);
 }
 
 } // namespace

@@ -52,7 +52,7 @@ protected:
     PopupButton speed{&window}, place{&window}, own{&window};
     SpinField copies{&window};
     QCheckBox borders{&window};
-    const Bundle bundle = test::BundleWithTexts({"Slow", "Fast", "Speed"});
+    const Bundle bundle = test::BundleWithTexts({"Slow", "Fast", "Speed", "Not On This Printer", "Other Value"});
     const BoundControls<Record> controls{{.root = &window, .signature = kSignature, .bundle = bundle, .ppd = nullptr},
                                          kBindings};
     Record record;
@@ -72,14 +72,16 @@ TEST_F(BoundControlsTest, EachKindOfControlShowsItsNumber)
     EXPECT_FALSE(borders.isChecked());
 }
 
-TEST_F(BoundControlsTest, ANumberThatNoItemStandsForIsOneMoreItemOrLeavesThePopupAlone)
+TEST_F(BoundControlsTest, ANumberThatNoItemStandsForIsOneMoreItem)
 {
     controls.show({.speed = 40}, Showing::Opened);
     EXPECT_EQ(speed.menu().count(), 3);
     EXPECT_EQ(speed.value(), 3);
-    controls.show({.speed = 1, .place = 40}, Showing::Opened);
+    controls.takeAll(record);
+    EXPECT_EQ(record.speed, 40);
+    controls.show({.speed = 1, .place = 0}, Showing::Opened);
     EXPECT_EQ(speed.menu().count(), 2);
-    EXPECT_EQ(place.value(), 1);
+    EXPECT_EQ(speed.value(), 1);
 }
 
 TEST_F(BoundControlsTest, AHitChangesItsOwnNumber)

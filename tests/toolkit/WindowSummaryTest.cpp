@@ -37,6 +37,33 @@ TEST(WindowSummary, TellsWhatIsNotTheDefaultInItsOrder)
     EXPECT_EQ(WindowSummary(window), (QStringList{u"Two"_s, u"Folded, Kind: own"_s}));
 }
 
+TEST(WindowSummary, NamesWhatIsNotOffered)
+{
+    QWidget window;
+    auto* popup = new PopupButton(&window);
+    popup->setMenu({.items = {{.title = u"None"_s, .value = 5}, {.title = u"Two"_s, .value = 7}}}, 4);
+    popup->setAccessibleName(u"Holes"_s);
+    ShowInSummary(popup, 1, 9);
+    popup->showExtra({.title = u"Nine"_s, .value = 9});
+    EXPECT_EQ(WindowSummary(window), QStringList()) << "a way of saying the default";
+    popup->showExtra({.title = u"Nine, not here"_s, .value = 9, .notOffered = true, .instead = 2});
+    EXPECT_EQ(popup->menu().count(), 3);
+    EXPECT_EQ(popup->maximum(), 4);
+    EXPECT_EQ(WindowSummary(window), QStringList(WithCaution(u"Nine, not here"_s)));
+    ASSERT_EQ(FindNotOffered(window).size(), 1U);
+    EXPECT_EQ(FindNotOffered(window).front().label, u"Holes"_s);
+    EXPECT_EQ(FindNotOffered(window).front().instead, u"Two"_s);
+    EXPECT_FALSE(popup->chooseItem(3));
+    popup->hide();
+    EXPECT_EQ(WindowSummary(window).size(), 1) << "in the job it is all the same";
+
+    popup->setEnabled(false); // another panel is in front
+    ReplaceNotOffered(window);
+    EXPECT_EQ(popup->selectedItem()->value, 7);
+    EXPECT_EQ(popup->menu().count(), 2) << "it can't be chosen anew";
+    EXPECT_TRUE(FindNotOffered(window).empty());
+}
+
 TEST(SummaryTextView, KeepsRoomForItsUsualLines)
 {
     QWidget panel;

@@ -127,6 +127,11 @@
         <translation>Value %1</translation>
     </message>
     <message>
+        <source>Not On This Printer</source>
+        <extracomment>%1: an item of a pop-up, for a value that the printer does not offer</extracomment>
+        <translation>%1, not on this printer</translation>
+    </message>
+    <message>
         <source>Trapping:</source>
         <translation>Trapping</translation>
     </message>

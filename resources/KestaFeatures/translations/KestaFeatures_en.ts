@@ -123,10 +123,6 @@
         <translation>Economy</translation>
     </message>
     <message>
-        <source>Other Quality</source>
-        <translation>A quality that this printer does not know</translation>
-    </message>
-    <message>
         <source>PhotoKeyAshendowne</source>
         <translation>Photo</translation>
     </message>
@@ -246,6 +242,24 @@
     <message>
         <source>Choose Finishing</source>
         <translation>Choose Finishing</translation>
+    </message>
+    <message>
+        <source>End Booklet</source>
+        <translation>End Booklet</translation>
+    </message>
+    <message>
+        <source>Booklet Holds Two Sided</source>
+        <translation>The job is a booklet, which is printed on both sides.</translation>
+    </message>
+    <message>
+        <source>Not On This Printer</source>
+        <extracomment>%1: an item of a pop-up, for a value that the printer does not offer</extracomment>
+        <translation>%1, not on this printer</translation>
+    </message>
+    <message>
+        <source>Other Value</source>
+        <extracomment>%1: a number that stands for no choice that a panel knows</extracomment>
+        <translation>Value %1</translation>
     </message>
     <message>
         <source>Fax Setup Unavailable Header</source>

@@ -20,6 +20,16 @@ MenuItem BuiltInProfile(const Bundle& bundle, SInt32 number)
     return {.title = LocalizedFormat(bundle, "Built-in Profile", {QString::number(number)}), .value = number};
 }
 
+// Only a ticket brings such a number.
+MenuItem UnknownProfile(const Bundle& bundle, SInt32 number)
+{
+    return {.title = NotOnThisPrinter(bundle, BuiltInProfile(bundle, number).title),
+            .value = number,
+            .enabled = false,
+            .notOffered = true,
+            .instead = 1};
+}
+
 } // namespace
 
 MenuAndPosition NameMenu(const Bundle& bundle, const NameSetting& setting, const FullColorOptions& record)
@@ -32,7 +42,7 @@ MenuAndPosition NameMenu(const Bundle& bundle, const NameSetting& setting, const
     if (profile.kind == setting.namedKind && profile.name)
         menu.items.push_back({.title = *profile.name, .value = profile.kind});
     else if (PositionOf(menu, profile.kind) == 0)
-        menu.items.push_back(BuiltInProfile(bundle, profile.kind));
+        menu.items.push_back(UnknownProfile(bundle, profile.kind));
     const char* ask = setting.control == kToneCurve ? "Named Curve..." : "Named Profile...";
     menu.items.push_back({.title = LocalizedString(bundle, ask), .value = kAskForName});
     return {menu, PositionOf(menu, profile.kind)};

@@ -28,9 +28,7 @@ struct ImageOptions {
 };
 
 inline constexpr auto kBindings = std::to_array<Binding<ImageOptions>>({
-    {kQualityPopup,
-     kMember<&ImageOptions::quality>,
-     {.other = "Other Quality", .option = PPDKeyword("JCLPrintQuality")}},
+    {kQualityPopup, kMember<&ImageOptions::quality>, {.option = PPDKeyword("JCLPrintQuality")}},
     {kMirrorCheckBox,
      {[](const ImageOptions& options) -> SInt32 { return options.invert.mirrorImage; },
       [](ImageOptions& options, SInt32 value) { options.invert.mirrorImage = value != 0; }}},

@@ -10,6 +10,7 @@ namespace kesta::paper_output {
 namespace {
 
 constexpr char kNoneInPopup[] = "None";
+constexpr char kBookletMaker[] = "BookletFoldKey";
 
 bool IsInstalled(const FinishingKind& kind)
 {
@@ -68,7 +69,14 @@ FinishingAccessories GetFinishingAccessories()
 {
     return {.hasStapler = AnyInstalled(Finishing::Staple),
             .hasPunch = AnyInstalled(Finishing::Punch),
-            .hasFolder = getInstalledFeature("BookletFoldKey")};
+            .hasFolder = getInstalledFeature(kBookletMaker)};
+}
+
+bool IsOnPrinter(Finishing finishing, const FinishingKind& kind)
+{
+    if (kind.value == kNotFinished)
+        return true;
+    return kind.feature ? IsInstalled(kind) : finishing == Finishing::Fold && getInstalledFeature(kBookletMaker);
 }
 
 Menu FinishingMenu(const Bundle& bundle)
@@ -82,8 +90,10 @@ Menu FinishingMenu(const Bundle& bundle)
         AddSeparator(menu);
         AddKinds(menu, bundle, Finishing::Fold);
     }
-    AddSeparator(menu);
-    menu.items.push_back({.title = LocalizedString(bundle, "Booklet Creation..."), .command = kBookletCreation});
+    if (getInstalledFeature(kBookletMaker)) {
+        AddSeparator(menu);
+        menu.items.push_back({.title = LocalizedString(bundle, "Booklet Creation..."), .command = kBookletCreation});
+    }
     return menu;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "printer/FinishingKinds.h"
 #include "toolkit/controls/Menu.h"
 
 namespace kesta {
@@ -22,6 +23,9 @@ struct FinishingAccessories {
     bool operator==(const FinishingAccessories&) const = default;
 };
 FinishingAccessories GetFinishingAccessories();
+
+// Whether the accessories that are fitted now make it; nothing needs none.
+bool IsOnPrinter(Finishing finishing, const FinishingKind& kind);
 
 // With a booklet maker, staples, holes, folds and booklets are one menu.
 Menu FinishingMenu(const Bundle& bundle);

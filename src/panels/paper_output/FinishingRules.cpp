@@ -1,6 +1,8 @@
 #include "panels/paper_output/FinishingRules.h"
 
 #include "pde/interface/TicketKeys.h"
+#include "pde/menus/Binding.h"
+#include "platform/plugins/Bundle.h"
 #include "printer/FinishingKinds.h"
 #include "printer/InstallableOptions.h"
 
@@ -52,6 +54,21 @@ void LeaveBooklet(PaperOutputOptions& options)
         options.finishingOption = kNoFinishing;
         options.booklet.fold = kNotFinished;
     }
+}
+
+bool HasBookletFold(const PaperOutputOptions& options)
+{
+    const FinishingKind* fold = FindFinishing(Finishing::Fold, options.booklet.fold);
+    return fold && fold->booklet.picture;
+}
+
+// Whether some kind of finishing, or none at all, has the option.
+bool IsOfAnyKind(const PaperOutputOptions& options)
+{
+    return std::ranges::any_of(kAllFinishing, [&](Finishing finishing) {
+        const FinishingKinds kinds = KindsOf(finishing);
+        return std::ranges::find(kinds, options.finishingOption, &FinishingKind::option) != kinds.end();
+    });
 }
 
 bool HasFourStaples(const PaperOutputOptions& options)
@@ -134,14 +151,35 @@ bool ApplyFinishingCommand(PaperOutputOptions& options, FourCharCode command)
     return true;
 }
 
-void ApplyBooklet(PaperOutputOptions& options, std::optional<SInt32> ticketDuplex)
+void FollowDuplex(PaperOutputOptions& options)
+{
+    if (!options.booklet.isOn())
+        options.duplexPopupValue = options.duplexSaved = options.duplex;
+}
+
+void FollowFinishing(PaperOutputOptions& options)
+{
+    if (options.finishingOption == kBookletFoldFinishing ? HasBookletFold(options) : !IsOfAnyKind(options))
+        return;
+    SInt32 chosen = kNoFinishing;
+    for (const Finishing finishing : kAllFinishing) {
+        const FinishingKind* kind = FindFinishing(finishing, FieldOf(options, finishing));
+        if (!kind || kind->value == kNotFinished)
+            continue;
+        if (kind->option == options.finishingOption)
+            return;
+        chosen = kind->option;
+    }
+    options.finishingOption = chosen;
+}
+
+void ApplyBooklet(PaperOutputOptions& options)
 {
     if (!options.booklet.isOn())
         options.duplex = options.duplexSaved;
-    options.duplexSaved = ticketDuplex.value_or(options.duplexSaved);
+    FollowDuplex(options);
 
-    const FinishingKind* fold = FindFinishing(Finishing::Fold, options.booklet.fold);
-    if (fold && fold->booklet.picture) {
+    if (HasBookletFold(options)) {
         options.finishingOption = kBookletFoldFinishing;
         options.staple = options.punch = kNotFinished;
         options.bindValue = 1;
@@ -152,6 +190,14 @@ void ApplyBooklet(PaperOutputOptions& options, std::optional<SInt32> ticketDuple
         options.offset = 1;
         options.offsetSubset = options.offsetPagesPerSubset = 0;
     }
+}
+
+void EndBooklet(PaperOutputOptions& options)
+{
+    options.booklet.layout = kBookletLayoutOff;
+    if (HasBookletFold(options))
+        options.booklet.fold = kNotFinished;
+    ApplyBooklet(options);
 }
 
 bool ApplyPaperRules(PaperOutputOptions& options, Menu& finishing)
@@ -174,6 +220,53 @@ void EnableFinishingItems(Menu& menu, const Ticket& settings)
     for (const FinishingKind& kind : kStaples) {
         if (kind.value != kNotFinished)
             EnableItem(menu, kind.command, !*booklet);
+    }
+}
+
+FinishingAccessories RowsFor(const FinishingAccessories& fitted, const PaperOutputOptions& options)
+{
+    return {.hasStapler = fitted.hasStapler || options.staple != kNotFinished,
+            .hasPunch = fitted.hasPunch || options.punch != kNotFinished,
+            .hasFolder = fitted.hasFolder || options.booklet.fold != kNotFinished};
+}
+
+const char* FinishingText(const PaperOutputOptions& options, Finishing finishing)
+{
+    const FinishingKind& none = KindsOf(finishing).front();
+    const FinishingKind* kind = FindFinishing(finishing, FieldOf(options, finishing));
+    if (!kind)
+        return none.text;
+    const bool isBooklets = finishing == Finishing::Fold && IsBooklet(options);
+    const bool isOnPrinter = IsOnPrinter(finishing, *kind);
+    if (kind->booklet.text && (isBooklets || (!isOnPrinter && kind->command == kNoCommand)))
+        return kind->booklet.text;
+    return isBooklets && isOnPrinter ? none.text : kind->text;
+}
+
+bool IsNotOffered(const PaperOutputOptions& options, Finishing finishing)
+{
+    const FinishingKind* kind = FindFinishing(finishing, FieldOf(options, finishing));
+    return kind && !IsOnPrinter(finishing, *kind);
+}
+
+void AddNotOffered(Menu& menu, const Bundle& bundle, const PaperOutputOptions& options)
+{
+    std::erase_if(menu.items, [](const MenuItem& item) { return item.notOffered; });
+    for (const Finishing finishing : kAllFinishing) {
+        if (!IsNotOffered(options, finishing))
+            continue;
+        const FinishingKind& none = KindsOf(finishing).front();
+        auto back = std::ranges::find(menu.items, none.command, &MenuItem::command);
+        if (back == menu.items.end())
+            back = menu.items.insert(
+                back, {.title = LocalizedString(bundle, none.text), .command = none.command, .value = none.value});
+        const int position = static_cast<int>(back - menu.items.begin()) + 1;
+        const QString text = LocalizedString(bundle, FinishingText(options, finishing));
+        menu.items.push_back({.title = NotOnThisPrinter(bundle, text),
+                              .enabled = false,
+                              .checked = true,
+                              .notOffered = true,
+                              .instead = position});
     }
 }
 

@@ -14,9 +14,19 @@ bool IsBooklet(const PaperOutputOptions& options);
 // A command of the staple, punch and fold items. False, and nothing changed, for any other.
 bool ApplyFinishingCommand(PaperOutputOptions& options, FourCharCode command);
 
-// What follows once the user has chosen fold and booklet anew. The ticket's own two-sided choice, when it has one, is
-// what a later end of the booklet brings back.
-void ApplyBooklet(PaperOutputOptions& options, std::optional<SInt32> ticketDuplex);
+// What follows once the user has chosen fold and booklet anew. The end of a booklet brings back the two-sided printing
+// from before it.
+void ApplyBooklet(PaperOutputOptions& options);
+
+// No layout, and no fold of a booklet's.
+void EndBooklet(PaperOutputOptions& options);
+
+// Pop-up and memory follow two-sided printing, whoever changed it; a booklet's own is shown otherwise and not kept.
+void FollowDuplex(PaperOutputOptions& options);
+
+// The ticket's finishing option follows staples, holes and fold that somebody else chose: it stays where one of them
+// has it, or where it is none of this table.
+void FollowFinishing(PaperOutputOptions& options);
 
 // Finishing that the paper does not allow is switched off, and its item in the menu with it. True when the summary is
 // another one now.
@@ -24,6 +34,17 @@ bool ApplyPaperRules(PaperOutputOptions& options, Menu& finishing);
 
 // Enables the items that the special pages and the booklet of the ticket leave possible.
 void EnableFinishingItems(Menu& menu, const Ticket& settings);
+
+// What has a row in the panel: what can finish the job, and what finishes it although this printer can't.
+FinishingAccessories RowsFor(const FinishingAccessories& fitted, const PaperOutputOptions& options);
+
+// The key of the text that tells of it.
+const char* FinishingText(const PaperOutputOptions& options, Finishing finishing);
+// Whether the job has it and the printer does not.
+bool IsNotOffered(const PaperOutputOptions& options, Finishing finishing);
+
+// Ends the menu with what finishes the job although this printer can't, and the way back from each.
+void AddNotOffered(Menu& menu, const Bundle& bundle, const PaperOutputOptions& options);
 
 // Checks the items that stand for the job's finishing.
 void MarkFinishingMenu(Menu& menu, const PaperOutputOptions& options);

@@ -3,46 +3,31 @@
 #include "panels/paper_output/FinishingRules.h"
 #include "panels/special_pages/paper/SeparatorsRules.h"
 #include "panels/special_pages/paper/StockSummary.h"
+#include "pde/menus/Binding.h"
 #include "platform/plugins/Bundle.h"
 #include "printer/FinishingKinds.h"
 
 using namespace Qt::StringLiterals;
 
 namespace kesta::paper_output {
-namespace {
-
-const char* TextOf(Finishing finishing, SInt32 value)
-{
-    const FinishingKind* kind = FindFinishing(finishing, value);
-    return kind ? kind->text : KindsOf(finishing).front().text;
-}
-
-const char* BookletText(SInt32 fold)
-{
-    const FinishingKind* kind = FindFinishing(Finishing::Fold, fold);
-    return kind && kind->booklet.text ? kind->booklet.text : TextOf(Finishing::Fold, kNotFinished);
-}
-
-} // namespace
-
 QString CreateFinishingString(const Bundle& bundle, const PaperOutputOptions& options,
                               const FinishingAccessories& accessories)
 {
     QString summary = u""_s;
-    const auto addLine = [&](const char* key) { summary += u"- "_s + LocalizedString(bundle, key) + u'\n'; };
-
-    if (IsBooklet(options)) {
-        addLine(BookletText(options.booklet.fold));
-        if (options.booklet.isOn())
-            addLine("Booklet Layout");
-        return summary;
-    }
-    if (accessories.hasStapler)
-        addLine(TextOf(Finishing::Staple, options.staple));
-    if (accessories.hasPunch)
-        addLine(TextOf(Finishing::Punch, options.punch));
-    if (accessories.hasFolder)
-        addLine(TextOf(Finishing::Fold, options.booklet.fold));
+    const auto addLine = [&](const QString& text) { summary += u"- "_s + text + u'\n'; };
+    const auto add = [&](Finishing finishing) {
+        const QString text = LocalizedString(bundle, FinishingText(options, finishing));
+        addLine(IsNotOffered(options, finishing) ? WithCaution(NotOnThisPrinter(bundle, text)) : text);
+    };
+    const bool isBooklet = IsBooklet(options);
+    if (accessories.hasStapler && (!isBooklet || IsNotOffered(options, Finishing::Staple)))
+        add(Finishing::Staple);
+    if (accessories.hasPunch && (!isBooklet || IsNotOffered(options, Finishing::Punch)))
+        add(Finishing::Punch);
+    if (accessories.hasFolder || isBooklet)
+        add(Finishing::Fold);
+    if (options.booklet.isOn())
+        addLine(LocalizedString(bundle, "Booklet Layout"));
     return summary;
 }
 

@@ -30,6 +30,9 @@ enum Control : SInt32 {
     kFinishingPicture = 117,
     kFinishingMenuButton = 119,
     kFinishingSummary = 120,
+    kTwoSidedTrailing = 121, // in the button's place while there is no button
+    kEndBookletButton = 122,
+    kTwoSidedReason = 123,
     kDestinationLabel = 125,
     kDestinationPopup = 126,
     kQualityPicture = 127,
@@ -57,16 +60,29 @@ inline constexpr auto kBindings = std::to_array<Binding<PaperOutputOptions>>({
      {.map = _JobTypeMap}},
     {kQualityPopup,
      kMember<&PaperOutputOptions::printQuality>,
-     {.map = _PrintQualityMap, .key = key::FinishingOutputColor, .otherwise = kStandardQuality, .onlyOffered = true}},
+     {.map = _PrintQualityMap, .key = key::FinishingOutputColor, .otherwise = kStandardQuality}},
     {kDestinationPopup,
      kMember<&PaperOutputOptions::outputBin>,
      {.option = PPDKeyword("OutputBin"), .conflicting = Conflicting::Skip, .otherwise = kUnset}},
 });
 
+inline constexpr BindingRule kTwoSided{
+    .nameOf = [](SInt32 duplex) { return LocalizedKeyForTicketValue(_PlexMap, duplex); },
+    .option = PPDKeyword("Duplex"),
+};
+
+template <Finishing finishing> const char* FinishingName(SInt32 value)
+{
+    const FinishingKind* kind = FindFinishing(finishing, value);
+    return kind ? kind->text : nullptr;
+}
+
 // Their menus have commands (FinishingMenus.h).
 inline constexpr auto kFinishingBindings = std::to_array<Binding<PaperOutputOptions>>({
-    {kStaplePopup, {[](const PaperOutputOptions& options) { return options.staple; }, ChooseStaple}},
-    {kPunchPopup, kMember<&PaperOutputOptions::punch>},
+    {kStaplePopup,
+     {[](const PaperOutputOptions& options) { return options.staple; }, ChooseStaple},
+     {.nameOf = FinishingName<Finishing::Staple>}},
+    {kPunchPopup, kMember<&PaperOutputOptions::punch>, {.nameOf = FinishingName<Finishing::Punch>}},
 });
 
 } // namespace kesta::paper_output

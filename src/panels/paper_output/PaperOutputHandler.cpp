@@ -48,18 +48,33 @@ void SetUpJobType(_PaperOutputContext& panel)
     }
 }
 
+// Other panels read at once whether the job is a booklet.
+void FollowBooklet(_PaperOutputContext& panel)
+{
+    const bool isOn = panel.options.booklet.isOn();
+    if (Ticket* settings = GetTicketFromSession(*panel.session, kPMPrintSettingsTicket).ticket) {
+        settings->set(kPrintingManagerClient, key::BookletLayout, isOn);
+        if (!isOn)
+            ChangeFinishingMenus(panel, [&](Menu& menu) { EnableFinishingItems(menu, *settings); });
+    }
+    ShowTwoSided(panel);
+}
+
 void CreateBooklet(_PaperOutputContext& panel)
 {
-    PaperOutputOptions& options = panel.options;
-    if (RunModalBookletCreationDialog(*panel.bundle, options.booklet) != noErr)
+    if (RunModalBookletCreationDialog(*panel.bundle, panel.options.booklet) != noErr)
         return;
-    std::optional<SInt32> ticketDuplex;
-    if (Ticket* settings = GetTicketFromSession(*panel.session, kPMPrintSettingsTicket).ticket) {
-        settings->set(kPrintingManagerClient, key::BookletLayout, options.booklet.isOn());
-        ticketDuplex = ReadPPDDuplex(*settings, panel.ppd);
-    }
-    ApplyBooklet(options, ticketDuplex);
-    ShowTwoSided(panel, options.duplexPopupValue);
+    ApplyBooklet(panel.options);
+    FollowBooklet(panel);
+}
+
+void StopBooklet(_PaperOutputContext& panel)
+{
+    EndBooklet(panel.options);
+    FollowBooklet(panel);
+    ShowFinishing(panel);
+    if (QWidget* popup = FindHere(panel, kTwoSidedPopup))
+        popup->setFocus(); // the button is gone
 }
 
 void ChooseSeparators(_PaperOutputContext& panel)
@@ -84,8 +99,12 @@ EventResult pdeShellPaperOutputEventHandler(_PaperOutputContext& panel, const Hi
     case kJobTypeSetupButton:
         SetUpJobType(panel);
         break;
+    case kEndBookletButton:
+        StopBooklet(panel);
+        break;
     case kTwoSidedPopup:
-        options.duplex = options.duplexPopupValue = hit.ticketValue;
+        options.duplex = hit.ticketValue;
+        FollowDuplex(options);
         break;
     }
     ShowPictures(panel);
@@ -100,7 +119,7 @@ EventResult pdeShellPaperOutputEventHandler(_PaperOutputContext& panel, const Co
     else if (chosen.command == kSeparatorsCommand)
         ChooseSeparators(panel);
     else if (ApplyFinishingCommand(panel.options, chosen.command) && panel.options.booklet.isOn())
-        ShowTwoSided(panel, kTwoSidedLongEdge);
+        ShowTwoSided(panel);
     ShowFinishing(panel);
     return EventResult::NotHandled;
 }

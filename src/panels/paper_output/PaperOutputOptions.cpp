@@ -1,11 +1,14 @@
 #include "panels/paper_output/PaperOutputOptions.h"
 
+#include "panels/paper_output/FinishingRules.h"
 #include "panels/paper_output/PaperOutputBindings.h"
 #include "panels/special_pages/paper/SeparatorsRules.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"
 
 #include <algorithm>
+#include <array>
+#include <span>
 
 namespace kesta::paper_output {
 namespace {
@@ -15,9 +18,24 @@ std::optional<SInt32> OnlyIf(bool condition, std::optional<SInt32> value)
     return condition ? value : std::nullopt;
 }
 
+// A record that is read back loses the tab count of some types, so one that the ticket has already is left alone. Its
+// size may be a booklet's.
+bool HasRecord(const Dictionary& stored, const Stock& stock)
+{
+    Dictionary own = stock.asTicket();
+    if (const Value* size = stored.find("Size"))
+        own.set("Size", *size);
+    else
+        own.remove("Size");
+    return own == stored;
+}
+
 void ReadStock(Stock& stock, const Ticket& settings, ppd_file_t* ppd)
 {
-    if (const Dictionary* stored = settings.values().dictionary(key::JobLevelStock))
+    const Dictionary* stored = settings.values().dictionary(key::JobLevelStock);
+    if (stored && HasRecord(*stored, stock))
+        stock.setSize(CFDictionaryGetNumber<SInt32>(*stored, "Size").value_or(kUnset));
+    else if (stored)
         stock = Stock(*stored);
     else
         DefaultStock(stock, JobContext::Job);
@@ -39,13 +57,60 @@ std::optional<SInt32> ReadDuplexKey(const Ticket& settings, const char* key)
     return OnlyIf(duplex >= kOneSided && duplex <= kTwoSidedShortEdge, duplex);
 }
 
-SInt32 ReadDuplex(const Ticket& settings, ppd_file_t* ppd, SInt32 before)
+constexpr std::array kChoices{"Duplex", OptionOf(Finishing::Staple), OptionOf(Finishing::Punch),
+                              OptionOf(Finishing::Fold)};
+
+Dictionary ReadChoices(const Ticket& settings)
 {
+    Dictionary choices;
+    for (const char* keyword : kChoices) {
+        if (const std::optional<QString> choice = PPDCopyCurrentChoice(settings, keyword))
+            choices.set(keyword, *choice);
+    }
+    return choices;
+}
+
+bool IsChangedByOthers(const PaperOutputOptions& options, const Ticket& settings, const char* keyword)
+{
+    const QString* before = options.choices ? options.choices->string(keyword) : nullptr;
+    const std::optional<QString> now = PPDCopyCurrentChoice(settings, keyword);
+    return options.choices && now && !(before && *before == *now);
+}
+
+bool IsFinishingChangedByOthers(const PaperOutputOptions& options, const Ticket& settings)
+{
+    return std::ranges::any_of(std::span(kChoices).subspan(1),
+                               [&](const char* keyword) { return IsChangedByOthers(options, settings, keyword); });
+}
+
+// The ticket's two-sided choice, else the PPD's default.
+std::optional<SInt32> ReadPPDDuplex(const Ticket& settings, ppd_file_t* ppd)
+{
+    const std::optional<SInt32> duplex = PPDGetTicketValueForChoiceOrDefault(ppd, settings, "Duplex");
+    return OnlyIf(duplex != kUnmappedChoice, duplex);
+}
+
+SInt32 ReadDuplex(const PaperOutputOptions& options, const Ticket& settings, ppd_file_t* ppd)
+{
+    if (IsChangedByOthers(options, settings, "Duplex")) {
+        if (const std::optional<SInt32> duplex = ReadPPDDuplex(settings, ppd))
+            return *duplex;
+    }
     for (const char* key : {key::FinishingDuplex, key::PMDuplexing}) {
         if (const std::optional<SInt32> duplex = ReadDuplexKey(settings, key))
             return *duplex;
     }
-    return ReadPPDDuplex(settings, ppd).value_or(before);
+    return ReadPPDDuplex(settings, ppd).value_or(options.duplex);
+}
+
+void ReadTwoSided(PaperOutputOptions& options, const Ticket& settings, ppd_file_t* ppd)
+{
+    options.duplex = ReadDuplex(options, settings, ppd);
+    if (IsChangedByOthers(options, settings, "Duplex") && options.duplex != kTwoSidedShortEdge)
+        options.booklet.layout = kBookletLayoutOff; // its pages would not meet
+    if (!options.choices)
+        options.duplexPopupValue = options.duplexSaved = options.duplex;
+    FollowDuplex(options);
 }
 
 // The driver wants a choice of its own for some staples on a landscape page, which has no ticket value.
@@ -63,7 +128,8 @@ SInt32 ReadStaple(const Ticket& settings, ppd_file_t* ppd)
 
 void ReadFinishing(PaperOutputOptions& options, const Ticket& settings, ppd_file_t* ppd)
 {
-    options.finishingOption = ReadTicketValue(settings, key::FinishingOptions).value_or(kNoFinishing);
+    const std::optional<SInt32> option = ReadTicketValue(settings, key::FinishingOptions);
+    options.finishingOption = option.value_or(kNoFinishing);
     options.offset = ReadTicketValue(settings, key::FinishingOffset).value_or(1);
     options.offsetSubset = ReadTicketValue(settings, key::FinishingOffsetEnableSubset).value_or(0);
     if (options.offsetSubset != 0)
@@ -74,9 +140,22 @@ void ReadFinishing(PaperOutputOptions& options, const Ticket& settings, ppd_file
     options.punch =
         PPDGetTicketValueForChoiceOrDefault(ppd, settings, OptionOf(Finishing::Punch)).value_or(options.punch);
     options.staple = ReadStaple(settings, ppd);
+    const bool isBookletsAlone = fold == kFoldBiStaple;
+    if (!option || isBookletsAlone || IsFinishingChangedByOthers(options, settings))
+        FollowFinishing(options);
     options.bindValue = ReadTicketValue(settings, key::FinishingBindValue).value_or(options.bindValue);
     const QString* custom = settings.values().string(key::FinishingCustom);
     options.finishingCustom = custom ? *custom : QString();
+}
+
+// A size that a booklet forces on the job is the booklet's owner's to take away.
+Dictionary StockEntries(const Stock& stock, const Ticket& settings, WriteScope scope)
+{
+    Dictionary entries = stock.asTicket();
+    const std::optional<SInt32> forced = ReadForcedSize(settings);
+    if (forced && !scope.booklet)
+        entries.set("Size", Number::Index(*forced));
+    return entries;
 }
 
 void WriteFax(const PaperOutputOptions& options, const TicketWriter& settings)
@@ -137,8 +216,9 @@ void ReadTicket(PaperOutputOptions& options, const Ticket& settings, ppd_file_t*
     ReadJobType(options.jobType, settings);
     ReadFax(options, settings);
     ReadBooklet(options.booklet, settings);
-    options.duplex = ReadDuplex(settings, ppd, options.duplex);
+    ReadTwoSided(options, settings, ppd);
     ReadFinishing(options, settings, ppd);
+    options.choices = ReadChoices(settings);
     if (isSpecialPageConfigured(settings))
         options.padPrintEnabled = 0;
 }
@@ -147,7 +227,7 @@ OSStatus WriteTicket(PaperOutputOptions& options, Ticket& ticket, WriteScope sco
 {
     const TicketWriter settings(ticket, kPrintingManagerClient);
 
-    settings.set(key::JobLevelStock, options.stock.asTicket());
+    settings.set(key::JobLevelStock, StockEntries(options.stock, ticket, scope));
     PPDSetChoiceForTicketValue(ticket, "MediaColor", options.stock.color());
     PPDSetChoiceForTicketValue(ticket, "MediaType", options.stock.type());
     WriteBindings(kBindings, options, settings);
@@ -159,6 +239,7 @@ OSStatus WriteTicket(PaperOutputOptions& options, Ticket& ticket, WriteScope sco
     if (scope.duplex)
         WriteDuplex(options, settings);
     WriteFinishing(options, settings);
+    options.choices = ReadChoices(ticket);
     return status;
 }
 
@@ -172,12 +253,6 @@ bool isSpecialPageConfigured(const Ticket& settings)
             return cover->count() > 0;
     }
     return false;
-}
-
-std::optional<SInt32> ReadPPDDuplex(const Ticket& settings, ppd_file_t* ppd)
-{
-    const std::optional<SInt32> duplex = PPDGetTicketValueForChoiceOrDefault(ppd, settings, "Duplex");
-    return OnlyIf(duplex != kUnmappedChoice, duplex);
 }
 
 } // namespace kesta::paper_output

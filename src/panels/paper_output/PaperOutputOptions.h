@@ -34,8 +34,8 @@ struct PaperOutputOptions {
     Booklet booklet = {}; // its fold is that of any job
 
     SInt32 duplex = kOneSided;
-    SInt32 duplexPopupValue = kOneSided; // the user's last pick, which the pop-up keeps showing
-    SInt32 duplexSaved = kOneSided;      // what a booklet took the place of
+    SInt32 duplexPopupValue = kOneSided; // what the pop-up shows without a booklet
+    SInt32 duplexSaved = kOneSided;      // what a booklet took the place of, and its end brings back
 
     SInt32 finishingOption = kNoFinishing;
     SInt32 staple = kNotFinished; // of printer/FinishingKinds.h, as the fold of the booklet
@@ -51,6 +51,10 @@ struct PaperOutputOptions {
     bool squareFold = false;
     SInt32 padPrintEnabled = 0;
 
+    // Of two-sided printing and finishing, the ticket's PPD choices as they were last read or written here; nothing
+    // before that. One that is another now was changed by somebody who knows nothing of the ticket's entries.
+    std::optional<Dictionary> choices = {};
+
     bool operator==(const PaperOutputOptions&) const = default;
 };
 
@@ -59,7 +63,11 @@ SInt32 ReadOrientation(const Ticket& pageFormat);
 
 // The PPD, which may be null, has the defaults of what the ticket does not say. A number that no choice of the panel
 // stands for counts as absent where the panel would otherwise show another choice than it writes. The stock stays the
-// same object.
+// same object, and keeps what the ticket does not say again while the ticket has what it would write.
+//
+// What the ticket keeps as an entry and as a PPD choice is read from the entry, unless the choice was changed since the
+// last time: entries and choices are in step again after the next writing. A booklet that the change leaves no room for
+// ends.
 void ReadTicket(PaperOutputOptions& options, const Ticket& settings, ppd_file_t* ppd);
 
 // What the panel may write: the booklet belongs to the panel that is shown, and two-sided printing to the panel once it
@@ -75,8 +83,5 @@ OSStatus WriteTicket(PaperOutputOptions& options, Ticket& ticket, WriteScope sco
 
 // Whether the first of exceptions, inserts, front cover and back cover that the ticket has at all holds an entry.
 bool isSpecialPageConfigured(const Ticket& settings);
-
-// The ticket's two-sided choice, else the PPD's default.
-std::optional<SInt32> ReadPPDDuplex(const Ticket& settings, ppd_file_t* ppd);
 
 } // namespace kesta::paper_output

@@ -38,10 +38,12 @@ void TakeJobName(_PaperOutputContext& panel, const Ticket& settings)
     panel.options.jobType.savedJobName = name ? *name : LocalizedString(*panel.bundle, "Unknown");
 }
 
-void ReadSettings(_PaperOutputContext& panel, const Ticket& settings)
+void ReadSettings(_PaperOutputContext& panel, Ticket& settings)
 {
     ReadTicket(panel.options, settings, panel.ppd);
-    ShowTwoSided(panel, panel.options.duplexPopupValue); // not what the job has: the user's last pick
+    if (settings.values().boolean(key::BookletLayout) == true && !panel.options.booklet.isOn())
+        settings.set(kPrintingManagerClient, key::BookletLayout, false); // other panels read it, too
+    ShowTwoSided(panel);
     ChangeFinishingMenus(panel, [&](Menu& menu) { EnableFinishingItems(menu, settings); });
     ShowOptions(panel);
 }
@@ -71,9 +73,7 @@ OSStatus Initialize(_PaperOutputContext& panel, QWidget& pane, PrintSession& ses
 
     if (const Ticket* settings = GetTicketFromSession(session, kPMPrintSettingsTicket).ticket)
         TakeJobName(panel, *settings);
-    const OSStatus status = Sync(panel, session, SyncDirection::TicketsToControls);
-    panel.options.duplexSaved = panel.options.duplex;
-    return status;
+    return Sync(panel, session, SyncDirection::TicketsToControls);
 }
 
 OSStatus Sync(_PaperOutputContext& panel, PrintSession& session, SyncDirection direction)
@@ -105,7 +105,7 @@ OSStatus Open(_PaperOutputContext& panel)
     panel.wasOpened = true;
     if (panel.options.booklet.isOn())
         panel.options.duplex = kTwoSidedLongEdge;
-    ShowTwoSided(panel, panel.options.duplex);
+    ShowTwoSided(panel);
     ShowOptions(panel);
     panel.handler = InstallEventHandler(
         *panel.pane, [&panel](const HitEvent& hit) { return pdeShellPaperOutputEventHandler(panel, hit); },

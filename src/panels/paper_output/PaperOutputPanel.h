@@ -22,7 +22,8 @@ struct _PaperOutputContext {
     ppd_file_t* ppd = nullptr;
     PaperOutputOptions options;
     FinishingAccessories accessories;
-    bool wasOpened = false; // two-sided printing is written from the first Open on
+    FinishingAccessories rows; // that are shown
+    bool wasOpened = false;    // two-sided printing is written from the first Open on
     _StockMenuCommandEventHandlerData stockMenu;
     std::optional<JobTypeCheckRegistration> jobTypeCheck;
     EventHandler handler;

@@ -126,7 +126,7 @@ void FillMenus(_PaperOutputContext& panel)
 {
     BoundOptions(panel).fill();
     FillStockMenu(panel);
-    PPDPopulatePopupWithChoices(Popup(panel, kTwoSidedPopup), panel.ppd, "Duplex", Conflicting::Keep);
+    FillControl(PlaceOf(panel), kTwoSidedPopup, kTwoSided);
     FillFinishing(panel);
     HideDestination(panel);
 }
@@ -142,7 +142,7 @@ void AppearInSummary(const _PaperOutputContext& panel)
     ShowInSummary(Popup(panel, kStaplePopup), SummaryPlace::Finishing, plain.staple);
     ShowInSummary(Popup(panel, kPunchPopup), SummaryPlace::Finishing, plain.punch);
     ShowInSummary(FindHere(panel, kFinishingSummary), SummaryPlace::Finishing,
-                  CreateFinishingString(*panel.bundle, plain, panel.accessories));
+                  CreateFinishingString(*panel.bundle, plain, panel.rows));
 }
 
 // Its number and signature as a control among them, and its place in the window's summary.
@@ -187,6 +187,17 @@ void ShowSummary(const _PaperOutputContext& panel, Control view, Control button,
         trailing->setAccessibleDescription(summary->text());
 }
 
+// Without a booklet maker no other row tells of the booklet that holds two-sided printing, or ends it.
+void ShowWhyTwoSided(const _PaperOutputContext& panel, bool shown)
+{
+    SetControlVisible(FindHere(panel, kTwoSidedReason), shown);
+    SetControlVisible(FindHere(panel, kEndBookletButton), shown);
+    SetControlVisible(FindHere(panel, kTwoSidedTrailing), !shown);
+    QWidget* popup = Popup(panel, kTwoSidedPopup);
+    if (popup)
+        popup->setAccessibleDescription(shown ? LocalizedString(*panel.bundle, "Booklet Holds Two Sided") : QString());
+}
+
 void ShowPicture(const _PaperOutputContext& panel, Control number, const QString& picture)
 {
     auto* view = FindControlAs<PictureView>(panel.pane, {kSignature, number});
@@ -216,7 +227,8 @@ void BuildView(_PaperOutputContext& panel)
     const std::unique_ptr<QWidget> window = CreateWindowFromNib(*panel.bundle, "Paper_Output", "Panel");
     if (!window || !panel.pane)
         return;
-    panel.view = EmbedAndShowControl(AssembleViews(*window, panel.accessories), *panel.pane);
+    panel.rows = RowsFor(panel.accessories, panel.options);
+    panel.view = EmbedAndShowControl(AssembleViews(*window, panel.rows), *panel.pane);
     FillMenus(panel);
     AppearInSummary(panel);
 }
@@ -258,8 +270,10 @@ void ShowPaper(const _PaperOutputContext& panel)
 void ShowFinishing(const _PaperOutputContext& panel)
 {
     ChangeFinishingMenus(panel, [&](Menu& menu) { MarkFinishingMenu(menu, panel.options); });
+    if (auto* finishing = FindControlAs<MenuButton>(panel.pane, {kSignature, kFinishingMenuButton}))
+        finishing->changeItems([&](Menu& menu) { AddNotOffered(menu, *panel.bundle, panel.options); });
     BoundFinishing(panel).show(panel.options, Showing::TicketRead);
-    const QString summary = CreateFinishingString(*panel.bundle, panel.options, panel.accessories);
+    const QString summary = CreateFinishingString(*panel.bundle, panel.options, panel.rows);
     ShowSummary(panel, kFinishingSummary, kFinishingMenuButton, summary.chopped(summary.endsWith(u'\n') ? 1 : 0));
     ShowPictures(panel);
 }
@@ -275,14 +289,16 @@ void ShowPictures(const _PaperOutputContext& panel)
     ShowPicture(panel, kQualityPicture, OutputColorPicture(options.printQuality));
 }
 
-void ShowTwoSided(const _PaperOutputContext& panel, SInt32 value)
+void ShowTwoSided(const _PaperOutputContext& panel)
 {
     const bool isBooklet = panel.options.booklet.isOn();
     PopupButton* popup = Popup(panel, kTwoSidedPopup);
-    SetPopupButtonToTicketValue(popup, isBooklet ? kTwoSidedLongEdge : value);
+    ShowInControl(PlaceOf(panel), kTwoSidedPopup, kTwoSided,
+                  isBooklet ? kTwoSidedLongEdge : panel.options.duplexPopupValue, kOneSided);
     SetControlEnabled(popup, !isBooklet);
     SetControlEnabled(FindHere(panel, kTwoSidedLabel), !isBooklet);
     SetControlEnabled(FindHere(panel, kTwoSidedPicture), !isBooklet);
+    ShowWhyTwoSided(panel, isBooklet && !panel.accessories.hasFolder);
 }
 
 bool EnableDisableJobTypeSetupButton(const _PaperOutputContext& panel)

@@ -28,8 +28,8 @@ void ShowPaper(const _PaperOutputContext& panel);
 void ShowFinishing(const _PaperOutputContext& panel);
 void ShowPictures(const _PaperOutputContext& panel);
 
-// With a booklet the two-sided pop-up is held at long edge; else it shows this value.
-void ShowTwoSided(const _PaperOutputContext& panel, SInt32 value);
+// With a booklet the two-sided pop-up is held at long edge.
+void ShowTwoSided(const _PaperOutputContext& panel);
 
 // For what the job type needs; a fax can't be set up, which the button says. Returns whether the button is enabled.
 bool EnableDisableJobTypeSetupButton(const _PaperOutputContext& panel);

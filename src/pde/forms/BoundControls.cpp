@@ -16,18 +16,26 @@ bool HasItemsOfItsOwn(const BindingRule& rule)
     return rule.map.empty() && !rule.option;
 }
 
-void ShowItem(const FormPlace& place, PopupButton& popup, const BindingRule& rule, SInt32 value)
+void ShowItem(const FormPlace& place, PopupButton& popup, const BindingRule& rule, SInt32 value, SInt32 initial)
 {
     if (rule.byPosition) {
         if (value >= 1 && value <= popup.menu().count())
             popup.setValue(value);
         return;
     }
-    if (rule.other) {
-        BoundMenu made = MenuOfRule(place.bundle, rule, place.ppd, value);
-        popup.setMenu(std::move(made.menu), made.maximum);
+    popup.dropExtra();
+    if (SetPopupButtonToTicketValue(&popup, value))
+        return;
+    std::optional<MenuItem> item = ItemForOther(place.bundle, rule, place.ppd, popup.menu(), value, initial);
+    if (!item)
+        return popup.setValue(popup.value());
+    if (popup.menu().items.empty()) {
+        if (std::optional<MenuItem> back = ItemForInitial(place.bundle, rule, place.ppd, initial)) {
+            popup.setMenu({.items = {std::move(*back)}});
+            item->instead = 1;
+        }
     }
-    SetPopupButtonToTicketValue(&popup, value);
+    popup.showExtra(std::move(*item));
 }
 
 SInt32 CheckedValue(const BindingRule& rule, bool isChecked)
@@ -46,11 +54,11 @@ void FillControl(const FormPlace& place, SInt32 control, const BindingRule& rule
     popup->setMenu(std::move(made.menu), made.maximum);
 }
 
-void ShowInControl(const FormPlace& place, SInt32 control, const BindingRule& rule, SInt32 value)
+void ShowInControl(const FormPlace& place, SInt32 control, const BindingRule& rule, SInt32 value, SInt32 initial)
 {
     QWidget* shown = FindControl(place.root, {place.signature, control});
     if (auto* popup = qobject_cast<PopupButton*>(shown))
-        ShowItem(place, *popup, rule, value);
+        ShowItem(place, *popup, rule, value, initial);
     else if (auto* slider = qobject_cast<SliderField*>(shown))
         slider->setNumber(value);
     else if (auto* field = qobject_cast<SpinField*>(shown))

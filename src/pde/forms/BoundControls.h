@@ -22,8 +22,9 @@ struct FormPlace {
 // Whatever a bound control shows, ShowInControl has shown, and whatever the user changes comes through ValueOfHit or
 // ValueInControl.
 void FillControl(const FormPlace& place, SInt32 control, const BindingRule& rule);
-// A number that no item stands for leaves a pop-up as it is.
-void ShowInControl(const FormPlace& place, SInt32 control, const BindingRule& rule, SInt32 value);
+// A number that no item stands for is one more item of a pop-up, marked and never chosen anew; the initial number is
+// that of a new record.
+void ShowInControl(const FormPlace& place, SInt32 control, const BindingRule& rule, SInt32 value, SInt32 initial);
 SInt32 ValueOfHit(const FormPlace& place, const BindingRule& rule, const HitEvent& hit);
 std::optional<SInt32> ValueInControl(const FormPlace& place, SInt32 control, const BindingRule& rule);
 
@@ -47,7 +48,8 @@ public:
         for (const Binding<Record>& binding : bindings_) {
             const bool isDue = when == Showing::Opened || !binding.rule.whenOpenedOnly;
             if (isDue && binding.control != typedInto)
-                ShowInControl(place_, binding.control, binding.rule, binding.value.get(record));
+                ShowInControl(place_, binding.control, binding.rule, binding.value.get(record),
+                              binding.value.get(Record()));
         }
     }
 

@@ -16,6 +16,8 @@ struct MenuItem {
     bool enabled = true;
     bool checked = false;
     bool separator = false;
+    bool notOffered = false; // of a value that is set and can't be chosen here: shown with a mark, never chosen
+    int instead = 0; // of such an item: the position of the one that takes its place on demand; 0: there is none
     std::vector<MenuItem> submenu = {};
 };
 
@@ -25,6 +27,12 @@ struct Menu {
 
     int count() const { return static_cast<int>(items.size()); }
 };
+
+// A line of a summary that tells of a value that is not offered.
+inline QString WithCaution(const QString& text)
+{
+    return QStringLiteral("\u26A0\uFE0E ") + text; // as a sign of the text, not as a picture
+}
 
 // The first item of that command, submenus included, or null.
 inline MenuItem* FindItem(std::vector<MenuItem>& items, FourCharCode command)

@@ -3,9 +3,11 @@
 #include "toolkit/controls/AccessibleControls.h"
 #include "toolkit/controls/ControlEvent.h"
 #include "toolkit/controls/OpenMenu.h"
+#include "toolkit/style/KestaStyleDrawing.h"
 
 #include <QCoreApplication>
 #include <QCursor>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QTimer>
@@ -83,7 +85,7 @@ const MenuItem* MenuControl::itemAt(const MenuPath& path) const
 bool MenuControl::chooseFromOpenMenu(const MenuPath& path)
 {
     const MenuItem* item = itemAt(path);
-    if (!isEnabled() || !item || !item->enabled || item->separator || !item->submenu.empty() ||
+    if (!isEnabled() || !item || !item->enabled || item->notOffered || item->separator || !item->submenu.empty() ||
         !isOffered(path.front()))
         return false;
     sendChosen(path, MenuItem(*item)); // a copy: handlers may refill the menu
@@ -97,6 +99,27 @@ bool MenuControl::chooseItem(const MenuPath& path)
     const QPointer<MenuControl> alive = this;
     SendControlEvent(*this, MenuEnableItemsEvent{});
     return alive && chooseFromOpenMenu(path);
+}
+
+std::vector<MenuItem> MenuControl::shownNotOffered() const
+{
+    std::vector<MenuItem> shown;
+    int position = 0;
+    for (const MenuItem& item : menu_.items) {
+        if (isMarked(++position, item) && item.notOffered)
+            shown.push_back(item);
+    }
+    return shown;
+}
+
+void MenuControl::chooseInstead()
+{
+    const QPointer<MenuControl> alive = this;
+    for (const MenuItem& shown : shownNotOffered()) {
+        const MenuItem* instead = alive ? itemAt({shown.instead}) : nullptr;
+        if (instead)
+            sendChosen({shown.instead}, MenuItem(*instead));
+    }
 }
 
 bool MenuControl::chooseItem(int position, int submenuPosition)
@@ -124,7 +147,9 @@ void MenuControl::addActions(QMenu& shown, const std::vector<MenuItem>& items, c
             const bool marked = owner.empty() ? isMarked(path.back(), item) : item.checked;
             action->setCheckable(marked);
             action->setChecked(marked);
-            action->setEnabled(item.enabled && isOffered(path.front()));
+            action->setEnabled(item.enabled && !item.notOffered && isOffered(path.front()));
+            if (item.notOffered)
+                action->setIcon(CautionIcon(devicePixelRatio()));
             connect(action, &QAction::triggered, this, [this, path] { chooseFromOpenMenu(path); });
         }
     }

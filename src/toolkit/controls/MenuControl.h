@@ -29,6 +29,11 @@ public:
     bool chooseItem(const MenuPath& path);
     bool chooseItem(int position, int submenuPosition = 0);
 
+    // What the control shows and does not offer, and the way to what takes its place, as if the user had chosen it,
+    // also while the control is hidden with its panel.
+    std::vector<MenuItem> shownNotOffered() const;
+    void chooseInstead();
+
     // Null when the path leads to no item or through a disabled submenu.
     const MenuItem* itemAt(const MenuPath& path) const;
 

@@ -2,11 +2,14 @@
 
 #include "toolkit/controls/ControlEvent.h"
 #include "toolkit/controls/OpenMenu.h"
+#include "toolkit/style/KestaColors.h"
+#include "toolkit/style/KestaStyleDrawing.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QPointer>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
@@ -19,6 +22,8 @@ namespace kesta {
 namespace {
 
 constexpr int kInset = 1; // points, of the text in its field: what Qt's own styles keep free
+constexpr int kMarkSize = 16;
+constexpr int kMarkRoom = kMarkSize + 6; // before the text
 
 QStyleOptionComboBox StyleOption(const PopupButton& button)
 {
@@ -34,6 +39,27 @@ QRect TextRect(const PopupButton& button, const QStyleOptionComboBox& option)
     const QRect field =
         button.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &button);
     return field.adjusted(kInset, 0, -kInset, 0);
+}
+
+bool HasMark(const PopupButton& button)
+{
+    return button.selectedItem() && button.selectedItem()->notOffered;
+}
+
+// What is left of the control for its text; the mark has the rest.
+QRect WithoutMark(const PopupButton& button)
+{
+    const int room = HasMark(button) ? kMarkRoom : 0;
+    return button.isRightToLeft() ? button.rect().adjusted(0, 0, -room, 0) : button.rect().adjusted(room, 0, 0, 0);
+}
+
+void DrawMark(const PopupButton& button, QPainter& painter, const QRect& text)
+{
+    QRect mark(0, 0, kMarkSize, kMarkSize);
+    mark.moveCenter(text.center());
+    button.isRightToLeft() ? mark.moveLeft(text.right() + 1 + kMarkRoom - kMarkSize)
+                           : mark.moveLeft(text.left() - kMarkRoom);
+    DrawCautionMark(painter, mark, CurrentColors().caution);
 }
 
 QSize SizeForText(const PopupButton& button, int textWidth)
@@ -57,6 +83,7 @@ void PopupButton::setMenu(Menu menu, int maximum)
 {
     replaceMenu(std::move(menu));
     maximum_ = maximum;
+    maximumWithoutExtra_.reset();
     menuChanged();
     updateGeometry();
 }
@@ -70,12 +97,38 @@ void PopupButton::setValue(int position)
 {
     value_ = maximum_ < 1 ? 0 : std::clamp(position, 1, maximum_);
     goneThrough_ = false;
+    if (value_ < menu().count())
+        dropExtra();
     const QString title = selectedItem() ? selectedItem()->title : QString();
     if (title == text())
         return;
     setText(title);
     QAccessibleValueChangeEvent changed(this, title);
     QAccessible::updateAccessibility(&changed);
+}
+
+void PopupButton::showExtra(MenuItem item)
+{
+    dropExtra();
+    item.enabled = false;
+    Menu shown = menu();
+    shown.items.push_back(std::move(item));
+    maximumWithoutExtra_ = maximum_;
+    maximum_ = std::max(maximum_, shown.count());
+    const int position = shown.count();
+    replaceMenu(std::move(shown));
+    setValue(position);
+    updateGeometry();
+}
+
+void PopupButton::dropExtra()
+{
+    if (!maximumWithoutExtra_)
+        return;
+    Menu without = menu();
+    without.items.pop_back();
+    replaceMenu(std::move(without));
+    maximum_ = *std::exchange(maximumWithoutExtra_, std::nullopt);
 }
 
 const MenuItem* PopupButton::selectedItem() const
@@ -177,7 +230,9 @@ void PopupButton::keyPressEvent(QKeyEvent* event)
 bool PopupButton::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
-        const bool elided = fontMetrics().horizontalAdvance(text()) > TextRect(*this, StyleOption(*this)).width();
+        QStyleOptionComboBox option = StyleOption(*this);
+        option.rect = WithoutMark(*this);
+        const bool elided = fontMetrics().horizontalAdvance(text()) > TextRect(*this, option).width();
         QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), elided ? text() : QString(), this);
         return true;
     }
@@ -188,7 +243,7 @@ QSize PopupButton::sizeHint() const
 {
     int width = fontMetrics().averageCharWidth() * 12;
     for (const MenuItem& item : menu().items)
-        width = std::max(width, fontMetrics().horizontalAdvance(item.title));
+        width = std::max(width, fontMetrics().horizontalAdvance(item.title) + (item.notOffered ? kMarkRoom : 0));
     return SizeForText(*this, width);
 }
 
@@ -202,7 +257,11 @@ void PopupButton::paintEvent(QPaintEvent*)
     QStylePainter painter(this);
     QStyleOptionComboBox option = StyleOption(*this);
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    option.currentText = fontMetrics().elidedText(text(), Qt::ElideRight, TextRect(*this, option).width());
+    option.rect = WithoutMark(*this);
+    const QRect text = TextRect(*this, option);
+    if (HasMark(*this))
+        DrawMark(*this, painter, text);
+    option.currentText = fontMetrics().elidedText(this->text(), Qt::ElideRight, text.width());
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 

@@ -4,6 +4,8 @@
 
 #include <QElapsedTimer>
 
+#include <optional>
+
 namespace kesta {
 
 // A button that shows the chosen item of its menu. Its value is the menu position from 1, never above its maximum,
@@ -20,6 +22,10 @@ public:
 
     void setMenu(Menu menu); // the maximum becomes the item count
     void setMenu(Menu menu, int maximum);
+
+    // Shows what is set and no item stands for, as one more item that goes with the next other value.
+    void showExtra(MenuItem item);
+    void dropExtra(); // the value waits for the next one
 
     int maximum() const { return maximum_; }
     int value() const { return value_; }
@@ -51,6 +57,7 @@ private:
 
     int maximum_ = 0;
     int value_ = 0;
+    std::optional<int> maximumWithoutExtra_ = {}; // while there is an extra item, the last one
     bool goingThrough_ = false;
     bool goneThrough_ = false;
     QString typed_; // the beginning of a title, as typed so far

@@ -2,8 +2,10 @@
 
 #include "toolkit/style/KestaColors.h"
 
+#include <QIcon>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmap>
 #include <QStyleOption>
 
 #include <algorithm>
@@ -97,6 +99,20 @@ void DrawCautionMark(QPainter& painter, const QRect& rect, const QColor& color)
         painter.drawPoint(QPointF(8, 11.8));
     }
     painter.restore();
+}
+
+QIcon CautionIcon(double devicePixelRatio)
+{
+    constexpr int kSize = 16; // points
+    QPixmap pixmap(QSize(kSize, kSize) * devicePixelRatio);
+    pixmap.setDevicePixelRatio(devicePixelRatio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    DrawCautionMark(painter, QRect(0, 0, kSize, kSize), CurrentColors().caution);
+    painter.end();
+    QIcon icon(pixmap);
+    icon.addPixmap(pixmap, QIcon::Disabled); // what it marks can't be chosen
+    return icon;
 }
 
 } // namespace kesta

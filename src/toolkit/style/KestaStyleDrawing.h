@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QRect>
 
+class QIcon;
 class QPainter;
 class QStyleOption;
 
@@ -23,5 +24,6 @@ void DrawRing(QPainter& painter, const QRect& rect, const QColor& color, double 
 void DrawChevron(QPainter& painter, const QRect& within, Direction direction, const QColor& color, bool rightToLeft);
 void DrawCheckMark(QPainter& painter, const QRect& within, const QColor& color);
 void DrawCautionMark(QPainter& painter, const QRect& rect, const QColor& color);
+QIcon CautionIcon(double devicePixelRatio); // the same, for menus
 
 } // namespace kesta

@@ -1,6 +1,7 @@
 #include "toolkit/style/KestaProxyStyle.h"
 #include "toolkit/style/KestaStyleDrawing.h"
 
+#include <QIcon>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -58,11 +59,12 @@ void DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter)
                      kSelectionRadius);
     const QColor color = selected ? colors.onAccent : enabled ? colors.onBase : colors.disabledOnBase;
     DrawMenuText(item, painter, color);
-    if (item.checkType != QStyleOptionMenuItem::NotCheckable && item.checked) {
-        const QRect mark(item.rect.left() + kSelectionInset, item.rect.top(), kMarkColumn - kSelectionInset,
-                         item.rect.height());
-        DrawCheckMark(painter, Mirrored(item, mark), color);
-    }
+    const QRect mark = Mirrored(item, QRect(item.rect.left() + kSelectionInset, item.rect.top(),
+                                            kMarkColumn - kSelectionInset, item.rect.height()));
+    if (!item.icon.isNull())
+        item.icon.paint(&painter, mark, Qt::AlignCenter, enabled ? QIcon::Normal : QIcon::Disabled);
+    else if (item.checkType != QStyleOptionMenuItem::NotCheckable && item.checked)
+        DrawCheckMark(painter, mark, color);
     if (item.menuItemType == QStyleOptionMenuItem::SubMenu) {
         const QRect arrow(item.rect.right() - kMenuEnd, item.rect.top(), kMenuEnd - kSelectionInset,
                           item.rect.height());

@@ -1,8 +1,10 @@
 #include "toolkit/windows/WindowSummary.h"
 
+#include "toolkit/controls/Controls.h"
 #include "toolkit/controls/PopupButton.h"
 #include "toolkit/controls/SummaryTextView.h"
 
+#include <QPointer>
 #include <QVariant>
 
 #include <map>
@@ -32,6 +34,8 @@ bool IsHiddenItself(const QWidget& control)
 QStringList FactsOf(const PopupButton& popup)
 {
     const MenuItem* item = popup.selectedItem();
+    if (item && item->notOffered)
+        return {WithCaution(item->title)};
     return item && item->value != popup.property(kDefault).toInt() ? QStringList(item->title) : QStringList();
 }
 
@@ -82,12 +86,33 @@ QStringList SummaryFacts(const QString& summary)
     return facts;
 }
 
+std::vector<NotOffered> FindNotOffered(const QWidget& window)
+{
+    std::vector<NotOffered> found;
+    for (const MenuControl* control : window.findChildren<MenuControl*>()) {
+        for (const MenuItem& item : control->shownNotOffered()) {
+            const MenuItem* instead = control->itemAt({item.instead});
+            found.push_back({ControlName(*control), item.title, instead ? instead->title : QString()});
+        }
+    }
+    return found;
+}
+
+void ReplaceNotOffered(QWidget& window)
+{
+    for (const QPointer<MenuControl> control : window.findChildren<MenuControl*>()) {
+        if (control)
+            control->chooseInstead();
+    }
+}
+
 QStringList WindowSummary(const QWidget& window)
 {
     std::map<SInt32, QStringList> found, phrasesOf;
     for (const QWidget* control : window.findChildren<QWidget*>()) {
         const QVariant place = control->property(kPlace);
-        if (!place.isValid() || IsHiddenItself(*control))
+        const auto* menu = qobject_cast<const MenuControl*>(control);
+        if (!place.isValid() || (IsHiddenItself(*control) && !(menu && !menu->shownNotOffered().empty())))
             continue;
         if (const QVariant phrases = control->property(kPhrases); phrases.isValid())
             phrasesOf[place.toInt()] += phrases.toStringList();

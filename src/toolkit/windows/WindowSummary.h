@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <vector>
+
 class QWidget;
 
 namespace kesta {
@@ -22,6 +24,19 @@ void SetSummaryPhrases(QWidget& control, SInt32 place, const QStringList& phrase
 // What those controls show now, a phrase a place. Controls that their panel has hidden are left out, those of a panel
 // that is not in front are not. Never what a person types into a field.
 QStringList WindowSummary(const QWidget& window);
+
+// What a control of the window shows and the printer does not offer, in the words that it is shown with.
+struct NotOffered {
+    QString label;   // of the control
+    QString shown;   // in it
+    QString instead; // what takes its place on demand; empty when there is nothing
+};
+
+// Of all panels, hidden rows included: all of it is in the job.
+std::vector<NotOffered> FindNotOffered(const QWidget& window);
+
+// Takes what has a place taken, as if the user had chosen it.
+void ReplaceNotOffered(QWidget& window);
 
 // The lines of a summary without the dashes before them.
 QStringList SummaryFacts(const QString& summary);

@@ -119,32 +119,50 @@ TEST(FinishingRules, TheStaplePopUpKnowsItsValues)
 
 TEST(FinishingRules, ABookletTakesTheFinishingOverAndGivesTwoSidedBack)
 {
-    Options options{.booklet = {.fold = kFoldBi, .layout = kBookletLayoutOn},
-                    .duplex = kTwoSidedLongEdge,
-                    .staple = 10,
-                    .punch = 3,
-                    .offset = 2,
-                    .offsetSubset = 1};
-    ApplyBooklet(options, kTwoSidedLongEdge);
+    Options options{.duplex = kTwoSidedLongEdge, .staple = 10, .punch = 3, .offset = 2, .offsetSubset = 1};
+    FollowDuplex(options);
+    options.booklet = {.fold = kFoldBi, .layout = kBookletLayoutOn};
+    ApplyBooklet(options);
     EXPECT_EQ(options, (Options{.booklet = {.fold = kFoldBi, .layout = kBookletLayoutOn},
                                 .duplex = kTwoSidedLongEdge,
+                                .duplexPopupValue = kTwoSidedLongEdge,
                                 .duplexSaved = kTwoSidedLongEdge,
                                 .finishingOption = kBookletFoldFinishing,
                                 .bindValue = 1,
                                 .offsetPagesPerSubset = 0}));
     options.duplex = kTwoSidedShortEdge; // what writing the booklet makes of it
+    ApplyBooklet(options);               // its dialog once more
     options.booklet = {};
-    ApplyBooklet(options, kTwoSidedShortEdge);
+    ApplyBooklet(options);
     EXPECT_EQ(options.finishingOption, kNoFinishing);
     EXPECT_EQ(options.duplex, kTwoSidedLongEdge);
-    EXPECT_EQ(options.duplexSaved, kTwoSidedShortEdge);
+    EXPECT_EQ(options.duplexPopupValue, kTwoSidedLongEdge);
+    ApplyBooklet(options); // its dialog without a booklet
+    EXPECT_EQ(options.duplex, kTwoSidedLongEdge);
+}
+
+TEST(FinishingRules, TheOptionFollowsWhatSomebodyElseChose)
+{
+    const auto followed = [](Options options) {
+        FollowFinishing(options);
+        return options.finishingOption;
+    };
+    EXPECT_EQ(followed(Finished(9, 1, 1, 1)), kNoFinishing);
+    EXPECT_EQ(followed(Finished(kNoFinishing, 5, 1, 1)), 4);
+    EXPECT_EQ(followed(Finished(9, 10, 3, 1)), 9) << "of two, that of the last pick stays";
+    EXPECT_EQ(followed(Finished(9, 1, 3, 1)), 30);
+    EXPECT_EQ(followed(Finished(30, 10, 1, 1)), 9);
+    EXPECT_EQ(followed(Finished(kBookletFoldFinishing, 1, 1, kFoldBi)), kBookletFoldFinishing);
+    EXPECT_EQ(followed(Finished(kBookletFoldFinishing, 1, 1, 19)), 40);
+    EXPECT_EQ(followed(Finished(kNoFinishing, 1, 1, kFoldBiStaple)), kBookletFoldFinishing);
+    EXPECT_EQ(followed(Finished(kCoilPunchFinishing, 1, 1, 1)), kCoilPunchFinishing) << "none of the table's";
 }
 
 TEST(FinishingRules, OtherFinishingOutlivesABookletDialogWithoutAFold)
 {
     Options options = Finished(4, 5, 1, 1);
     options.offset = 2;
-    ApplyBooklet(options, std::nullopt);
+    ApplyBooklet(options);
     EXPECT_EQ(options.finishingOption, 4);
     EXPECT_EQ(options.staple, 5);
     EXPECT_EQ(options.offset, 2);
@@ -238,6 +256,8 @@ TEST(FinishingSummary, HasOneLineForEachKindOfFinishing)
         return CreateFinishingString(Texts(), options, accessories);
     };
     constexpr FinishingAccessories kAll{.hasStapler = true, .hasPunch = true, .hasFolder = true};
+    const test::WithFeatures fitted(
+        {u"SingleStapleKey"_s, u"GenericPunchKey"_s, u"TriplePunchKey"_s, u"BookletFoldKey"_s, u"CFoldKey"_s});
     EXPECT_EQ(summary(Finished(4, 5, 4, 1), {.hasStapler = true, .hasPunch = true}), u"- 1 Staple\n- 3 Hole Punch\n"_s);
     EXPECT_EQ(summary(Finished(30, 1, kPunchAny, kFoldBiStaple), kAll),
               u"- No Staple Value\n- HolePunch\n- No Fold\n"_s)
@@ -246,6 +266,29 @@ TEST(FinishingSummary, HasOneLineForEachKindOfFinishing)
     EXPECT_EQ(summary({.booklet = {.fold = 19, .layout = kBookletLayoutOn}}, kAll), u"- No Fold\n- Booklet Layout\n"_s);
     EXPECT_EQ(summary({}, {}), u""_s);
     EXPECT_FALSE(summary({}, {}).isNull()) << "an empty text is shown, none is not";
+}
+
+TEST(FinishingSummary, MarksWhatThePrinterCantDo)
+{
+    const test::WithAccessories fitted({{"Option2", "CClass"}, {"Option4", "HolePunch23"}});
+    const auto summary = [](const Options& options) {
+        return CreateFinishingString(Texts(), options, RowsFor(GetFinishingAccessories(), options));
+    };
+    const QString mark = WithCaution(u"Not On This Printer "_s);
+    EXPECT_EQ(summary(Finished(30, 10, 5, 1)), u"- 2 Staples\n- "_s + mark + u"4 Hole Punch\n"_s);
+    EXPECT_EQ(summary(Finished(40, 1, 1, 20)), u"- No Staple Value\n- NoHolePunch\n- %1FoldZFold\n"_s.arg(mark));
+    EXPECT_EQ(summary(Finished(24, 1, 1, 53)), u"- %1Booklet FoldStaple\n"_s.arg(mark));
+
+    Menu menu = FinishingMenu(Texts());
+    const int before = menu.count();
+    AddNotOffered(menu, Texts(), Finished(40, 1, 5, 20));
+    AddNotOffered(menu, Texts(), Finished(40, 1, 5, 20));
+    ASSERT_EQ(menu.count(), before + 3) << "holes, no fold, fold";
+    EXPECT_EQ(menu.items.back().title, u"Not On This Printer FoldZFold"_s);
+    EXPECT_EQ(menu.items[menu.items.back().instead - 1].command, "Fld0"_code);
+    EXPECT_EQ(menu.items[before + 1].instead, 6) << "no holes";
+    AddNotOffered(menu, Texts(), {});
+    EXPECT_EQ(menu.count(), before + 1) << "the way back stays";
 }
 
 TEST(FinishingSummary, TransparenciesNameTheirSeparators)

@@ -1,5 +1,6 @@
 #include "panels/paper_output/PaperOutputOptions.h"
 
+#include "panels/paper_output/FinishingRules.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"
 #include "platform/printsystem/JobSettings.h"
@@ -43,7 +44,7 @@ PaperOutputOptions Chosen()
     chosen.recipientList.emplace(Array{Dictionary{{"kFaxRecipientFaxNumberProperty", "123"}}});
     chosen.booklet = {
         .fold = 20, .layout = kBookletLayoutOn, .drawOutlines = 2, .newPaperSize = 4, .gutter = 36, .creep = 7};
-    chosen.duplex = kTwoSidedShortEdge;
+    chosen.duplex = chosen.duplexPopupValue = chosen.duplexSaved = kTwoSidedShortEdge;
     chosen.finishingOption = 30;
     chosen.staple = 10;
     chosen.punch = 4;
@@ -188,6 +189,63 @@ TEST(PaperOutputOptions, TwoSidedComesFromTheFirstPlaceThatSaysIt)
     EXPECT_EQ(options.duplex, kTwoSidedLongEdge);
 }
 
+TEST(PaperOutputOptions, AChoiceThatSomebodyElseChangedPrevailsOverTheEntries)
+{
+    PaperOutputOptions options;
+    Ticket ticket;
+    ticket.set("X", key::FinishingDuplex, Number::Index(2));
+    PPDSetCurrentChoice(ticket, "Duplex", "DuplexTumble");
+    ReadTicket(options, ticket, nullptr);
+    EXPECT_EQ(options.duplex, kTwoSidedLongEdge) << "at first nobody changed anything";
+    EXPECT_EQ(options.duplexPopupValue, kTwoSidedLongEdge);
+    ApplyFinishingCommand(options, "Stp1"_code);
+    WriteTicket(options, ticket);
+
+    PPDSetCurrentChoice(ticket, "Duplex", "None");
+    PPDSetCurrentChoice(ticket, "StapleLocation", "None");
+    PPDSetCurrentChoice(ticket, "KSPunch", "2HolePunch");
+    ReadTicket(options, ticket, nullptr);
+    EXPECT_EQ(options.duplexPopupValue, kOneSided);
+    WriteTicket(options, ticket);
+    EXPECT_EQ(ReadTicketValue(ticket, key::FinishingDuplex), kOneSided);
+    EXPECT_EQ(ReadTicketValue(ticket, key::PMDuplexing), kOneSided);
+    EXPECT_EQ(ReadTicketValue(ticket, key::FinishingOptions), 30);
+
+    options.booklet.layout = kBookletLayoutOn;
+    WriteTicket(options, ticket);
+    ReadTicket(options, ticket, nullptr);
+    EXPECT_TRUE(options.booklet.isOn());
+    PPDSetCurrentChoice(ticket, "Duplex", "None");
+    ReadTicket(options, ticket, nullptr);
+    EXPECT_FALSE(options.booklet.isOn()) << "it needs two sides";
+    EXPECT_EQ(options.duplex, kOneSided);
+}
+
+TEST(PaperOutputOptions, ABookletsSizeStaysWhilePanelsChange)
+{
+    PaperOutputOptions options{.booklet = {.layout = kBookletLayoutOn, .newPaperSize = 4}};
+    Ticket ticket;
+    WriteTicket(options, ticket);
+    WriteTicket(options, ticket, {.booklet = false});
+    PaperOutputOptions read;
+    ReadTicket(read, ticket, nullptr);
+    EXPECT_EQ(read.booklet.newPaperSize, 4);
+    EXPECT_EQ(read.stock.size(), 4);
+}
+
+TEST(PaperOutputOptions, ThePapersTabCountStaysWhilePanelsChange)
+{
+    for (const SInt32 forced : {kUnset, SInt32{4}}) {
+        PaperOutputOptions options{.booklet = {.layout = kBookletLayoutOn, .newPaperSize = forced}};
+        options.stock.setType(kStockTypeTabStock);
+        options.stock.setModulus(5);
+        Ticket ticket;
+        WriteTicket(options, ticket);
+        ReadTicket(options, ticket, nullptr);
+        EXPECT_EQ(options.stock.modulus(), 5) << forced;
+    }
+}
+
 TEST(PaperOutputOptions, ASingleStapleFollowsTheOrientation)
 {
     struct Case {
@@ -280,7 +338,8 @@ TEST(PaperOutputOptions, ADamagedTicketReadsAsAnEmptyOne)
         PaperOutputOptions options;
         ReadTicket(options, damaged, nullptr);
         EXPECT_EQ(options.jobType.number, kJobTypeNormal);
-        EXPECT_EQ(options.printQuality, kStandardQuality);
+        EXPECT_EQ(options.printQuality, wrong == Value(Number::Index(99'999)) ? 99'999 : kStandardQuality)
+            << "what a number says is shown";
         EXPECT_EQ(options.duplex, kOneSided);
         EXPECT_EQ(options.booklet.layout, kBookletLayoutOff);
         EXPECT_EQ(options.jobType.securePasscode, std::nullopt);

@@ -14,6 +14,7 @@
 #include "support/Recorders.h"
 #include "toolkit/controls/MenuButton.h"
 #include "toolkit/controls/SummaryTextView.h"
+#include "toolkit/windows/WindowSummary.h"
 
 #include <algorithm>
 
@@ -192,18 +193,76 @@ TEST_F(PaperOutputPanelTest, ABookletHoldsTwoSidedAndGivesItBack)
 
     create(booklet::kLayoutOffRadio, booklet::kFoldNoneRadio);
     EXPECT_TRUE(popup(kTwoSidedPopup)->isEnabled());
-    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedShortEdge) << "the user's last pick";
+    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedShortEdge) << "what it was before";
     EXPECT_EQ(options().finishingOption, kNoFinishing);
 }
 
-TEST_F(PaperOutputPanelTest, OpeningShowsTheJobsTwoSidedAndLaterSyncsTheUsersPick)
+TEST_F(PaperOutputPanelTest, TwoSidedIsShownAsTheJobHasIt)
 {
     ticket.set("X", key::FinishingDuplex, Number::Index(3));
     open();
     EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedShortEdge);
     ASSERT_EQ(sync(true), noErr);
-    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kOneSided);
-    EXPECT_EQ(options().duplex, kTwoSidedShortEdge);
+    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedShortEdge);
+    ticket.set("X", key::FinishingDuplex, Number::Index(2));
+    ASSERT_EQ(sync(true), noErr);
+    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedLongEdge);
+}
+
+// Settings of a printer with everything, on one with nothing.
+TEST_F(PaperOutputPanelTest, WhatThisPrinterCantDoIsShownAsWhatItIsUntilSomethingElseIsChosen)
+{
+    const test::WithAccessories fitted({{"Option2", "None"}, {"Option4", "None"}, {"Option8", "False"}});
+    ticket.set("X", key::JobType, Dictionary{{"JobType", Number::SInt32(kJobTypeSavedJob)}});
+    ticket.set("X", key::FinishingOutputColor, Number::Index(77));
+    PPDSetCurrentChoice(ticket, "OutputBin", "Middle2");
+    PPDSetCurrentChoice(ticket, "StapleLocation", "DualLandscape");
+    PPDSetCurrentChoice(ticket, "KSPunch", "4HolePunch");
+    open();
+    const auto words = [this] {
+        QStringList found;
+        for (const NotOffered& one : FindNotOffered(pane))
+            found << one.shown + u" > "_s + one.instead;
+        return found;
+    };
+    EXPECT_EQ(popup(kJobTypePopup)->text(), u"Not On This Printer SavedJob"_s);
+    EXPECT_EQ(popup(kDestinationPopup)->text(), u"Not On This Printer Middle2"_s);
+    EXPECT_EQ(words().size(), 5) << words().join(u'\n').toStdString();
+    EXPECT_TRUE(words().contains(u"Not On This Printer 4 Hole Punch > NoHolePunch"_s));
+    EXPECT_TRUE(WindowSummary(pane).contains(WithCaution(u"Not On This Printer SavedJob"_s)));
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "OutputBin"), u"Middle2"_s);
+    EXPECT_EQ(ReadTicketValue(ticket, key::FinishingOutputColor), 77);
+
+    EXPECT_FALSE(popup(kJobTypePopup)->chooseItem(popup(kJobTypePopup)->value()));
+    ReplaceNotOffered(pane);
+    EXPECT_EQ(words(), QStringList());
+    EXPECT_EQ(GetPopupButtonTicketValue(popup(kJobTypePopup)), kJobTypeNormal);
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "StapleLocation"), u"None"_s);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "KSPunch"), u"None"_s);
+    EXPECT_EQ(ReadTicketValue(ticket, key::FinishingOutputColor), kStandardQuality);
+}
+
+TEST_F(PaperOutputPanelTest, WithoutABookletMakerTheTwoSidedRowSaysWhatHoldsItAndEndsIt)
+{
+    const test::WithAccessories fitted({{"Option2", "CClass"}, {"Option4", "None"}});
+    ticket.set("X", key::BookletLayout, true);
+    ticket.set("X", key::FinishingDuplex, Number::Index(3));
+    PPDSetCurrentChoice(ticket, "KSFold", "BiFold");
+    open();
+    QWidget *reason = control(kTwoSidedReason), *end = control(kEndBookletButton);
+    EXPECT_FALSE(popup(kTwoSidedPopup)->isEnabled());
+    EXPECT_EQ(popup(kTwoSidedPopup)->accessibleDescription(), u"Booklet Holds Two Sided"_s);
+    EXPECT_TRUE(reason->isVisibleTo(&pane) && end->isVisibleTo(&pane));
+    ClickControl(end);
+    EXPECT_FALSE(reason->isVisibleTo(&pane) || end->isVisibleTo(&pane));
+    EXPECT_TRUE(control(kTwoSidedTrailing)->isVisibleTo(&pane));
+    EXPECT_TRUE(popup(kTwoSidedPopup)->isEnabled());
+    EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kTwoSidedShortEdge);
+    EXPECT_EQ(ticket.values().boolean(key::BookletLayout), false) << "at once";
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "KSFold"), u"None"_s);
 }
 
 TEST_F(PaperOutputPanelTest, TwoSidedAndBookletAreLeftToTheirOwners)

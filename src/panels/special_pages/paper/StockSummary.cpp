@@ -1,5 +1,6 @@
 #include "panels/special_pages/paper/StockSummary.h"
 
+#include "pde/menus/Binding.h"
 #include "platform/plugins/Bundle.h"
 #include "printer/InstallableOptions.h"
 #include "printer/PPDUtilities.h"
@@ -87,6 +88,16 @@ private:
     QStringList parts_;
 };
 
+// Of a printer that has the option and not this choice. A choice that has no number is known of the job alone.
+Text OrNotOffered(const Text& text, const Bundle& bundle, JobContext context, PPDKeyword option, SInt32 value)
+{
+    const bool hasNoNumber = value == kUnmappedChoice && context != JobContext::Job;
+    if (text || hasNoNumber || !PPDCopyDefaultChoice(PPDGetCurrent(), option.name()))
+        return text;
+    const auto item = ItemForOther(bundle, {.option = option}, PPDGetCurrent(), Menu(), value, kUnset);
+    return !item ? Text() : item->notOffered ? WithCaution(item->title) : item->title;
+}
+
 void AddPaper(Parts& parts, const Bundle& bundle, JobContext context, const Stock& stock)
 {
     const bool isJob = context == JobContext::Job;
@@ -94,13 +105,13 @@ void AddPaper(Parts& parts, const Bundle& bundle, JobContext context, const Stoc
     if (stock.customNameOnly())
         return;
     if (!isJob && stock.size() != kUnset)
-        parts.add(StockSizeText(stock));
+        parts.add(OrNotOffered(StockSizeText(stock), bundle, context, "PageSize", stock.size()));
     if (stock.color() == kStockColorText)
         parts.addNamed("StockColor", StockColorText(stock));
     else if (isJob || stock.color() != kUnset)
-        parts.add(StockColorText(stock));
+        parts.add(OrNotOffered(StockColorText(stock), bundle, context, "MediaColor", stock.color()));
     if (isJob || stock.type() != kUnset)
-        parts.add(StockTypeText(bundle, stock));
+        parts.add(OrNotOffered(StockTypeText(bundle, stock), bundle, context, "MediaType", stock.type()));
 }
 
 } // namespace
