@@ -95,9 +95,15 @@ TEST_F(BindingTest, WhatNoItemStandsForHasANameOrANumber)
     PPDSetCurrentChoice(ticket, "Duplex", "DuplexTumble");
     EXPECT_EQ(title({.option = PPDKeyword("Duplex")}, kUnmappedChoice), u"not marked"_s) << "the printer has it";
 
-    ppd = nullptr; // nothing of the kind
+    test::PPDVariant bare;
+    bare.removeOption("KSEconomode");
+    PPDCloseCurrent();
+    printer.setPPD(bare.path());
+    ppd = PPDGetCurrent();
     EXPECT_FALSE(other({.option = PPDKeyword("KSEconomode")}, 5, 5));
     EXPECT_EQ(title({.option = PPDKeyword("KSEconomode")}, 1), u"Draft"_s);
+    ppd = nullptr;
+    EXPECT_FALSE(other({.option = PPDKeyword("KSEconomode")}, 1)) << "nobody knows";
 }
 
 } // namespace

@@ -79,7 +79,9 @@ QString NotOnThisPrinter(const Bundle& bundle, const QString& what)
 std::optional<MenuItem> ItemForOther(const Bundle& bundle, const BindingRule& rule, ppd_file_t* ppd, const Menu& menu,
                                      SInt32 value, SInt32 initial)
 {
-    if (value == kUnset || value == rule.otherwise || (menu.items.empty() && value == initial))
+    const bool isPrinterUnknown = rule.option && !ppd;
+    const bool goesWithoutSaying = value == kUnset || value == rule.otherwise;
+    if (isPrinterUnknown || goesWithoutSaying || (menu.items.empty() && value == initial))
         return std::nullopt;
     if (rule.option && value == kUnmappedChoice)
         return ItemForUnmapped(bundle, *rule.option, ppd, menu);

@@ -61,6 +61,7 @@ QString NotOnThisPrinter(const Bundle& bundle, const QString& what);
 // What is shown of a number that no item of the menu stands for: an item of its own, marked as not offered unless the
 // number stands for a choice of the printer's that has none. Nothing for what goes without saying: not set, what a
 // ticket means that does not say, or, where the printer has nothing to choose from, the record's initial number.
+// Nothing, either, of an option of a printer without a PPD.
 std::optional<MenuItem> ItemForOther(const Bundle& bundle, const BindingRule& rule, ppd_file_t* ppd, const Menu& menu,
                                      SInt32 value, SInt32 initial);
 

@@ -14,6 +14,7 @@ constexpr int kMenuRow = 26; // points, as are all here
 constexpr int kSeparatorRow = 9;
 constexpr int kMarkColumn = 28;
 constexpr int kMenuEnd = 24;
+constexpr QSize kIcon(16, 16);
 constexpr int kSortArrowWidth = 20;
 constexpr int kSelectionInset = 4;
 constexpr double kSelectionRadius = 4;
@@ -62,7 +63,8 @@ void DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter)
     const QRect mark = Mirrored(item, QRect(item.rect.left() + kSelectionInset, item.rect.top(),
                                             kMarkColumn - kSelectionInset, item.rect.height()));
     if (!item.icon.isNull())
-        item.icon.paint(&painter, mark, Qt::AlignCenter, enabled ? QIcon::Normal : QIcon::Disabled);
+        item.icon.paint(&painter, QStyle::alignedRect(item.direction, Qt::AlignCenter, kIcon, mark), Qt::AlignCenter,
+                        enabled ? QIcon::Normal : QIcon::Disabled);
     else if (item.checkType != QStyleOptionMenuItem::NotCheckable && item.checked)
         DrawCheckMark(painter, mark, color);
     if (item.menuItemType == QStyleOptionMenuItem::SubMenu) {

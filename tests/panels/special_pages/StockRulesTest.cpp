@@ -105,6 +105,12 @@ TEST_F(StockRulesTest, WhatHasNoTextIsLeftOutAndNothingAtAllHasAWord)
     stock.setType(kStockTypeBond);
     stock.setColor(kStockColorRed);
     EXPECT_EQ(StockSummaryText(bundle, &stock, JobContext::Job), u"- Red\n- Bond"_s);
+
+    test::PPDVariant without;
+    without.replaceLines("*MediaColor Red/", "");
+    PPDCloseCurrent();
+    const test::CurrentPrinter other(without);
+    EXPECT_EQ(summary(), u"- "_s + WithCaution(u"Not On This Printer Red"_s) + u"; - Bond"_s);
 }
 
 TEST_F(StockRulesTest, TheMenuHasASizeAndAnInserterForSpecialPagesOnly)

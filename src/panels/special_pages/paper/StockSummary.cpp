@@ -88,11 +88,13 @@ private:
     QStringList parts_;
 };
 
-// Of a printer that has the option and not this choice. A choice that has no number is known of the job alone.
+// Of a printer that has the option and not this choice. A choice that has no number is known of the job alone; a number
+// that is no choice has no text.
 Text OrNotOffered(const Text& text, const Bundle& bundle, JobContext context, PPDKeyword option, SInt32 value)
 {
-    const bool hasNoNumber = value == kUnmappedChoice && context != JobContext::Job;
-    if (text || hasNoNumber || !PPDCopyDefaultChoice(PPDGetCurrent(), option.name()))
+    const bool isUnmapped = value == kUnmappedChoice;
+    const bool isChoice = isUnmapped ? context == JobContext::Job : PPDChoiceForTicketValue(option, value) != nullptr;
+    if (text || !isChoice || !PPDCopyDefaultChoice(PPDGetCurrent(), option.name()))
         return text;
     const auto item = ItemForOther(bundle, {.option = option}, PPDGetCurrent(), Menu(), value, kUnset);
     return !item ? Text() : item->notOffered ? WithCaution(item->title) : item->title;
