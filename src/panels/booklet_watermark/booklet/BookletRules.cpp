@@ -1,22 +1,12 @@
 #include "panels/booklet_watermark/booklet/BookletRules.h"
 
-#include "pde/interface/TicketKeys.h"
+#include "model/FirstSpecialPages.h"
 #include "printer/FinishingKinds.h"
 
 #include <array>
 
 namespace kesta {
 namespace {
-
-// Lists come as arrays, covers as dictionaries; nothing when the key is absent.
-std::optional<bool> HoldsEntries(const Ticket& settings, const char* key)
-{
-    if (const Array* list = settings.values().array(key))
-        return !list->empty();
-    if (const Dictionary* record = settings.values().dictionary(key))
-        return record->count() != 0;
-    return std::nullopt;
-}
 
 struct Illustration {
     SInt32 fold; // the last row stands for every other
@@ -44,13 +34,8 @@ const Illustration& IllustrationFor(SInt32 fold)
 
 bool SpecialPagesLockBooklet(const Ticket& settings)
 {
-    if (const auto exceptions = HoldsEntries(settings, key::SpecialPagesExceptionList))
-        return *exceptions;
-    if (const auto inserts = HoldsEntries(settings, key::SpecialPagesInsertList))
-        return *inserts;
-    if (HoldsEntries(settings, key::SpecialPagesFrontCover))
-        return false;
-    return HoldsEntries(settings, key::SpecialPagesBackCover).value_or(false);
+    const std::optional<FirstSpecialPages> first = FirstSpecialPagesOf(settings);
+    return first && first->holdsAny && first->kind != SpecialPagesKind::FrontCover;
 }
 
 const char* BookletIllustration(const Booklet& booklet)

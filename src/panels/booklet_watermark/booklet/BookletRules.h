@@ -4,8 +4,7 @@
 
 namespace kesta {
 
-// Whether special pages stand in the way of a booklet. The first of exceptions, inserts, front cover and back cover
-// that the ticket has at all decides, by holding an entry; a front cover never stands in the way.
+// Whether the ticket's first special pages stand in the way of a booklet; a front cover never does.
 bool SpecialPagesLockBooklet(const Ticket& settings);
 
 // File name of the picture that shows the combination.
