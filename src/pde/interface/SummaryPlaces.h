@@ -11,6 +11,7 @@ struct SummaryPlace {
     static constexpr SInt32 Sides = 3;
     static constexpr SInt32 Finishing = 4;
     static constexpr SInt32 OtherPages = 5;
+    static constexpr SInt32 Watermark = 6;
 };
 
 } // namespace kesta

@@ -2,12 +2,15 @@
 
 #include "model/JobType.h"
 #include "pde/interface/JobTypeCheck.h"
+#include "pde/interface/PanelChoice.h"
 #include "pde/menus/BundleUtilities.h"
 #include "pde/menus/SystemUtilities.h"
 #include "pde/ticket/LocalizedText.h"
 #include "platform/plugins/Bundle.h"
 #include "platform/system/Notices.h"
 #include "toolkit/windows/InterfaceFile.h"
+
+#include <algorithm>
 
 namespace kesta::shell {
 namespace {
@@ -18,6 +21,13 @@ constexpr int kMostPasscodeDigits = 10;
 
 enum class Step : SInt32 { Previous = -1, Next = 1 };
 
+void SelectAndShowInChoice(SInt32 index, PDEShellContext& shell)
+{
+    selectPanel(index, shell);
+    if (PopupButton* choice = FindPopupButton(shell.parentPane, {kSignature, kPanelChoice}))
+        choice->setValue(index);
+}
+
 void SelectAndShowInChoice(Step step, PDEShellContext& shell)
 {
     const auto count = static_cast<SInt32>(shell.panels.size());
@@ -26,9 +36,17 @@ void SelectAndShowInChoice(Step step, PDEShellContext& shell)
         index = 1;
     else if (index < 1)
         index = count;
-    selectPanel(index, shell);
-    if (PopupButton* choice = FindPopupButton(shell.parentPane, {kSignature, kPanelChoice}))
-        choice->setValue(index);
+    SelectAndShowInChoice(index, shell);
+}
+
+// Nothing where the pane has no such panel.
+EventResult ShowPanelTitled(const QString& title, PDEShellContext& shell)
+{
+    const auto panel = std::ranges::find(shell.panels, title, &PanelRecord::title);
+    if (panel == shell.panels.end() || panel->index == kTakesNoPart)
+        return EventResult::NotHandled;
+    SelectAndShowInChoice(panel->index, shell);
+    return EventResult::Handled;
 }
 
 EventResult HandleHit(PDEShellContext& shell, const HitEvent& hit)
@@ -64,6 +82,8 @@ EventResult HandleCommand(PDEShellContext& shell, FourCharCode command)
     case kCommandPanelDown:
         SelectAndShowInChoice(Step::Previous, shell);
         return EventResult::NotHandled;
+    case kCommandShowSpecialPages:
+        return ShowPanelTitled(LocalizedString(*shell.bundle, "SpecialPagesTitle"), shell);
     case kCommandOK:
         return CheckJobType(*shell.bundle);
     default:

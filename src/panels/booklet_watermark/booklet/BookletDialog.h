@@ -40,6 +40,11 @@ enum Control : SInt32 {
     kCreepField = 14,
     kCreepRange = 15,
     kIllustration = 16,
+    kFoldScene = 17,
+    kFoldHint = 18,
+    kLockRow = 19,
+    kLockMark = 20,
+    kLockReason = 21,
 };
 
 } // namespace booklet
