@@ -3,7 +3,8 @@
 #include "panels/booklet_watermark/BookletWatermarkView.h"
 #include "panels/booklet_watermark/WatermarkCommands.h"
 #include "panels/booklet_watermark/booklet/BookletDialog.h"
-#include "pde/interface/TicketKeys.h"
+#include "pde/interface/PanelChoice.h"
+#include "pde/ticket/TicketUtilities.h"
 #include "toolkit/controls/Controls.h"
 
 #include <QTimer>
@@ -11,11 +12,11 @@
 namespace kesta::booklet_watermark {
 namespace {
 
-// The other panels' rules ask the ticket.
-void WriteLayoutAtOnce(const _BookletWatermarkContext& panel)
+void TellOthers(const _BookletWatermarkContext& panel)
 {
     if (Ticket* settings = GetTicketFromSession(*panel.session, kPMPrintSettingsTicket).ticket)
-        settings->set(kPrintingManagerClient, key::BookletLayout, panel.options.booklet.isOn());
+        WriteBookletAtOnce(panel.options.booklet, *settings);
+    SendControlEvent(*panel.view, CommandEvent{.command = kCommandOthersRead});
 }
 
 bool IsGoneThrough(const _BookletWatermarkContext& panel)
@@ -65,16 +66,14 @@ EventResult bookletWatermarkEventHandler(_BookletWatermarkContext& panel, const 
 {
     BoundOptions(panel).take(hit, panel.options);
     switch (hit.control.number) {
-    case kLayoutPopup:
-        WriteLayoutAtOnce(panel);
-        ShowBooklet(panel);
-        break;
-    case kBordersPopup:
-        ShowBooklet(panel);
-        break;
     case kOptionsButton:
-        if (RunModalBookletOptionsDialog(*panel.bundle, panel.options.booklet) == noErr)
-            WriteLayoutAtOnce(panel);
+        if (RunModalBookletOptionsDialog(*panel.bundle, panel.options.booklet) != noErr)
+            break;
+        [[fallthrough]];
+    case kLayoutPopup:
+        TellOthers(panel);
+        [[fallthrough]];
+    case kBordersPopup:
         ShowBooklet(panel);
         break;
     }

@@ -144,6 +144,15 @@ void ReadTicket(BookletWatermarkOptions& options, const Ticket& settings, ppd_fi
     ReadWatermarkChoice(options.watermark, settings, names);
 }
 
+void WriteBookletAtOnce(const Booklet& booklet, Ticket& ticket)
+{
+    const TicketWriter settings(ticket, kPrintingManagerClient);
+    settings.set(key::BookletLayout, booklet.isOn());
+    PPDSetChoiceForTicketValue(settings, OptionOf(Finishing::Fold), booklet.fold);
+    if (!booklet.isOn())
+        RestoreTwoSided(settings);
+}
+
 void WriteTicket(BookletWatermarkOptions& options, Ticket& ticket, ppd_file_t* ppd, const QStringList& names,
                  BookletScope scope, const MakeFont& makeFont)
 {

@@ -42,6 +42,9 @@ void ReadTicket(BookletWatermarkOptions& options, const Ticket& settings, ppd_fi
 // Makes the font program of a watermark of that name; see convertFont.
 using MakeFont = std::function<ConvertedFont(const QString& name)>;
 
+// What other panels ask the ticket for is there as soon as the user has changed it.
+void WriteBookletAtOnce(const Booklet& booklet, Ticket& settings);
+
 enum class BookletScope { Left, Written };
 void WriteTicket(BookletWatermarkOptions& options, Ticket& settings, ppd_file_t* ppd, const QStringList& names,
                  BookletScope scope, const MakeFont& makeFont);

@@ -46,6 +46,15 @@ void ShowLock(const _BookletWatermarkContext& panel)
     SetControlVisible(FindHere(panel, kSpecialPagesLink), lock.bySpecialPages);
 }
 
+// Where the printer folds booklets, the summary of its finishing says this, too.
+void ShowBookletInSummary(const _BookletWatermarkContext& panel)
+{
+    const bool isSaid = panel.options.booklet.isOn() && !panel.options.foldsBooklets;
+    if (QWidget* popup = FindHere(panel, kLayoutPopup))
+        SetSummaryPhrases(*popup, SummaryPlace::Finishing,
+                          isSaid ? QStringList(LocalizedString(*panel.bundle, "Booklet Layout")) : QStringList());
+}
+
 QString SummaryPhrase(const _BookletWatermarkContext& panel)
 {
     const WatermarkChoice& watermark = panel.options.watermark;
@@ -106,6 +115,7 @@ void ShowBooklet(const _BookletWatermarkContext& panel)
     if (auto* picture = FindControlAs<PictureView>(panel.view, {kSignature, kIllustration}))
         picture->setPicture(QString::fromLatin1(BookletIllustration(booklet)));
     ShowLock(panel);
+    ShowBookletInSummary(panel);
 }
 
 void FillWatermarkMenu(const _BookletWatermarkContext& panel)

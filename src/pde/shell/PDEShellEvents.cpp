@@ -49,6 +49,15 @@ EventResult ShowPanelTitled(const QString& title, PDEShellContext& shell)
     return EventResult::Handled;
 }
 
+EventResult LetOthersRead(const PDEShellContext& shell)
+{
+    for (const PanelRecord& panel : shell.panels) {
+        if (panel.index != kTakesNoPart && panel.index != GetShownPanel()._lastTabIndex)
+            panel.interface.Sync(panel.context, shell.session, true);
+    }
+    return EventResult::Handled;
+}
+
 EventResult HandleHit(PDEShellContext& shell, const HitEvent& hit)
 {
     if (hit.control.signature != kSignature)
@@ -84,6 +93,8 @@ EventResult HandleCommand(PDEShellContext& shell, FourCharCode command)
         return EventResult::NotHandled;
     case kCommandShowSpecialPages:
         return ShowPanelTitled(LocalizedString(*shell.bundle, "SpecialPagesTitle"), shell);
+    case kCommandOthersRead:
+        return LetOthersRead(shell);
     case kCommandOK:
         return CheckJobType(*shell.bundle);
     default:

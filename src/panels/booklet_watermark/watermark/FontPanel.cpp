@@ -207,6 +207,7 @@ void Begin(FontPanel& panel)
     panel.fonts = GetDrawingLibrary().InstalledFonts();
     SortFonts(panel.fonts);
     if (ListView* list = panel.list()) {
+        list->setColumns({{.title = LocalizedString(panel.bundle, "Font:"), .stretches = true}});
         list->setItemDelegate(new FontNames(panel, list));
         list->header()->hide();
         list->setMinimumHeight(7 * kRowHeight);
