@@ -70,6 +70,11 @@ TEST_F(BookletWatermarkPanelTest, WhatTheUserPicksReachesTheTicketAndComesBack)
     ASSERT_EQ(sync(false), noErr);
     EXPECT_EQ(*ticket.values().string(key::WatermarkName), u"DraftWatermark"_s);
     EXPECT_TRUE(ticket.values().string(key::WatermarkSubsetFontName)->startsWith(u"KS-"_s));
+    const Dictionary written = ticket.values(), choices = ticket.ppdDict();
+    ASSERT_EQ(sync(true), noErr);
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(ticket.values(), written) << "read back and written the same";
+    EXPECT_EQ(ticket.ppdDict(), choices);
 
     EXPECT_TRUE(Pick(popup(kLayoutPopup), kBookletLayoutOff));
     EXPECT_TRUE(PickCommand(watermarks(), kNoWatermarkCommand));

@@ -1,5 +1,6 @@
-#include "panels/booklet_watermark/fonts/GlyphOutline.h"
 #include "panels/booklet_watermark/watermark/DrawingLibrary.h"
+
+#include "panels/booklet_watermark/fonts/GlyphOutline.h"
 #include "panels/booklet_watermark/watermark/PagePicture.h"
 #include "panels/booklet_watermark/watermark/WatermarkPreview.h"
 
