@@ -102,6 +102,7 @@ TEST_F(PopupKeys, AnOpenMenuGoesToItsEndsAndToWhatIsTyped)
             active << menu.activeAction()->text();
         };
         press(Qt::Key_End);
+        EXPECT_FALSE(menu.activeAction()->menu()->isVisible()) << "the next key would go to the submenu";
         press(Qt::Key_Home);
         press(Qt::Key_L, u"l"_s);
         press(Qt::Key_E, u"e"_s);

@@ -20,13 +20,17 @@ bool WritesTitle(const QKeyEvent& key, bool goesOn)
     return plain && !typed.isEmpty() && typed.front().isPrint() && (key.key() != Qt::Key_Space || goesOn);
 }
 
-// To the first of them that can be gone to.
+// To the first of them that can be gone to, in steps of the menu's own: made active at once it would open its submenu,
+// and the keys that follow would go there.
 void OpenMenu::goTo(QList<QAction*> candidates)
 {
     const auto found = std::ranges::find_if(
         candidates, [](const QAction* one) { return !one->isSeparator() && one->isVisible() && one->isEnabled(); });
-    if (found != candidates.end())
-        setActiveAction(*found);
+    for (qsizetype steps = actions().size(); found != candidates.end() && activeAction() != *found && steps > 0;
+         --steps) {
+        QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+        QMenu::keyPressEvent(&down);
+    }
 }
 
 bool OpenMenu::goByTyping(const QKeyEvent& key)
