@@ -12,10 +12,10 @@
 namespace kesta::booklet_watermark {
 namespace {
 
-void TellOthers(const _BookletWatermarkContext& panel)
+void TellOthers(_BookletWatermarkContext& panel)
 {
     if (Ticket* settings = GetTicketFromSession(*panel.session, kPMPrintSettingsTicket).ticket)
-        WriteBookletAtOnce(panel.options.booklet, *settings);
+        WriteBookletAtOnce(panel.options, *settings);
     SendControlEvent(*panel.view, CommandEvent{.command = kCommandOthersRead});
 }
 

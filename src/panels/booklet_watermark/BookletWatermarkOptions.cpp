@@ -34,18 +34,22 @@ void ForceTwoSided(const TicketWriter& settings, ppd_file_t* ppd)
 }
 
 // Once: what the user picks later stands.
-void RestoreTwoSided(const TicketWriter& settings)
+void EndBooklet(BookletWatermarkOptions& options, const TicketWriter& settings)
 {
+    if (!std::exchange(options.wasOn, false))
+        return;
     if (const SInt32 duplex = std::exchange(previousSelection(), 0))
         WriteTwoSided(settings, duplex);
 }
 
-void WriteLayout(const Booklet& booklet, const TicketWriter& settings, ppd_file_t* ppd)
+void WriteLayout(BookletWatermarkOptions& options, const TicketWriter& settings, ppd_file_t* ppd)
 {
+    const Booklet& booklet = options.booklet;
     if (!booklet.isOn()) {
         WriteBooklet(booklet, settings);
-        return RestoreTwoSided(settings);
+        return EndBooklet(options, settings);
     }
+    options.wasOn = true;
     ForceTwoSided(settings, ppd);
     WriteBooklet(booklet, settings);
     Ticket& ticket = settings;
@@ -137,20 +141,20 @@ void ReadTicket(BookletWatermarkOptions& options, const Ticket& settings, ppd_fi
     if (options.foldsBooklets)
         booklet.fold =
             PPDGetTicketValueForChoiceOrDefault(ppd, settings, OptionOf(Finishing::Fold)).value_or(booklet.fold);
-    const bool wasOn = booklet.isOn();
     ReadBooklet(booklet, settings);
-    if (wasOn && !booklet.isOn())
+    if (std::exchange(options.wasOn, booklet.isOn()) && !booklet.isOn())
         previousSelection() = 0; // whoever ended the booklet has looked after the sides, too
     ReadWatermarkChoice(options.watermark, settings, names);
 }
 
-void WriteBookletAtOnce(const Booklet& booklet, Ticket& ticket)
+void WriteBookletAtOnce(BookletWatermarkOptions& options, Ticket& ticket)
 {
+    const Booklet& booklet = options.booklet;
     const TicketWriter settings(ticket, kPrintingManagerClient);
     settings.set(key::BookletLayout, booklet.isOn());
     PPDSetChoiceForTicketValue(settings, OptionOf(Finishing::Fold), booklet.fold);
     if (!booklet.isOn())
-        RestoreTwoSided(settings);
+        EndBooklet(options, settings);
 }
 
 void WriteTicket(BookletWatermarkOptions& options, Ticket& ticket, ppd_file_t* ppd, const QStringList& names,
@@ -158,7 +162,7 @@ void WriteTicket(BookletWatermarkOptions& options, Ticket& ticket, ppd_file_t* p
 {
     const TicketWriter settings(ticket, kPrintingManagerClient);
     if (scope == BookletScope::Written) {
-        WriteLayout(options.booklet, settings, ppd);
+        WriteLayout(options, settings, ppd);
         WriteFolding(options.booklet.fold, settings);
         WriteCovers(options.booklet, settings);
     }

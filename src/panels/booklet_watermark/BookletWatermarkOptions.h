@@ -25,6 +25,7 @@ static_assert(PageBordersMap.size() == 2);
 struct BookletWatermarkOptions {
     Booklet booklet{.fold = 0}; // 0 where the printer folds no booklets: its option then stays as it is
     BookletLock lock;
+    bool wasOn = false; // the ticket has, or had, the booklet and what it forces
     bool foldsBooklets = false;
     WatermarkChoice watermark;
     QString subsetFontName; // of the font program that the store has for a text watermark
@@ -43,7 +44,7 @@ void ReadTicket(BookletWatermarkOptions& options, const Ticket& settings, ppd_fi
 using MakeFont = std::function<ConvertedFont(const QString& name)>;
 
 // What other panels ask the ticket for is there as soon as the user has changed it.
-void WriteBookletAtOnce(const Booklet& booklet, Ticket& settings);
+void WriteBookletAtOnce(BookletWatermarkOptions& options, Ticket& settings);
 
 enum class BookletScope { Left, Written };
 void WriteTicket(BookletWatermarkOptions& options, Ticket& settings, ppd_file_t* ppd, const QStringList& names,

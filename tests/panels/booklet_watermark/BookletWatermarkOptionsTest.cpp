@@ -120,8 +120,27 @@ TEST_F(BookletWatermarkOptionsTest, WhoeverEndsTheBookletElsewhereKeepsTheSides)
     EXPECT_EQ(duplex(), 1);
 
     turn(kBookletLayoutOn);
-    WriteBookletAtOnce({.fold = 0, .layout = kBookletLayoutOff}, settings);
+    options.booklet.layout = kBookletLayoutOff;
+    WriteBookletAtOnce(options, settings);
     EXPECT_EQ(duplex(), 1) << "and a user here gets them at once";
+}
+
+TEST_F(BookletWatermarkOptionsTest, AnotherJobKeepsItsSidesAndTheNextPrinterGivesThemBack)
+{
+    setDuplex(2);
+    turn(kBookletLayoutOn);
+    options = {};
+    read();
+    turn(kBookletLayoutOff);
+    EXPECT_EQ(duplex(), 2) << "begun with the printer before";
+
+    turn(kBookletLayoutOn);
+    options = {};
+    set(key::BookletLayout, false);
+    setDuplex(1);
+    read();
+    write();
+    EXPECT_EQ(duplex(), 1) << "a job that was no booklet";
 }
 
 TEST_F(BookletWatermarkOptionsTest, ABookletsFoldIsAFinishingAndAnotherOneStays)

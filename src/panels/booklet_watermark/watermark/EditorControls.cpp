@@ -73,14 +73,16 @@ void ShowTexts(const _WatermarkEditorContext& editor, SInt32 typedInto)
         field->setText(editor.text);
     if (auto* field = editor.control<QLineEdit>(kFileField))
         field->setText(editor.fileName);
-    const bool isDrawnInIt = !editor.notes.isSubstitute && !editor.notes.fontName.isEmpty();
-    const QString font = isDrawnInIt ? editor.notes.fontName : record.fontName.get();
-    SetControlText(editor.control(kFontHint),
-                   LocalizedFormat(editor.bundle, "Font And Size", {font, QString::number(record.fontSize)}));
     if (auto* swatch = editor.control<ColorSwatch>(kSwatch)) {
         const WatermarkColor& color = record.wellColor;
         swatch->setColor(QColor::fromRgbF(color.red, color.green, color.blue));
     }
+    if (record.isText == 0)
+        return;
+    const bool isDrawnInIt = !editor.notes.isSubstitute && !editor.notes.fontName.isEmpty();
+    const QString font = isDrawnInIt ? editor.notes.fontName : record.fontName.get();
+    SetControlText(editor.control(kFontHint),
+                   LocalizedFormat(editor.bundle, "Font And Size", {font, QString::number(record.fontSize)}));
 }
 
 QString NoteOf(const _WatermarkEditorContext& editor)

@@ -15,6 +15,7 @@ QRectF PagePlace(QSizeF page, const QRectF& bounds)
 {
     QRectF place({}, page.scaled(bounds.size(), Qt::KeepAspectRatio));
     place.moveCenter(bounds.center());
+    place.moveTop(bounds.top());
     return place;
 }
 

@@ -7,7 +7,7 @@ class QPainter;
 
 namespace kesta::booklet_watermark {
 
-// The largest place of a page's proportions within the bounds, in their middle.
+// The largest place of a page's proportions within the bounds, at their upper edge.
 QRectF PagePlace(QSizeF page, const QRectF& bounds);
 
 // A page that was rendered as a PDF, with its edge; blank paper while there is none.

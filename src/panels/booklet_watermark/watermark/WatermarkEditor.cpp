@@ -3,6 +3,7 @@
 #include "panels/booklet_watermark/watermark/DrawingLibrary.h"
 #include "panels/booklet_watermark/watermark/EditorPreview.h"
 #include "panels/booklet_watermark/watermark/FontPanel.h"
+#include "panels/booklet_watermark/watermark/PageDrawing.h"
 #include "panels/booklet_watermark/watermark/WatermarkNoteText.h"
 #include "pde/forms/DialogCommands.h"
 #include "pde/forms/InfoMark.h"
@@ -16,6 +17,8 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QRadioButton>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -160,6 +163,11 @@ EventResult LimitText(const _WatermarkEditorContext& editor, const TextTypedEven
     return FitsName(kept + typed.typed) ? EventResult::NotHandled : EventResult::Swallowed;
 }
 
+int HeightOfPage(QSizeF page, QSize room)
+{
+    return static_cast<int>(std::ceil(PagePlace(page, QRectF({}, room)).height()));
+}
+
 EventResult HandleDraw(const _WatermarkEditorContext& editor, const DrawEvent& draw)
 {
     if (draw.control.number == kPreview)
@@ -199,8 +207,10 @@ OSStatus RunModalWatermarkEditorDialog(const Bundle& bundle, _WatermarkData& rec
     editor::renderWatermarkIfNecessary(editor, true);
     editor::ShowRecord(editor);
     std::optional<editor::PreviewMouse> mouse;
-    if (QWidget* preview = editor.control(editor::kPreview))
+    if (QWidget* preview = editor.control(editor::kPreview)) {
+        preview->setFixedHeight(editor::HeightOfPage(editor.page(), preview->maximumSize()));
         mouse.emplace(editor, *preview);
+    }
     const EventHandler events = InstallEventHandler(
         *window, [&](const HitEvent& hit) { return editor::HandleHit(editor, hit); },
         [&](const TextTypedEvent& typed) { return editor::LimitText(editor, typed); },
