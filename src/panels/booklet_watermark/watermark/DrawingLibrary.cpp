@@ -26,7 +26,7 @@ constexpr DrawingLibrary kNothing{
     .DropFont = [](QAnyStringView, const _WatermarkData&) {},
     .CheckWatermarkName = [](QAnyStringView, const QString&) { return NameProblem::None; },
     .InstalledFonts = [] { return std::vector<FontFile>(); },
-    .TextOutline = [](const QString&, const QString&, double) { return QPainterPath(); },
+    .TextOutline = [](const QString&, const QString&, double, Substitutes) { return QPainterPath(); },
     .PictureOfPage = [](QByteArrayView, QSize) { return QImage(); },
 };
 

@@ -11,6 +11,8 @@
 
 namespace kesta::booklet_watermark {
 
+enum class Substitutes { None, Allowed };
+
 // What draws watermarks and shows pages is in a shared object of its own, with all the libraries that it needs: a
 // dialog in which nobody looks at a watermark never loads them. The members are the functions of the same names.
 struct DrawingLibrary {
@@ -24,9 +26,9 @@ struct DrawingLibrary {
     NameProblem (*CheckWatermarkName)(QAnyStringView storeFile, const QString& name);
     std::vector<FontFile> (*InstalledFonts)();
 
-    // A text in the font of that PostScript name from its origin on, y downwards, so many points large; empty when the
-    // font lacks one of the characters.
-    QPainterPath (*TextOutline)(const QString& fontName, const QString& text, double size);
+    // A text in the font of that PostScript name from its origin on, y downwards, so many points large. Without the
+    // font or one of the characters it is empty, or drawn as a watermark would be.
+    QPainterPath (*TextOutline)(const QString& fontName, const QString& text, double size, Substitutes substitutes);
     // The first page of a PDF on white, stretched to so many pixels; null for what is no PDF. The last few are kept.
     QImage (*PictureOfPage)(QByteArrayView pdf, QSize pixels);
 };

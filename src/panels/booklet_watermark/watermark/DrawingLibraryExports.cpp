@@ -29,22 +29,19 @@ private:
     double pen_ = 0;
 };
 
-QPainterPath TextOutline(const QString& fontName, const QString& text, double size)
+QPainterPath TextOutline(const QString& fontName, const QString& text, double size, Substitutes substitutes)
 {
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
-    const std::vector<FontFile> fonts = FontsNamed(fontName);
-    const std::shared_ptr<const Typeface> typeface = fonts.empty() ? nullptr : Typeface::open(fonts.front());
-    if (!typeface)
+    const FontChoice font = ChooseFont(fontName, text);
+    const bool isStrict = substitutes == Substitutes::None;
+    if (!font.typeface || (isStrict && (font.isSubstitute || !font.line.missing.isEmpty())))
         return path;
-    const GlyphLine line = LayOutLine(*typeface, text);
-    if (!line.missing.isEmpty())
-        return path;
-    PainterPath sink(path, size / typeface->unitsPerEm());
+    PainterPath sink(path, size / font.typeface->unitsPerEm());
     double pen = 0;
-    for (const PlacedGlyph& glyph : line.glyphs) {
+    for (const PlacedGlyph& glyph : font.line.glyphs) {
         sink.setPen(pen);
-        DrawOutline(*typeface, glyph, sink);
+        DrawOutline(*font.typeface, glyph, sink);
         pen += glyph.advance;
     }
     return path;

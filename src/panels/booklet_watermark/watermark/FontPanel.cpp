@@ -88,7 +88,8 @@ private:
     {
         const auto [known, isNew] = outlines_.try_emplace(font.postScriptName);
         if (isNew)
-            known->second = GetDrawingLibrary().TextOutline(font.postScriptName, font.displayName, kNameSize);
+            known->second =
+                GetDrawingLibrary().TextOutline(font.postScriptName, font.displayName, kNameSize, Substitutes::None);
         return known->second;
     }
 
@@ -191,7 +192,8 @@ EventResult DrawSample(const FontPanel& panel, const DrawEvent& draw)
     painter.setBrush(colors.base);
     painter.drawRoundedRect(room, 5, 5);
     const QString text = panel.font.sample.isEmpty() ? QStringLiteral("Aa") : panel.font.sample;
-    const QPainterPath path = GetDrawingLibrary().TextOutline(panel.font.postScriptName, text, room.height() / 2);
+    const QPainterPath path =
+        GetDrawingLibrary().TextOutline(panel.font.postScriptName, text, room.height() / 2, Substitutes::Allowed);
     const QRectF ink = path.boundingRect();
     if (ink.isEmpty())
         return EventResult::Handled;
