@@ -85,18 +85,28 @@ void ShowTexts(const _WatermarkEditorContext& editor, SInt32 typedInto)
                    LocalizedFormat(editor.bundle, "Font And Size", {font, QString::number(record.fontSize)}));
 }
 
-QString NoteOf(const _WatermarkEditorContext& editor)
+FontProblem ProblemOfFont(_WatermarkEditorContext& editor)
+{
+    const _WatermarkData& record = editor.record;
+    auto& checked = editor.checked;
+    if (checked.fontName != record.fontName.get() || checked.text != record.text.get()) {
+        const bool isText = !record.text.isEmpty();
+        checked = {record.fontName.get(), record.text.get(),
+                   isText ? GetDrawingLibrary().CheckFont(record).problem : FontProblem::None};
+    }
+    return checked.problem;
+}
+
+QString NoteOf(_WatermarkEditorContext& editor)
 {
     QStringList sentences;
     if (editor.record.isText == 0)
         sentences << LocalizedString(editor.bundle, "Picture Watermark Hint");
-    const FontProblem problem =
-        editor.record.text.isEmpty() ? FontProblem::None : GetDrawingLibrary().CheckFont(editor.record).problem;
-    sentences += WatermarkSentences(editor.bundle, editor.record, editor.notes, problem);
+    sentences += WatermarkSentences(editor.bundle, editor.record, editor.notes, ProblemOfFont(editor));
     return sentences.join(QLatin1Char(' '));
 }
 
-void ShowNote(const _WatermarkEditorContext& editor)
+void ShowNote(_WatermarkEditorContext& editor)
 {
     const QString note = NoteOf(editor);
     SetControlText(editor.control(kNote), note);

@@ -19,6 +19,10 @@ struct _WatermarkEditorContext {
     PreviewBuffer preview = PreviewBuffer();
     std::optional<_WatermarkData> rendered = {}; // what the preview shows
     WatermarkNotes notes = {};
+    struct {
+        QString fontName, text;
+        FontProblem problem = FontProblem::None;
+    } checked = {};         // whether the font can travel, which takes a while
     bool isDragged = false; // then the page's centre lines show
 
     QSizeF page() const { return {record.pageWidth, record.pageHeight}; }
