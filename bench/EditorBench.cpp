@@ -1,6 +1,7 @@
 // The windows of watermarks: the editor's preview after a change, beside what the libraries alone take for the same
 // page; and opening the list of fonts on a computer that has 2,000 of them, beside asking which they are.
 
+#include "DirectPage.h"
 #include "Pair.h"
 
 #include "panels/booklet_watermark/watermark/DrawingLibrary.h"
@@ -15,63 +16,23 @@
 #include <QPdfDocument>
 #include <QTemporaryDir>
 
-#include <cairo-pdf.h>
 #include <hb-subset.h>
 
 #include <cstdio>
-#include <numbers>
 
 namespace kesta::bench {
 namespace {
 
 using namespace booklet_watermark;
 
-constexpr QSizeF kPage(612, 792);
 constexpr QSize kPixels(236, 305); // of the editor's preview
 constexpr int kFonts = 2000;
 constexpr char kBase[] = LIBERATION_SANS;
-
-_WatermarkData Watermark()
-{
-    _WatermarkData record;
-    record.text.set(QStringLiteral("CONFIDENTIAL"));
-    record.fontName.set(QStringLiteral("LiberationSans"));
-    record.isText = 1;
-    record.fontSize = 72;
-    record.density = 25;
-    record.wellColor = {0, 0, 1, 1};
-    return record;
-}
 
 cairo_status_t Append(void* bytes, const unsigned char* more, unsigned count)
 {
     static_cast<QByteArray*>(bytes)->append(reinterpret_cast<const char*>(more), count);
     return CAIRO_STATUS_SUCCESS;
-}
-
-QByteArray DrawDirectly(const _WatermarkData& record)
-{
-    QByteArray pdf;
-    cairo_surface_t* const surface = cairo_pdf_surface_create_for_stream(Append, &pdf, kPage.width(), kPage.height());
-    cairo_t* const context = cairo_create(surface);
-    cairo_set_source_rgb(context, 1, 1, 1);
-    cairo_paint(context);
-    cairo_push_group(context);
-    cairo_set_source_rgb(context, 0, 0, 1);
-    cairo_select_font_face(context, "Liberation Sans", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
-    cairo_set_font_size(context, record.fontSize);
-    cairo_translate(context, record.xPosition, kPage.height() - record.yPosition);
-    cairo_rotate(context, -record.angle * std::numbers::pi / 180);
-    cairo_move_to(context, 0, 0);
-    cairo_text_path(context, record.text.get().toUtf8().constData());
-    cairo_fill(context);
-    cairo_pop_group_to_source(context);
-    cairo_paint_with_alpha(context, record.density / 100.0);
-    cairo_show_page(context);
-    cairo_destroy(context);
-    cairo_surface_finish(surface);
-    cairo_surface_destroy(surface);
-    return pdf;
 }
 
 QImage ShowDirectly(QByteArray pdf)
@@ -86,18 +47,22 @@ QImage ShowDirectly(QByteArray pdf)
 void EditorRepaint(benchmark::State& state)
 {
     const DrawingLibrary& drawing = GetDrawingLibrary();
-    _WatermarkData record = Watermark();
+    _WatermarkData record = ConfidentialIn("LiberationSans");
     PreviewBuffer buffer;
-    drawing.renderWatermark(record, kPage, buffer, {}); // finds the font
+    drawing.renderWatermark(record, kLetter, buffer, {}); // finds the font
     Times repaint, sum;
     bool areDrawn = true;
     for (auto _ : state) {
         record.angle = (record.angle + 1) % 360; // another page each time
         Measure(repaint, [&] {
-            drawing.renderWatermark(record, kPage, buffer, {});
+            drawing.renderWatermark(record, kLetter, buffer, {});
             areDrawn = !drawing.PictureOfPage(buffer.content(), kPixels).isNull() && areDrawn;
         });
-        Measure(sum, [&] { areDrawn = !ShowDirectly(DrawDirectly(record)).isNull() && areDrawn; });
+        Measure(sum, [&] {
+            QByteArray pdf;
+            DrawDirectly(record, "Liberation Sans", Append, &pdf);
+            areDrawn = !ShowDirectly(pdf).isNull() && areDrawn;
+        });
         state.SetIterationTime(repaint.back());
     }
     if (!areDrawn)

@@ -10,6 +10,7 @@
 
 #include <QImage>
 #include <QPixmap>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 

@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QMouseEvent>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
