@@ -232,6 +232,28 @@ TEST_F(BookletWatermarkPanelTest, AWatermarkThatSomebodyElseRemovedLeavesTheMenu
     EXPECT_EQ(chosen(), u"NoWatermark"_s);
 }
 
+TEST_F(BookletWatermarkPanelTest, OnesOwnWatermarksAreOfferedWhenThePanelIsFirstSeen)
+{
+    qputenv("XDG_DATA_HOME", QFile::encodeName(store.folder.path()));
+    qputenv("KESTA_DATA_ROOT", "/nowhere");
+    _WatermarkData own;
+    own.text.set(u"Mine"_s);
+    own.isText = 1;
+    saveWatermarkData(kWatermarkFile, own);
+    saveWatermarkList(kWatermarkFile, QStringList{u"Mine"_s});
+    qputenv("KESTA_DATA_ROOT", QFile::encodeName(store.folder.path()));
+    open();
+    EXPECT_TRUE(notices.titles.isEmpty());
+    look();
+    EXPECT_EQ(notices.messages, QStringList{u"Own Watermarks Message Mine"_s});
+    EXPECT_EQ(watermarks()->menu().items[4].title, u"Mine"_s);
+    EXPECT_EQ(chosen(), u"NoWatermark"_s);
+    EXPECT_TRUE(PickCommand(watermarks(), kSavedWatermarkCommand));
+    look();
+    EXPECT_EQ(notices.titles.size(), 1) << "once";
+    qunsetenv("XDG_DATA_HOME");
+}
+
 // A window would find nobody to answer it.
 TEST_F(BookletWatermarkPanelTest, TheArrowKeysOpenNoWindow)
 {

@@ -134,10 +134,14 @@ TEST_F(WatermarkEditorTest, ATextHasRoomForItsBytesOnly)
         test::TypeInto(field, u"ä"_s);
         test::TypeInto(field, u"ä"_s);
         test::TypeInto(field, u"y"_s);
+        for (const QString& typed : {u"ä"_s, u"z"_s}) { // in the place of one letter
+            static_cast<QLineEdit&>(field).setSelection(0, 1);
+            test::TypeInto(field, typed);
+        }
     });
     user.then(ok);
     run();
-    EXPECT_EQ(record.text.get(), QString(509, u'x') + u"ä"_s);
+    EXPECT_EQ(record.text.get(), u"z"_s + QString(508, u'x') + u"ä"_s);
 }
 
 TEST_F(WatermarkEditorTest, DraggingMovesTheTextAndTheFieldsFollow)

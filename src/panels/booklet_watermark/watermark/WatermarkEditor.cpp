@@ -153,14 +153,12 @@ EventResult HandleText(_WatermarkEditorContext& editor, const TextEditedEvent& e
     return EventResult::NotHandled;
 }
 
-// A name has room for so many bytes.
+// A name has room for so many bytes. While it asks, the field has the text as it would be.
 EventResult LimitText(const _WatermarkEditorContext& editor, const TextTypedEvent& typed)
 {
     const auto* field = editor.control<QLineEdit>(kTextField);
-    if (!field || typed.control.number != kTextField || typed.isEditingOnly())
-        return EventResult::NotHandled;
-    const QString kept = typed.replaced > 0 ? QString(typed.before).remove(field->selectedText()) : typed.before;
-    return FitsName(kept + typed.typed) ? EventResult::NotHandled : EventResult::Swallowed;
+    const bool isIn = !field || typed.control.number != kTextField || FitsName(field->text());
+    return isIn ? EventResult::NotHandled : EventResult::Swallowed;
 }
 
 int HeightOfPage(QSizeF page, QSize room)
