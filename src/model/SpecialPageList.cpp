@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <map>
 #include <utility>
 
@@ -68,6 +69,65 @@ void Place(Page exception, Exceptions& exceptions)
         }
     }
     exceptions.emplace_hint(place, start, std::move(exception));
+}
+
+// One after the other, each takes its pages from those before it.
+std::vector<Page> PlaceAll(std::vector<Page> pages, std::vector<Page> added)
+{
+    Exceptions placed;
+    for (Page& page : pages)
+        placed.emplace_hint(placed.end(), page->startPage(), std::move(page));
+    for (Page& exception : added)
+        Place(std::move(exception), placed);
+    pages.clear();
+    for (auto& [start, page] : placed)
+        pages.push_back(std::move(page));
+    return pages;
+}
+
+constexpr auto kStart = [](const auto& page) { return page->startPage(); };
+
+// Typed pages and those of a ticket mostly come in order.
+void SortByStart(auto& pages)
+{
+    if (!std::ranges::is_sorted(pages, {}, kStart))
+        std::ranges::stable_sort(pages, {}, kStart);
+}
+
+// Whether the exception pages that are added have none in common, neither with each other nor with those in order.
+bool AreApart(const std::vector<Page>& pages, const std::vector<Page>& added)
+{
+    std::vector<const SpecialPage*> sorted;
+    sorted.reserve(added.size());
+    for (const Page& page : added)
+        sorted.push_back(page.get());
+    SortByStart(sorted);
+    SInt32 taken = std::numeric_limits<SInt32>::min();
+    for (const SpecialPage* page : sorted) {
+        const auto behind = std::ranges::upper_bound(pages, LastPage(*page), {}, kStart);
+        if (behind != pages.begin())
+            taken = std::max(taken, LastPage(**std::prev(behind)));
+        if (taken >= page->startPage())
+            return false;
+        taken = LastPage(*page);
+    }
+    return true;
+}
+
+// Each before the first of those in order that starts behind it.
+std::vector<Page> Merge(std::vector<Page> pages, std::vector<Page> added)
+{
+    SortByStart(added);
+    std::vector<Page> merged;
+    merged.reserve(pages.size() + added.size());
+    auto next = added.begin();
+    for (Page& page : pages) {
+        for (; next != added.end() && kStart(*next) < kStart(page); ++next)
+            merged.push_back(std::move(*next));
+        merged.push_back(std::move(page));
+    }
+    std::move(next, added.end(), std::back_inserter(merged));
+    return merged;
 }
 
 } // namespace
@@ -142,18 +202,7 @@ OSStatus InsertList::add(const SpecialPages& inserts)
 {
     if (!AreAll<Insert>(inserts))
         return kMissingArgument;
-    std::vector<Page> added = Clones(inserts);
-    std::ranges::stable_sort(added, {}, [](const Page& page) { return page->startPage(); });
-
-    std::vector<Page> before = std::exchange(pages_, {});
-    pages_.reserve(before.size() + added.size());
-    auto next = added.begin();
-    for (Page& page : before) {
-        for (; next != added.end() && (*next)->startPage() < page->startPage(); ++next)
-            pages_.push_back(std::move(*next));
-        pages_.push_back(std::move(page));
-    }
-    std::move(next, added.end(), std::back_inserter(pages_));
+    pages_ = Merge(std::move(pages_), Clones(inserts));
     return noErr;
 }
 
@@ -170,10 +219,7 @@ bool InsertList::canPromote(const SpecialPage* insert) const
 
 void InsertList::promote(const SpecialPage* insert)
 {
-    if (!canPromote(insert))
-        return;
-    const auto index = static_cast<std::size_t>(indexOfPage(insert));
-    pages_[index].swap(pages_[index - 1]);
+    move(insert, -1);
 }
 
 bool InsertList::canDemote(const SpecialPage* insert) const
@@ -185,10 +231,22 @@ bool InsertList::canDemote(const SpecialPage* insert) const
 
 void InsertList::demote(const SpecialPage* insert)
 {
-    if (!canDemote(insert))
+    move(insert, 1);
+}
+
+void InsertList::move(const SpecialPage* insert, SInt32 steps)
+{
+    const auto last = static_cast<CFIndex>(count()) - 1;
+    CFIndex place = indexOfPage(insert);
+    if (place < 0)
         return;
-    const auto index = static_cast<std::size_t>(indexOfPage(insert));
-    pages_[index].swap(pages_[index + 1]);
+    for (const CFIndex target = std::clamp<CFIndex>(place + steps, 0, last); place != target;) {
+        const CFIndex next = place + (target < place ? -1 : 1);
+        if (pageAtIndex(next)->startPage() == 0)
+            return;
+        pages_[static_cast<std::size_t>(place)].swap(pages_[static_cast<std::size_t>(next)]);
+        place = next;
+    }
 }
 
 void InsertList::promote(const ChosenPages& inserts)
@@ -212,14 +270,8 @@ OSStatus ExceptionPageList::add(const SpecialPages& exceptions)
     if (!AreAll<ExceptionPage>(exceptions))
         return kMissingArgument;
     std::vector<Page> added = Clones(exceptions); // of all first: some may be in this list and leave it
-    Exceptions placed;
-    for (Page& page : pages_)
-        placed.emplace_hint(placed.end(), page->startPage(), std::move(page));
-    for (Page& exception : added)
-        Place(std::move(exception), placed);
-    pages_.clear();
-    for (auto& [start, page] : placed)
-        pages_.push_back(std::move(page));
+    const auto place = AreApart(pages_, added) ? Merge : PlaceAll;
+    pages_ = place(std::move(pages_), std::move(added));
     return noErr;
 }
 

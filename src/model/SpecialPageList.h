@@ -60,6 +60,7 @@ public:
     void promote(const SpecialPage* insert);
     bool canDemote(const SpecialPage* insert) const;
     void demote(const SpecialPage* insert);
+    void move(const SpecialPage* insert, SInt32 steps); // up (below 0) or down, as far as single steps would get it
 
     // The same for several, in time linear in the list: those higher up first, those further down first.
     void promote(const ChosenPages& inserts);

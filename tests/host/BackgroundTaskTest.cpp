@@ -74,6 +74,21 @@ TEST_F(BackgroundTaskTest, DestroyedTaskDeliversNothingAndDoesNotWait)
     EXPECT_FALSE(delivered);
 }
 
+TEST_F(BackgroundTaskTest, ATaskInAnothersPlaceEndsThatOne)
+{
+    bool delivered = false, followed = false;
+    std::atomic<bool> cancelled = false;
+    BackgroundTask task([&](BackgroundTask::Context& context) {
+        context.deliver([&] { delivered = true; });
+        while (!context.cancellation().requested())
+            std::this_thread::sleep_for(1ms);
+        cancelled = true;
+    });
+    task = BackgroundTask([&](BackgroundTask::Context& context) { context.deliver([&] { followed = true; }); });
+    EXPECT_TRUE(Until([&] { return followed && cancelled; }));
+    EXPECT_FALSE(delivered);
+}
+
 TEST_F(BackgroundTaskTest, AfterTheDeadlineOnlyTheDeadlineCounts)
 {
     int late = 0;

@@ -57,11 +57,15 @@ TEST(ConstraintsTest, AllChangesTogetherLeaveNoConflictAndNoAccessoryIsTouched)
 TEST(ConstraintsTest, ReadsAllKindsOfRules)
 {
     PPDVariant ppd;
-    ppd.append("*cupsUIConstraints: \"*Duplex *KSFold *OutputBin Middle\"\n"
-               "*NonUIConstraints: *MediaType Transparency *Duplex\n"
-               "*cupsUIConstraints other: \"*Nothing *KSFold\"\n"
-               "*cupsUIConstraints none: \"\"\n"
-               "*cupsUIConstraints broken: \"x y *\"\n");
+    ppd.append(
+        "*cupsUIConstraints: \"*Duplex *KSFold *OutputBin Middle\"\n"
+        "*NonUIConstraints: *MediaType Transparency *Duplex\n"
+        "*cupsUIConstraints other: \"*Nothing *KSFold\"\n"
+        "*cupsUIConstraints none: \"\"\n"
+        "*cupsUIConstraints broken: \"x y *\"\n"
+        "*cupsUIConstraints accessories: \"*Option2 DClass_BK *Option4 HolePunch23\"\n"
+        "*OpenUI *Glue/Glue: PickOne\n*DefaultGlue: Off\n*Glue Off/No: \"\"\n*Glue On/Yes: \"\"\n*CloseUI: *Glue\n"
+        "*cupsUIConstraints glue: \"*Glue *KSFold\"\n");
     const Dictionary three{{"Duplex", "DuplexTumble"}, {"KSFold", "C"}, {"OutputBin", "Middle"}};
     const ConflictReport report = FindConflicts(ppd.path(), three);
     ASSERT_EQ(report.conflicts.size(), 1u) << "once for three options";
@@ -73,6 +77,9 @@ TEST(ConstraintsTest, ReadsAllKindsOfRules)
     two.set("OutputBin", "Middle");
     two.set("Duplex", "None");
     EXPECT_TRUE(FindConflicts(ppd.path(), two).conflicts.empty()) << "an option that is off breaks no rule";
+    const auto clear = FindConflicts(ppd.path(), {{"MediaType", "Transparency"}, {"Duplex", "DuplexTumble"}}).conflicts;
+    ASSERT_FALSE(clear.empty());
+    EXPECT_EQ(clear[0].changes.at(0).keyword, u"Duplex"_s) << "what is done to the sheets gives way to them";
 }
 
 TEST(ConstraintsTest, ReportsWhatThePrinterDoesNotHave)

@@ -45,6 +45,8 @@ TEST(JobCompositionTest, LaterSourcesPrevail)
     EXPECT_EQ(FindJobOption(ComposeJobOptions(sources).options, "orientation-requested"), u"4"_s);
     sources.fields.orientation = Orientation::ReverseLandscape;
     EXPECT_EQ(FindJobOption(ComposeJobOptions(sources).options, "orientation-requested"), u"5"_s);
+    sources.ticket = {};
+    EXPECT_EQ(FindJobOption(ComposeJobOptions(sources).options, "com.kesta.print.ticket.1"), std::nullopt);
 }
 
 TEST(JobCompositionTest, RefusesWhatWouldArriveDamaged)
@@ -72,6 +74,16 @@ TEST(JobCompositionTest, RefusesWhatWouldArriveDamaged)
     const ComposedOptions refused = ComposeJobOptions(longOne);
     EXPECT_TRUE(test::OnConsole(refused.problem).contains(u"Note"_s));
     EXPECT_TRUE(refused.options.empty());
+}
+
+TEST(JobCompositionTest, OptionsAreAsLongAsTheProtocolTakes)
+{
+    const auto fits = [](qsizetype name, qsizetype value, QChar c = u'x') {
+        return !JobOptionFault({QString(name, c), QString(value, c)});
+    };
+    EXPECT_TRUE(fits(255, 32'767));
+    EXPECT_FALSE(fits(256, 1) || fits(1, 32'768) || fits(0, 1));
+    EXPECT_FALSE(fits(128, 1, u'ü') || fits(1, 16'384, u'ü')) << "bytes count";
 }
 
 TEST(JobCompositionTest, OptionsStringsAreReadAsAFilterGetsThem)

@@ -5,14 +5,17 @@
 #include "host/Words.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -77,6 +80,35 @@ TEST_F(SubmissionTest, FindsQueuesAndTheirPPDs)
     EXPECT_TRUE(OnConsole(FindQueue(server, u"Nowhere"_s, cancellation).problem).contains(u"does not exist"_s));
 }
 
+TEST_F(SubmissionTest, TakesFromAQueueWhatIsOfAJobAndNoMoreThanAPPDMayHave)
+{
+    server.patience = 10s;
+    const QTemporaryDir home; // with the user's own defaults, which a thread reads when it first needs them
+    QFile options(home.filePath(u".cups/lpoptions"_s));
+    ASSERT_TRUE(QDir(home.path()).mkdir(u".cups"_s) && options.open(QIODevice::WriteOnly));
+    options.write("Dest Plain printer-resolution=600dpi printer-commands=none marker-levels=3\n");
+    options.close();
+    const QByteArray homeBefore = qgetenv("HOME");
+    qputenv("HOME", QFile::encodeName(home.path()));
+    NamedQueue plain;
+    std::thread([&] { plain = FindQueue(server, u"Plain"_s, cancellation); }).join();
+    qputenv("HOME", homeBefore);
+    EXPECT_EQ(FindJobOption(plain.defaults, "printer-resolution"), u"600dpi"_s);
+    EXPECT_EQ(FindJobOption(plain.defaults, "printer-commands"), std::nullopt);
+    EXPECT_EQ(FindJobOption(plain.defaults, "marker-levels"), std::nullopt);
+
+    cups.describe(QByteArray("*% a line of many\n").repeated(600'000));
+    EXPECT_EQ(FetchQueuePPD(server, u"Kesta"_s, cancellation).problem.key, u"Queue PPD Large"_s);
+
+    cups.administer(u"lpadmin"_s, {u"-x"_s, u"Kesta"_s});
+    for (const auto& [variable, problem] :
+         {std::pair("lp", u"No Default Queue"_s), {"gone", u"Queue Of Environment Unknown"_s}}) {
+        qputenv("PRINTER", variable); // where "lp" is some program's name for the default
+        EXPECT_EQ(FindQueue(server, {}, cancellation).problem.key, problem);
+    }
+    qunsetenv("PRINTER");
+}
+
 TEST_F(SubmissionTest, ReportsProgressAndSendsEveryByte)
 {
     const PrintJob job = largeJob(3 << 20);
@@ -127,6 +159,12 @@ TEST_F(SubmissionTest, ASilentServerEndsEveryWait)
         timer.start();
     }
     EXPECT_LT(timer.elapsed(), 3000) << "leaving does not wait for the server";
+    std::jthread user([this] {
+        std::this_thread::sleep_for(200ms);
+        cancellation.request();
+    });
+    EXPECT_FALSE(FetchQueues(server, cancellation).problem.isEmpty());
+    EXPECT_LT(timer.elapsed(), 20'000) << "nor does who stops waiting";
 
     // All at once: the library waits a second of its own in each. Nobody answers, however long one has patience.
     server.patience = 50ms;

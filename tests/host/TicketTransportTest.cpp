@@ -113,7 +113,7 @@ TEST_P(TicketVersionTest, DamageIsAnError)
     unsealed.pop_back();
     EXPECT_TRUE(Problem(unsealed).contains(u"sealed part is missing"_s));
 
-    for (qsizetype i = 0; i < good[0].value.size(); i += 97) {
+    for (qsizetype i = 0; i < good[0].value.size(); i += 997) {
         JobOptions flipped = good;
         flipped[0].value[i] = flipped[0].value[i] == u'A' ? u'B' : u'A';
         EXPECT_NE(Problem(flipped), QString()) << i;
@@ -123,20 +123,25 @@ TEST_P(TicketVersionTest, DamageIsAnError)
 TEST_P(TicketVersionTest, ABombDoesNotGoOff)
 {
     const bool isFirst = GetParam() == 1;
-    const auto piece = [isFirst](const QByteArray& content, const QByteArray& announced) {
-        const QByteArray packed = PackTicket(isFirst ? TicketPacking::Zlib : TicketPacking::Bzip2, content);
+    const auto piece = [isFirst](const QByteArray& content, const QByteArray& announced, const QByteArray& more = {}) {
+        const QByteArray packed = PackTicket(isFirst ? TicketPacking::Zlib : TicketPacking::Bzip2, content) + more;
         const quint32 sum = quint32(crc32_z(0, reinterpret_cast<const Bytef*>(content.constData()), content.size()));
         const QByteArray value = (isFirst ? "kt1-1-1-" : "kt2-1-1-") + announced + '-' + QByteArray::number(sum, 16) +
                                  (isFirst ? "-" : "-0-") +
                                  packed.toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
         return JobOptions{{u"com.kesta.print.ticket.1"_s, QString::fromLatin1(value)}};
     };
-    const QByteArray large(60'000'000, '\0');
+    const TicketPacking packing = isFirst ? TicketPacking::Zlib : TicketPacking::Bzip2;
+    EXPECT_EQ(UnpackTicket(packing, PackTicket(packing, "abc"), 4), QByteArray());
+    const QByteArray large(kMaximumTicket + 1, '\0');
     EXPECT_EQ(DecodeTicket(piece("abc", "3")).propertyList, "abc");
-    EXPECT_NE(Problem(piece(large, "60000000")), QString());
+    EXPECT_NE(Problem(piece(large, QByteArray::number(large.size()))), QString());
     EXPECT_NE(Problem(piece(large, "1000")), QString());
     EXPECT_NE(Problem(piece("abc", "4")), QString());
     EXPECT_NE(Problem(piece("abc", "2")), QString());
+    EXPECT_NE(Problem(piece("abc", "3", "x")), QString()) << "bytes behind what is packed";
+    const QString fivePieces = isFirst ? u"kt1-1-5-3-0-AAAA"_s : u"kt2-1-5-3-0-0-AAAA"_s;
+    EXPECT_TRUE(Problem({{u"com.kesta.print.ticket.1"_s, fivePieces}}).contains(u"newer"_s)) << "four may travel";
     for (const char* header : {"kt1", "kt1-1-1-5-0", "kt2-1-1-3-0-AAAA", "kt1-1-9-3-0-AAAA", "kt1-1-0-3-0-AAAA",
                                "kt1-1-1--3-0-AAAA", "kt1-1-1-3-zz-AAAA", "kt1-1-1-3-0-!!!!", "kt1-1-1-3-0-",
                                "kt2-1-1-3-0-2-AAAA", "kt2-1-1-3-0--1-AAAA", "kt2-1-1-3-0-0-", "kt3-1-1-3-0-0-AAAA", ""})

@@ -70,6 +70,7 @@ TEST_F(FaxAddressBook, ACommittedRecipientHasARecord)
     recipient.setMailbox(u"12"_s);
     EXPECT_EQ(recipient.abRecord(), std::nullopt);
     EXPECT_TRUE(recipient.commitToAddressBook());
+    EXPECT_EQ(book_.saves, 1);
     EXPECT_EQ(recipient.uid(), u"id-0"_s);
     EXPECT_EQ(recipient.abRecord(),
               (AddressBookPerson{.firstName = u"Ann"_s, // and no last name

@@ -141,6 +141,7 @@ TEST(FullColorOptions, ATicketReplacesOnlyWhatItHas)
                         {"FCColorCast", Dictionary{{"FCCyanRed", N(2)}}},
                         {"RGBImagesProfile", N(3)},
                         {"CMYKImagesProfile", QString(255, u'n')},
+                        {"DestinationProfile", N(kNamedDestinationProfile)}, // of the name that is there
                         {"CMYKTextAndGraphicsProfile", QString(256, u'n')},
                         {"GrayImagesProfile", QString(256, u'n')}});
     Dictionary expected = EveryKey();

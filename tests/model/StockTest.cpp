@@ -140,6 +140,8 @@ TEST(Stock, SettersAndCopiesKeepTheFieldsConsistent)
     stock.setSize(kStockSizeLetter);
     stock.setWidth(600);
     EXPECT_EQ(stock.size(), kStockSizeCustom);
+    stock.setSize(kStockSizeCustom);
+    EXPECT_EQ(stock.width(), 600);
     stock.setSize(kStockSizeLetter);
     EXPECT_EQ(stock.width(), kUnset);
     stock.setLength(600);

@@ -2,7 +2,6 @@
 #include "platform/plugins/Bundle.h"
 #include "support/TestTexts.h"
 #include "toolkit/controls/PopupButton.h"
-#include "toolkit/controls/SliderField.h"
 #include "toolkit/windows/InterfaceFile.h"
 
 #include <gtest/gtest.h>
@@ -216,17 +215,6 @@ std::string NameOfFile(const testing::TestParamInfo<QString>& info)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, InterfaceFileTest, testing::ValuesIn(InterfaceFiles()), NameOfFile);
-
-TEST(InterfaceFiles, AdjustmentsOfColorsGoBothWays)
-{
-    const auto root = CreateWindowFromNib(BundleOf(QStringLiteral(TEST_RESOURCES "/../ColorOptions")),
-                                          "ColorOptionsPanel", "ColorOptions");
-    ASSERT_TRUE(root);
-    const auto sliders = root->findChildren<SliderField*>();
-    EXPECT_EQ(sliders.size(), 6);
-    for (const SliderField* slider : sliders)
-        EXPECT_TRUE(slider->minimum() == -100 && slider->maximum() == 100) << slider->objectName().toStdString();
-}
 
 // By its number under its window's signature.
 std::map<SInt32, FourCharCode> ControlsIn(const QWidget& root)

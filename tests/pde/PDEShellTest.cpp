@@ -1,6 +1,7 @@
 #include "pde/ShellFixture.h"
 #include "pde/shell/CentredLayout.h"
 #include "pde/ticket/TicketUtilities.h"
+#include "printer/DeviceProfile.h"
 #include "printer/InstallableOptions.h"
 #include "support/User.h"
 #include "toolkit/controls/ControlProperties.h"
@@ -31,6 +32,7 @@ TEST_F(PDEShellTest, APaneFromPrologueToTerminate)
     EXPECT_EQ(GetPDEBundle(), FindBundle(kPlugInIdentifier));
     EXPECT_EQ(GetControlBundle(print, kCreator), GetPDEBundle());
     EXPECT_TRUE(getInstalledFeature("JobStorage")) << "as the PPD says";
+    EXPECT_TRUE(KDPGetFeature("Staple")) << "as the device profile says";
     EXPECT_TRUE(userPane(2)->isHidden());
 
     EXPECT_EQ(CallsOf([&] { EXPECT_EQ(slots.Open(prologue.context), noErr); }), "1O2O3O1>2>3>");
@@ -47,7 +49,7 @@ TEST_F(PDEShellTest, APaneFromPrologueToTerminate)
 
     EXPECT_EQ(CallsOf([&] { EXPECT_EQ(terminate(), noErr); }), "1T2T3T");
     EXPECT_EQ(GetCurrentPrintSession(), nullptr);
-    EXPECT_FALSE(getInstalledFeature("JobStorage"));
+    EXPECT_FALSE(getInstalledFeature("JobStorage") || KDPGetFeature("Staple"));
     EXPECT_EQ(PDESync(&session(), SyncDirection::TicketsToControls), kSyncWithoutContext);
     EXPECT_EQ(command(kCommandPanelUp), EventResult::NotHandled) << "no handler stays behind";
 }
@@ -122,7 +124,8 @@ TEST_F(PDEShellTest, NextAndPreviousWrap)
     EXPECT_EQ(shownAfter([&] { ClickControl(control(kNextButton)); }), 1);
     EXPECT_EQ(shownAfter([&] { EXPECT_EQ(command(kCommandPanelUp), EventResult::NotHandled); }), 2)
         << "up goes to the next panel, and by one";
-    EXPECT_EQ(shownAfter([&] { command(kCommandPanelDown); }), 1);
+    EXPECT_EQ(shownAfter([&] { command(kCommandPanelUp); }), 3) << "the last";
+    EXPECT_EQ(shownAfter([&] { command(kCommandPanelUp); }), 1);
     EXPECT_EQ(shownAfter([&] { command(kCommandPanelDown); }), 3);
     EXPECT_EQ(shownAfter([&] { command(kCommandPanelUp); }), 1);
     slots.Close(prologue.context);

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -63,9 +64,21 @@ TEST_F(PanelLoadingTest, TheProblemNamesWhatIsMissingAndWhere)
     const QString colors = problemOf({"GetColorOptionPanelInterface", nullptr});
     EXPECT_TRUE(colors.contains(u"/some/where/Library/Printers/Kesta/PDEs/ColorOptions.plugin"))
         << colors.toStdString();
+}
+
+TEST_F(PanelLoadingTest, AChosenRootGoesBeforeThePlugInsFolderAndThatBeforeTheSystem)
+{
+    const QTemporaryDir system, beside;
+    const QString path = system.filePath(u"Colors.plugin"_s);
+    const Bundle plugIn{.path = beside.filePath(u"KestaFeatures.plugin"_s)};
+    const auto found = [&] { return shell::GetPanelPlugInPath(plugIn, path); };
+    EXPECT_EQ(found(), beside.path() + path) << "what is missing is asked for here";
+    ASSERT_TRUE(QDir().mkpath(path));
+    EXPECT_EQ(found(), path);
+    ASSERT_TRUE(QDir().mkpath(beside.path() + path));
+    EXPECT_EQ(found(), beside.path() + path);
     qputenv("KESTA_LIBRARY_ROOT", "/else/where");
-    EXPECT_TRUE(problemOf({"GetColorOptionPanelInterface", nullptr})
-                    .contains(u"/else/where/Library/Printers/Kesta/PDEs/ColorOptions.plugin"));
+    EXPECT_EQ(found(), u"/else/where"_s + path) << "also where nothing is";
 }
 
 TEST_F(PanelLoadingTest, NullMeansTheProductsPanelsAndAnEmptyListNothing)

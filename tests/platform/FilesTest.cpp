@@ -276,6 +276,12 @@ TEST_F(FilesTest, DamagedPreferencesAreKeptAside)
         EXPECT_EQ(Content(file + QStringLiteral(".damaged")), damaged);
         EXPECT_FALSE(QFile::exists(file));
     }
+    QFile large(file);
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(17 << 20));
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(CopyUserPreferences("x.plist"), Dictionary());
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("too large; kept as"), std::string::npos);
+    EXPECT_FALSE(QFile::exists(file));
 }
 
 TEST_F(FilesTest, AFailedWriteOfPreferencesSaysItsCode)

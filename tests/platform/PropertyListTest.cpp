@@ -138,6 +138,7 @@ TEST(PropertyList, RefusalsSayWhereAndWhy)
         {"<date>2031-02-29T00:00:00Z</date>", "not a date"},
         {"<date>2031-02-28T24:00:00Z</date>", "not a date"},
         {"<date>2031-02-28</date>", "not a date"},
+        {"<date>2031-02-28T00:00:00Zulu</date>", "not a date"},
         {"<date>0000-01-01T00:00:00Z</date>", "not a date"},
         {"<data>AAE</data>", "not base64"},
         {"<data>AA=E</data>", "not base64"},

@@ -1,4 +1,5 @@
 #include "printer/InstallableOptions.h"
+#include "printer/PPDFacts.h"
 #include "printer/PPDUtilities.h"
 #include "product/InstalledFeatures.h"
 #include "support/Accessories.h"
@@ -8,6 +9,8 @@
 #include <gtest/gtest.h>
 
 #include <QSet>
+
+#include <cups/ppd.h>
 
 namespace kesta {
 namespace {
@@ -122,6 +125,25 @@ TEST(InstallableOptions, ThePictureShowsFeederAndFinisher)
     EXPECT_EQ(picture("None", "CClass"), QStringLiteral("Bypass-Adv.gif"));
     EXPECT_EQ(picture("HCF", "CClass_BK"), QStringLiteral("HiCap-Prof.gif"));
     EXPECT_EQ(picture("HCF", "DClass"), QStringLiteral("HiCap-LtProd.gif"));
+}
+
+TEST(PPDFacts, AreTheModelAsPeopleKnowItAndWhatIsFitted)
+{
+    const WithAccessories fitted(
+        {{"Option1", "None"}, {"Option2", "OCT"}, {"Option4", "None"}, {"Option5", "False"}, {"Option8", "True"}});
+    const CurrentPrinter printer;
+    EXPECT_EQ(PPDCopyFittedAccessories(PPDGetCurrent()),
+              (QStringList{QStringLiteral("Finisher: Offset catch tray"), QStringLiteral("Job storage")}));
+    EXPECT_EQ(PPDCopyFittedAccessories(nullptr), QStringList());
+
+    char model[] = "Veltra", nickname[] = "Kesta Veltra PS";
+    ppd_file_t ppd{};
+    ppd.nickname = nickname;
+    EXPECT_EQ(PPDCopyModelName(&ppd), QStringLiteral("Kesta Veltra PS"));
+    ppd.modelname = model;
+    EXPECT_EQ(PPDCopyModelName(&ppd), QStringLiteral("Veltra"));
+    model[0] = 0;
+    EXPECT_EQ(PPDCopyModelName(&ppd), QStringLiteral("Kesta Veltra PS"));
 }
 
 } // namespace

@@ -19,7 +19,11 @@ public:
         for (QLineEdit*& field : fields)
             layout->addWidget(field = new QLineEdit);
         fields[1]->hide();
-        layout->addWidget(buttons = new QDialogButtonBox(QDialogButtonBox::Ok));
+        auto* row = new QHBoxLayout; // as editors have it, with a strut below
+        row->addWidget(help = new QDialogButtonBox(QDialogButtonBox::Help));
+        row->addWidget(buttons = new QDialogButtonBox(QDialogButtonBox::Ok));
+        layout->addLayout(row);
+        layout->addItem(new QSpacerItem(300, 0));
     }
     bool shows(const QWidget& control) const
     {
@@ -27,7 +31,7 @@ public:
                !control.visibleRegion().isEmpty();
     }
     std::array<QLineEdit*, 20> fields{};
-    QDialogButtonBox* buttons = nullptr;
+    QDialogButtonBox *help = nullptr, *buttons = nullptr;
 };
 
 TEST(FitToScreen, EverythingCanBeReachedOnALowScreen)
@@ -36,6 +40,7 @@ TEST(FitToScreen, EverythingCanBeReachedOnALowScreen)
     FitToScreen(window, {800, 400});
     EXPECT_LE(window.height(), 400);
     window.show();
+    EXPECT_TRUE(window.shows(*window.help));
     EXPECT_TRUE(window.shows(*window.buttons));
     EXPECT_TRUE(window.shows(*window.fields.front()));
     EXPECT_FALSE(window.fields[1]->isVisible()) << "hidden before";

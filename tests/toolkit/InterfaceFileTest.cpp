@@ -7,7 +7,6 @@
 #include "toolkit/controls/ColorSwatch.h"
 #include "toolkit/controls/ListView.h"
 #include "toolkit/controls/Mnemonics.h"
-#include "toolkit/controls/SummaryTextView.h"
 #include "toolkit/controls/TabControl.h"
 #include "toolkit/controls/TextArea.h"
 
@@ -36,26 +35,6 @@ protected:
         return *FindControlAs<Widget>(root.get(), {kGallery, number});
     }
 };
-
-TEST_F(GalleryTest, TextsAreLookedUpAndTheirKeysKept)
-{
-    EXPECT_EQ(window->windowTitle(), u"Print"_s);
-    auto* cancel = GetWindowCancelButton(*window);
-    ASSERT_TRUE(cancel);
-    EXPECT_EQ(cancel->text(), u"Cancel"_s);
-    EXPECT_EQ(cancel->property("localizableKey").toString(), u"Cancel Command"_s);
-    EXPECT_EQ(get<TabControl>(controls, 20).titles(), (QStringList{u"Recipients"_s, u"Cover Sheet"_s, u"Options"_s}));
-    EXPECT_EQ(get<QLineEdit>(controls, 24).text(), u"1234"_s);
-    EXPECT_EQ(get<QWidget>(controls, 26).property("localizableKey"), QVariant()) << "a number is no key";
-}
-
-TEST_F(GalleryTest, AControlIsNamedByItsLabelOrByItself)
-{
-    EXPECT_EQ(ControlName(get<QWidget>(window, 101)), u"Job type"_s);
-    EXPECT_EQ(ControlName(get<QWidget>(window, 5)), u"Landscape"_s);
-    SetControlText(LabelOf(get<QWidget>(window, 101)), u"Kind of job"_s);
-    EXPECT_EQ(ControlName(get<QWidget>(window, 101)), u"Kind of job"_s);
-}
 
 TEST_F(GalleryTest, TrailingWidgetsAreAsWideAsTheWidest)
 {
@@ -130,14 +109,6 @@ TEST_F(GalleryTest, ListsSortByTheLanguageAndKeepTheirRowNumbers)
     EXPECT_EQ(list.selectedRows(), (std::vector{2, 1, 0, 3})) << "selected rows are told from top to bottom";
     list.setRows({});
     EXPECT_TRUE(list.selectedRows().empty());
-}
-
-TEST_F(GalleryTest, SummariesKeepRoomForTheirUsualLines)
-{
-    auto& summary = get<SummaryTextView>(window, 106);
-    const int three = summary.sizeHint().height();
-    summary.setText(u"- None"_s);
-    EXPECT_EQ(summary.sizeHint().height(), three);
 }
 
 QChar MnemonicOf(const QString& text)

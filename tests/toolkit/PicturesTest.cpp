@@ -3,8 +3,6 @@
 #include "support/TestTexts.h"
 #include "toolkit/controls/ControlEvent.h"
 #include "toolkit/controls/PictureView.h"
-#include "toolkit/style/KestaColors.h"
-#include "toolkit/style/KestaStyle.h"
 
 #include <gtest/gtest.h>
 
@@ -12,12 +10,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QPalette>
-#include <QStyle>
 #include <QTemporaryDir>
-
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
@@ -112,43 +105,6 @@ TEST_F(PicturesTest, ViewsDrawPicturesOverEachOtherOrLeaveItToAHandler)
         return EventResult::Handled;
     });
     EXPECT_EQ(color(), QColor(Qt::green));
-}
-
-// Of the two colours' relative luminances; readable text needs 4.5.
-double Contrast(const QColor& a, const QColor& b)
-{
-    const auto luminance = [](const QColor& color) {
-        const auto linear = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-    };
-    const auto [dark, light] = std::minmax({luminance(a), luminance(b)});
-    return (light + 0.05) / (dark + 0.05);
-}
-
-bool IsNearly(const QColor& color, QRgb drawn) // a mix may round the other way
-{
-    return std::abs(color.red() - qRed(drawn)) <= 1 && std::abs(color.green() - qGreen(drawn)) <= 1 &&
-           std::abs(color.blue() - qBlue(drawn)) <= 1;
-}
-
-TEST(KestaColors, MixesAreReadableOnBothOfOurPalettes)
-{
-    for (const bool dark : {false, true}) {
-        QPalette palette;
-        palette.setColor(QPalette::Window, dark ? 0x1F2226 : 0xEFF1F4);
-        palette.setColor(QPalette::WindowText, dark ? 0xE9EBEE : 0x1F242B);
-        palette.setColor(QPalette::Base, dark ? 0x191C1F : 0xFFFFFF);
-        const KestaColors colors = ColorsOf(palette);
-        EXPECT_EQ(colors.dark, dark);
-        EXPECT_TRUE(IsNearly(colors.pane, dark ? 0x272A2E : 0xFCFCFD));
-        EXPECT_TRUE(IsNearly(colors.text2, dark ? 0xACAFB2 : 0x5D6267));
-        EXPECT_TRUE(IsNearly(colors.field, dark ? 0x84868A : 0x878A90));
-        EXPECT_TRUE(IsNearly(colors.hairline, dark ? 0x35383C : 0xD8DADE));
-        EXPECT_GE(Contrast(colors.text2, colors.pane), 5.4);
-        EXPECT_GE(Contrast(colors.text2, colors.window), 5.4);
-        EXPECT_GE(Contrast(colors.field, colors.base), 3);
-        EXPECT_GE(Contrast(colors.error, colors.window), 4.5);
-    }
 }
 
 } // namespace

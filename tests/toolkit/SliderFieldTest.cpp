@@ -133,15 +133,5 @@ TEST_F(SliderFieldTest, SliderAndFieldAreOneControl)
     EXPECT_EQ(control.slider().value(), 100);
 }
 
-TEST_F(SliderFieldTest, TheFieldHasTheFocusAndBothHaveTheName)
-{
-    control.setAccessibleName(u"Lightness"_s);
-    control.nameParts();
-    EXPECT_EQ(control.focusProxy(), &control.field());
-    EXPECT_EQ(control.slider().focusPolicy(), Qt::NoFocus);
-    EXPECT_EQ(control.field().accessibleName(), u"Lightness"_s);
-    EXPECT_EQ(control.slider().accessibleName(), u"Lightness"_s);
-}
-
 } // namespace
 } // namespace kesta

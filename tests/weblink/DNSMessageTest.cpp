@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <random>
 #include <vector>
 
 namespace kesta::dns_message_test {
@@ -179,28 +178,6 @@ TEST(DNSMessage, DecodesTextRecords)
     std::size_t position = 0;
     EXPECT_EQ(decode_txt(position, packet, nullptr, &size), -1);
     EXPECT_EQ(decode_txt(position, packet, buffer.data(), nullptr), -2);
-}
-
-TEST(DNSMessage, HostileMessagesAreReadWithinTheirBytes)
-{
-    std::mt19937 random(3);
-    testing::internal::CaptureStdout();
-    int codes = 0;
-    for (int round = 0; round < 20000; ++round) {
-        Bytes packet(random() % 40);
-        for (std::uint8_t& byte : packet)
-            byte = static_cast<std::uint8_t>(random() % 3 ? random() % 6 : random() | 0xC0);
-        packet.shrink_to_fit(); // so that sanitizers know the end
-        std::string name;
-        std::uint16_t port = 0;
-        std::array<std::uint8_t, 8> buffer;
-        std::size_t at = random() % 12, question = at, service = at, text = at, size = buffer.size();
-        codes += decode_name(at, packet, name) + skip_question(question, packet) +
-                 decode_srv(service, packet, name, port) + decode_txt(text, packet, buffer.data(), &size);
-        EXPECT_LE(name.size(), 255u);
-    }
-    testing::internal::GetCapturedStdout();
-    EXPECT_LT(codes, 0);
 }
 
 } // namespace

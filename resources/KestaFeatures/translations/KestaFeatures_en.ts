@@ -1695,6 +1695,10 @@
         <translation>Any tray with this paper</translation>
     </message>
     <message>
+        <source>Automatic Tray</source>
+        <translation>Automatic</translation>
+    </message>
+    <message>
         <source>Named Tray Hint</source>
         <translation>Whatever paper lies in it</translation>
     </message>

@@ -7,8 +7,9 @@
 namespace kesta::host {
 namespace {
 
-constexpr qsizetype kLongestName = 255;     // the print protocol's limit for a keyword
-constexpr qsizetype kLongestValue = 32'767; // and for a value
+// The print protocol's limits, in bytes.
+constexpr qsizetype kLongestName = 255;
+constexpr qsizetype kLongestValue = 32'767;
 
 auto Find(auto& options, QAnyStringView name)
 {
@@ -60,7 +61,7 @@ void ParseJobOptions(const QByteArray& text, JobOptions& options)
 
 std::optional<Message> JobOptionFault(const JobOption& option)
 {
-    if (option.name.isEmpty() || option.name.size() > kLongestName ||
+    if (option.name.isEmpty() || option.name.toUtf8().size() > kLongestName ||
         !std::ranges::all_of(option.name, IsNameCharacter))
         return Say("Option Name Unusable", option.name);
     if (option.value.toUtf8().size() > kLongestValue)

@@ -46,10 +46,11 @@ QByteArray WriteKey(QByteArrayView tag, const QByteArray& key, const QByteArray&
     return tag.toByteArray() + key.toBase64(kText) + '-' + keyID;
 }
 
+// Of two texts that stand for the same bytes only the one that would be written is read.
 std::optional<QByteArray> FromText(const QByteArray& text)
 {
     const auto decoded = QByteArray::fromBase64Encoding(text, kText | QByteArray::AbortOnBase64DecodingErrors);
-    return decoded ? std::optional(*decoded) : std::nullopt;
+    return decoded && decoded.decoded.toBase64(kText) == text ? std::optional(*decoded) : std::nullopt;
 }
 
 // Key and ID of a key's text, which are not compared yet.

@@ -105,13 +105,13 @@ std::optional<ChoiceChange> ChangeOption(const ConstraintRules& rules, const ppd
 
 using Changes = std::map<QString, ChoiceChange>; // by keyword
 
-// Changes that were made for earlier conflicts and settle this one too, or a new one.
+// Changes that were made for earlier conflicts and settle this one too, or a new one. A changed option is in no broken
+// rule, so none is changed twice.
 std::vector<ChoiceChange> Resolve(const ConstraintRules& rules, const ConstraintRule& rule, Changes& made)
 {
     if (rules.isBroken(rule)) {
         for (const ppd_option_t* option : Changeable(rules, rule)) {
-            const bool wasChanged = made.contains(QString::fromUtf8(option->keyword));
-            const auto change = wasChanged ? std::nullopt : ChangeOption(rules, *option);
+            const auto change = ChangeOption(rules, *option);
             if (!change)
                 continue;
             made.emplace(change->keyword, *change);

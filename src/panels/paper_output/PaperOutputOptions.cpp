@@ -1,5 +1,6 @@
 #include "panels/paper_output/PaperOutputOptions.h"
 
+#include "model/FirstSpecialPages.h"
 #include "panels/paper_output/PaperOutputBindings.h"
 #include "panels/special_pages/paper/SeparatorsRules.h"
 #include "pde/interface/TicketKeys.h"
@@ -164,14 +165,8 @@ OSStatus WriteTicket(PaperOutputOptions& options, Ticket& ticket, WriteScope sco
 
 bool isSpecialPageConfigured(const Ticket& settings)
 {
-    for (const char* key : {key::SpecialPagesExceptionList, key::SpecialPagesInsertList, key::SpecialPagesFrontCover,
-                            key::SpecialPagesBackCover}) {
-        if (const Array* list = settings.values().array(key))
-            return !list->empty();
-        if (const Dictionary* cover = settings.values().dictionary(key))
-            return cover->count() > 0;
-    }
-    return false;
+    const std::optional<FirstSpecialPages> first = FirstSpecialPagesOf(settings);
+    return first && first->holdsAny;
 }
 
 std::optional<SInt32> ReadPPDDuplex(const Ticket& settings, ppd_file_t* ppd)

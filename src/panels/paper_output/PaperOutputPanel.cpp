@@ -141,6 +141,5 @@ constexpr PanelOperations<_PaperOutputContext> kOperations{
 
 KestaStatus GetPaperOutputPanelInterface(const PanelInterfaceHolder** holder)
 {
-    *holder = &kesta::PanelSlots<kesta::paper_output::kOperations>::kHolder;
-    return kesta::noErr;
+    return kesta::GivePanel<kesta::paper_output::kOperations>(holder);
 }

@@ -142,7 +142,7 @@ void AppearInSummary(const _PaperOutputContext& panel)
                   CreateFinishingString(*panel.bundle, plain, panel.accessories));
 }
 
-// Its number and signature as a control among them, and its place in the window's summary.
+// Its number and signature as a control among them, its lines, and its place in the window's summary.
 void CopyOwnProperties(const QWidget& from, QWidget& to)
 {
     for (const QByteArray& name : from.dynamicPropertyNames())
@@ -167,7 +167,6 @@ void RestoreSummary(QWidget* room)
         return;
     auto* summary = new SummaryTextView(room->parentWidget());
     CopyOwnProperties(*room, *summary);
-    summary->setLines(room->property("lines").toInt());
     summary->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     delete room->parentWidget()->layout()->replaceWidget(room, summary);
     delete room;

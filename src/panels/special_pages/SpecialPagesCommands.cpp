@@ -93,10 +93,7 @@ std::optional<SInt32> StepsTo(const SpecialPageSet& set, const SpecialPages& row
 
 void Move(SpecialPageSet& set, const SpecialPage& page, SInt32 steps)
 {
-    for (; steps < 0; ++steps)
-        set.inserts.promote(&page);
-    for (; steps > 0; --steps)
-        set.inserts.demote(&page);
+    set.inserts.move(&page, steps);
 }
 
 void UndoState::perform(SpecialPageSet& set)

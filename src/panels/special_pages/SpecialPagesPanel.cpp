@@ -106,6 +106,5 @@ constexpr PanelOperations<_SpecialPagesContext> kOperations{
 
 KestaStatus GetSpecialPagesPanelInterface(const PanelInterfaceHolder** holder)
 {
-    *holder = &kesta::PanelSlots<kesta::special_pages::kOperations>::kHolder;
-    return kesta::noErr;
+    return kesta::GivePanel<kesta::special_pages::kOperations>(holder);
 }

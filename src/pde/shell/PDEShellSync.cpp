@@ -74,7 +74,7 @@ OSStatus Sync(PDEShellContext& shell, PrintSession& session, SyncDirection direc
             panelStatus = panel.interface.Sync(panel.context, &session, toControls);
     }
     for (PanelRecord& panel : shell.panels) { // the values of the panel that the user sees prevail
-        if (panel.index != kTakesNoPart && panel.index == shown)
+        if (panel.index == shown)
             panelStatus = panel.interface.Sync(panel.context, &session, toControls);
     }
     if (toControls)

@@ -27,10 +27,7 @@ BundleOrError BundleOfPanel(const Bundle& plugIn, std::string_view functionName)
     const auto own = std::ranges::find(_PanelPlugIns, functionName, &PanelPlugIn::functionName);
     if (own == _PanelPlugIns.end())
         return {&plugIn};
-    const QString plain = QString::fromUtf8(own->path);
-    const QString belowRoot = GetLibraryRoot(plugIn) + plain;
-    const bool isRootChosen = !qEnvironmentVariableIsEmpty(kLibraryRootVariable);
-    return LoadBundleAt(isRootChosen || QFileInfo::exists(belowRoot) || !QFileInfo::exists(plain) ? belowRoot : plain);
+    return LoadBundleAt(GetPanelPlugInPath(plugIn, QString::fromUtf8(own->path)));
 }
 
 } // namespace
@@ -47,10 +44,13 @@ void SetPanelFunctionNames(std::vector<std::string> names)
     FunctionNames() = std::move(names);
 }
 
-QString GetLibraryRoot(const Bundle& plugIn)
+QString GetPanelPlugInPath(const Bundle& plugIn, const QString& path)
 {
-    const QString configured = qEnvironmentVariable(kLibraryRootVariable);
-    return configured.isEmpty() ? QFileInfo(plugIn.path).absolutePath() : configured;
+    const QString chosenRoot = qEnvironmentVariable(kLibraryRootVariable);
+    if (!chosenRoot.isEmpty())
+        return chosenRoot + path;
+    const QString beside = QFileInfo(plugIn.path).absolutePath() + path;
+    return QFileInfo::exists(beside) || !QFileInfo::exists(path) ? beside : path;
 }
 
 PanelFunctionOrProblem FindPanelFunction(const Bundle& plugIn, const std::string& functionName)

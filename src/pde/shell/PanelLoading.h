@@ -19,9 +19,9 @@ namespace shell {
 const std::vector<std::string>& GetPanelFunctionNames();
 void SetPanelFunctionNames(std::vector<std::string> names); // an empty list: the product's again
 
-// Where panels lie that are plug-ins of their own: $KESTA_LIBRARY_ROOT, else the folder that holds the plug-in. When
-// nobody chose a root and such a plug-in is not there, it is looked for under its path as it is.
-QString GetLibraryRoot(const Bundle& plugIn);
+// Where a panel lies that is a plug-in of its own: its path below $KESTA_LIBRARY_ROOT, else below the folder that holds
+// the plug-in. When nobody chose a root and nothing is there, its path as it is, if something is there.
+QString GetPanelPlugInPath(const Bundle& plugIn, const QString& path);
 
 struct PanelFunctionOrProblem {
     PanelInterfaceFunction function = nullptr;

@@ -54,11 +54,29 @@ QScrollArea* MakeScrolling(QWidget& window)
     return scroll;
 }
 
+bool HoldsButtons(QLayoutItem& item)
+{
+    if (const QLayout* row = item.layout()) {
+        for (int i = 0; i < row->count(); ++i) {
+            if (HoldsButtons(*row->itemAt(i)))
+                return true;
+        }
+    }
+    return qobject_cast<QDialogButtonBox*>(item.widget());
+}
+
+// The dialog's buttons, with those beside them, out of their layout; null when they don't stand below everything else.
+QLayoutItem* TakeButtons(QLayout& layout)
+{
+    int last = layout.count() - 1;
+    while (last >= 0 && layout.itemAt(last)->spacerItem())
+        --last;
+    return last >= 0 && HoldsButtons(*layout.itemAt(last)) ? layout.takeAt(last) : nullptr;
+}
+
 void ScrollAllButButtons(QWidget& window)
 {
-    auto* buttons = window.findChild<QDialogButtonBox*>(QString(), Qt::FindDirectChildrenOnly);
-    if (buttons)
-        window.layout()->removeWidget(buttons);
+    QLayoutItem* buttons = TakeButtons(*window.layout());
     QScrollArea* scroll = MakeScrolling(window);
     auto* layout = new QVBoxLayout(&window);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -70,7 +88,10 @@ void ScrollAllButButtons(QWidget& window)
     hairline->setFrameShape(QFrame::HLine);
     auto* band = new QVBoxLayout;
     band->setContentsMargins(kBandMargins);
-    band->addWidget(buttons);
+    if (QLayout* row = buttons->layout())
+        band->addLayout(row);
+    else
+        band->addItem(buttons);
     layout->addWidget(hairline);
     layout->addLayout(band);
 }

@@ -2,6 +2,7 @@
 #include "panels/booklet_watermark/FontBuilder.h"
 #include "panels/booklet_watermark/fonts/Sfnt.h"
 #include "panels/booklet_watermark/fonts/SfntName.h"
+#include "panels/booklet_watermark/fonts/Type42Strings.h"
 
 #include <QByteArrayList>
 
@@ -160,6 +161,13 @@ TEST(Type42, NamesThatWouldNotBeNamesAreLeftOut)
     EXPECT_FALSE(text.contains("a b"));
     EXPECT_FALSE(text.contains("show"));
     EXPECT_TRUE(text.contains("/.notdef 0 def\n/fine 4 def\nend readonly def\n"));
+
+    builder.setNames({0, 258}, {"x"});
+    builder.patch("post", 38, "\2"); // a byte longer than its table, and the byte behind it could be of a name
+    builder["zzzz"] = "zzzz";
+    EXPECT_FALSE(Convert(builder.file()).text.contains("xz"));
+    builder.patch("post", 38, "\1");
+    EXPECT_TRUE(Convert(builder.file()).text.contains("/x 1 def\n"));
 }
 
 TEST(Type42, CutsBetweenGlyphsOnly)
@@ -211,14 +219,22 @@ TEST(Type42, AFontThatCannotBeCutStaysUnfinished)
 
     builder.patch("head", 50, BigEndian16(7)); // offsets of no known format: every glyph is at the start
     EXPECT_FALSE(Convert(builder.file()).isComplete);
+}
 
-    builder.setGlyphSizes({}); // one string of just less than what needs a cut, and of just that
-    builder["zzzz"] = QByteArray(65534 - builder.file().size() - 16 - 2, 'z');
-    ASSERT_EQ(builder.file().size(), 65532);
-    EXPECT_EQ(Strings(Convert(builder.file()).text).size(), 1u);
-    builder["zzzz"] += "zz";
-    EXPECT_EQ(Strings(Convert(builder.file().first(65533)).text).size(), 1u);
-    EXPECT_EQ(Strings(Convert(builder.file()).text).size(), 2u) << "cut at a table";
+TEST(Type42, AStringTakesUpToTheLastBoundaryThatFits)
+{
+    constexpr qsizetype kMost = 65'534;
+    std::vector<char> out(RoomForStrings(70'000));
+    const auto first = [&](std::uint64_t boundary, qsizetype size = 70'000) {
+        const WrittenStrings written = WriteStrings(QByteArray(size, 'x'), {boundary}, {0, 8}, out.data());
+        const QByteArray text(out.data(), written.end - out.data());
+        return text.first(text.indexOf('>')).count("78");
+    };
+    EXPECT_EQ(first(kMost - 1), kMost - 1);
+    EXPECT_EQ(first(kMost), kMost);
+    EXPECT_EQ(first(kMost + 1), 8) << "and never half of one that does not fit";
+    EXPECT_EQ(first(100, kMost - 1), kMost - 1);
+    EXPECT_EQ(first(100, kMost), 100) << "what is as large as a string is cut where it can be";
 }
 
 TEST(Type42, MalformedFontsGiveNothing)
@@ -234,6 +250,19 @@ TEST(Type42, MalformedFontsGiveNothing)
         FontBuilder missing;
         missing.tables.erase(tag);
         EXPECT_EQ(error(missing), "DEBUG: Malformed TrueType file - missing vital table.\n") << tag;
+    }
+    for (const char* tag : {"glyf", "loca"}) {
+        QByteArray font = FontBuilder().file();
+        const qsizetype entry = font.indexOf(tag);
+        const auto resultOf = [&](unsigned offset) {
+            testing::internal::CaptureStderr();
+            const bool isComplete = Convert(font.replace(entry + 8, 4, BigEndian32(offset))).isComplete;
+            testing::internal::GetCapturedStderr();
+            return isComplete;
+        };
+        EXPECT_TRUE(resultOf(static_cast<unsigned>(font.size()))) << "an empty table at the end";
+        EXPECT_FALSE(resultOf(static_cast<unsigned>(font.size()) + 1)) << tag;
+        EXPECT_FALSE(resultOf(0xFFFFFFF0)) << tag;
     }
     FontBuilder magic;
     magic.patch("head", 12, BigEndian32(0x5F0F3CF4));

@@ -391,9 +391,12 @@ TEST_F(WatermarkStoreTest, TheUsersOwnFolderStandsIn)
     for (const char* outside : {"", "../x.plist", "a/b", ".hidden"})
         EXPECT_EQ(CopyPreferenceFileURL(outside), std::nullopt) << outside;
 
-    ASSERT_TRUE(QFile::link(folder.filePath(u"elsewhere"_s), path)); // somebody's trap
+    const QString elsewhere = folder.filePath(u"elsewhere"_s);
+    saveWatermarkList(kWatermarkFile, QStringList{u"another's"_s});
+    ASSERT_TRUE(QFile::rename(path, elsewhere) && QFile::link(elsewhere, path)); // somebody's trap
+    const QByteArray before = Content(elsewhere);
     saveWatermarkList(kWatermarkFile, QStringList{u"own"_s});
-    EXPECT_FALSE(QFile::exists(folder.filePath(u"elsewhere"_s)));
+    EXPECT_EQ(Content(elsewhere), before);
     EXPECT_EQ(CopyPreferenceFileURL(kWatermarkFile), ofUser);
     EXPECT_EQ(Mode(ofUser), 0600);
 

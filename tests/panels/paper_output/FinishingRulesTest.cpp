@@ -292,5 +292,16 @@ TEST(JobTypes, WithASetupAreSix)
     EXPECT_EQ(withSetup, (std::vector<SInt32>{3, 4, 5, 6, 7, 9}));
 }
 
+TEST(JobTypes, OfATicketAreNine)
+{
+    for (const auto& [stored, read] : {std::pair(0, 1), {1, 1}, {4, 4}, {9, 9}, {10, 1}}) {
+        Ticket ticket;
+        ticket.set("X", key::JobType, Dictionary{{"JobType", Number::SInt32(stored)}});
+        JobType job;
+        ReadJobType(job, ticket);
+        EXPECT_EQ(job.number, read) << stored;
+    }
+}
+
 } // namespace
 } // namespace kesta::paper_output

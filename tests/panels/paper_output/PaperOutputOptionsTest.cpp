@@ -143,6 +143,7 @@ TEST(PaperOutputOptions, EntriesOfTheJobTypeThatAreNobodysHerePassThrough)
 TEST(PaperOutputOptions, ABookletForcesShortEdgeInAllThreePlaces)
 {
     PaperOutputOptions options{.booklet = {.layout = kBookletLayoutOn}, .duplex = kTwoSidedLongEdge};
+    options.stock.setSize(kStockSizeLetter);
     Ticket ticket;
     WriteTicket(options, ticket);
     EXPECT_EQ(PPDCopyCurrentChoice(ticket, "Duplex"), u"DuplexTumble"_s);
@@ -161,6 +162,9 @@ TEST(PaperOutputOptions, BookletAndDuplexAreWrittenOnlyByWhomTheyBelongTo)
     for (const char* key : {key::BookletLayout, key::Gutter, key::FinishingDuplex, key::PMDuplexing})
         EXPECT_FALSE(ticket.values().find(key)) << key;
     EXPECT_FALSE(PPDCopyCurrentChoice(ticket, "Duplex"));
+    options.booklet.layout = kBookletLayoutOff;
+    WriteTicket(options, ticket);
+    EXPECT_FALSE(ticket.values().find(key::Gutter)) << "nor of a booklet that is none";
 }
 
 TEST(PaperOutputOptions, AForcedBookletSizeIsReadWithItsFlagOnly)
@@ -186,6 +190,9 @@ TEST(PaperOutputOptions, TwoSidedComesFromTheFirstPlaceThatSaysIt)
     ticket.set("X", key::FinishingDuplex, Number::Index(2));
     ReadTicket(options, ticket, nullptr);
     EXPECT_EQ(options.duplex, kTwoSidedLongEdge);
+    ticket.set("X", key::FinishingDuplex, Number::Index(4)); // says nothing
+    ReadTicket(options, ticket, nullptr);
+    EXPECT_EQ(options.duplex, kOneSided);
 }
 
 TEST(PaperOutputOptions, ASingleStapleFollowsTheOrientation)

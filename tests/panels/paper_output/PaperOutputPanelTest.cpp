@@ -198,6 +198,40 @@ TEST_F(PaperOutputPanelTest, OpeningShowsTheJobsTwoSidedAndLaterSyncsTheUsersPic
     ASSERT_EQ(sync(true), noErr);
     EXPECT_EQ(GetPopupButtonTicketValue(popup(kTwoSidedPopup)), kOneSided);
     EXPECT_EQ(options().duplex, kTwoSidedShortEdge);
+    test::ModalUser user;
+    user.then([](QWidget& window) { test::Press(window, kCommandOK); });
+    EXPECT_TRUE(choose(kFinishingMenuButton, kBookletCreation));
+    EXPECT_EQ(options().duplex, kTwoSidedShortEdge) << "no booklet gives back what the job began with";
+}
+
+TEST_F(PaperOutputPanelTest, AJobThatIsABookletOpensOnLongEdge)
+{
+    ticket.set("X", key::FinishingDuplex, Number::Index(3));
+    ticket.set("X", key::BookletLayout, true);
+    open();
+    EXPECT_EQ(options().duplex, kTwoSidedLongEdge);
+}
+
+TEST_F(PaperOutputPanelTest, PaperDecidesAboutTheFinishingWithEveryEvent)
+{
+    const test::WithFeatures fitted({u"GBCAdvancedPunchKey"_s});
+    open();
+    options().stock.setType(kStockTypeLabels);
+    options().coilPunch = 1;
+    EXPECT_TRUE(test::Pick(popup(kQualityPopup), 200));
+    EXPECT_EQ(options().coilPunch, 0);
+    options().coilPunch = 1;
+    EXPECT_EQ(SendControlEvent(pane, CommandEvent{.command = kNoCommand}), EventResult::NotHandled);
+    EXPECT_EQ(options().coilPunch, 0);
+}
+
+TEST_F(PaperOutputPanelTest, APageThatIsTurnedTurnsItsStaple)
+{
+    open();
+    EXPECT_TRUE(choose(kFinishingMenuButton, "Stp1"_code));
+    pageFormat.set("X", key::PMOrientation, Number::Index(2));
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "StapleLocation"), u"SingleLandscape"_s);
 }
 
 TEST_F(PaperOutputPanelTest, TwoSidedAndBookletAreLeftToTheirOwners)
@@ -218,6 +252,9 @@ TEST_F(PaperOutputPanelTest, ClosedAndOpenedAgainItShowsTheSameInNewSummaries)
     open();
     EXPECT_TRUE(choose(kFinishingMenuButton, "Stp2"_code));
     const QString paper = text(kPaperSummary), finishing = text(kFinishingSummary);
+    const auto linesOf = [this](Control view) { return control(view)->property("lines").toInt(); };
+    const int lines = linesOf(kFinishingSummary);
+    EXPECT_GT(lines, 1);
     const PopupButton* popupBefore = popup(kJobTypePopup);
     EXPECT_EQ(slots->Close(prologue.context), noErr);
     EXPECT_EQ(text(kPaperSummary), u"no view"_s);
@@ -225,6 +262,7 @@ TEST_F(PaperOutputPanelTest, ClosedAndOpenedAgainItShowsTheSameInNewSummaries)
     EXPECT_EQ(slots->Open(prologue.context), noErr);
     EXPECT_EQ(text(kPaperSummary), paper);
     EXPECT_EQ(text(kFinishingSummary), finishing);
+    EXPECT_EQ(linesOf(kFinishingSummary), lines);
     EXPECT_EQ(popup(kJobTypePopup), popupBefore);
     EXPECT_TRUE(menu(kStockMenuButton)->chooseItem(1, 3));
     EXPECT_NE(text(kPaperSummary), paper) << "the paper menu shows in the new view";

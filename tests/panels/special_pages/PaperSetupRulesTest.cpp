@@ -104,19 +104,10 @@ TEST(TabStock, ATemplateIsATemplateOfTheUsersOwnCountry)
     EXPECT_EQ(TabShiftFromOptions(options, kMillimetres), TabShift{kTabShiftA4Template});
     EXPECT_EQ(TabShiftFromOptions(options, kInches), TabShift{kTabShiftLetterTemplate});
 
-    ApplyTabShift({.choice = kTabShiftNone}, kInches, options);
-    EXPECT_EQ(options, (_IS_Options{.option = kUnset, .inches = false, .X1 = 13})) << "the offset stays";
-}
-
-TEST(TabStock, ACustomShiftIsStoredInMillimetres)
-{
-    _IS_Options options;
-    ApplyTabShift({kTabShiftCustom, 8}, kInches, options);
-    EXPECT_EQ(options, (_IS_Options{.option = 1, .inches = false, .X1 = 20}));
-    EXPECT_EQ(TabShiftFromOptions(options, kInches), (TabShift{kTabShiftCustom, 8}));
-    EXPECT_EQ(TabShiftFromOptions(options, kMillimetres), (TabShift{kTabShiftCustom, 20}));
     ApplyTabShift({kTabShiftCustom, 5}, kInches, options);
     EXPECT_EQ(TabShiftFromOptions(options, kInches), TabShift{kTabShiftLetterTemplate}) << "13 mm is a template's";
+    ApplyTabShift({.choice = kTabShiftNone}, kInches, options);
+    EXPECT_EQ(options, (_IS_Options{.option = kUnset, .inches = false, .X1 = 13})) << "the offset stays";
 }
 
 TEST(TabStock, ASetHasThreeTabsUntilItIsSaid)

@@ -151,25 +151,16 @@ private:
 
     void addInserts(const SpecialPage* edited, std::size_t index = 0)
     {
-        const SInt32 first = below(12), sheets = 1 + below(3);
+        const SInt32 first = below(12), last = first + below(3), sheets = 1 + below(3);
         Insert like;
         like.setQuantity(sheets);
         std::vector<Insert> made;
-        const QString text = QStringLiteral("%1-%2").arg(first).arg(first + below(3));
-        ASSERT_EQ(MakeInserts(like, kAfterPage, text, made), noErr);
+        ASSERT_EQ(MakeInserts(like, kAfterPage, QStringLiteral("%1-%2").arg(first).arg(last), made), noErr);
         ASSERT_EQ(PlacePages(set_.inserts, edited, PointersTo(made), calls()), noErr);
         if (edited)
             model_.inserts.erase(model_.inserts.begin() + static_cast<std::ptrdiff_t>(index));
-        std::vector<ModelPage> added;
-        for (const Insert& insert : made)
-            added.push_back({insert.startPage(), insert.startPage(), sheets});
-        placeInserts(added);
-    }
-    // Moved inserts may stand anywhere, so "before the first that starts behind it" is looked for one by one.
-    void placeInserts(const std::vector<ModelPage>& added)
-    {
-        for (const ModelPage& page : added)
-            Place(model_.inserts, page);
+        for (SInt32 page = first; page <= last; ++page)
+            Place(model_.inserts, {page, page, sheets});
     }
 
     void addExceptions(const SpecialPage* edited, std::size_t index = 0)
@@ -220,15 +211,16 @@ private:
     {
         save();
         Remove(set_, selected_);
-        Model kept{.front = model_.front && !isChosen(ModelRow::Front, 0),
-                   .back = model_.back && !isChosen(ModelRow::Back, 0)};
-        for (std::size_t i = 0; i < model_.inserts.size(); ++i)
-            if (!isChosen(ModelRow::Insert, i))
-                kept.inserts.push_back(model_.inserts[i]);
-        for (std::size_t i = 0; i < model_.exceptions.size(); ++i)
-            if (!isChosen(ModelRow::Exception, i))
-                kept.exceptions.push_back(model_.exceptions[i]);
-        model_ = kept;
+        removeChosen(model_.inserts, ModelRow::Insert);
+        removeChosen(model_.exceptions, ModelRow::Exception);
+        model_.front = model_.front && !isChosen(ModelRow::Front, 0);
+        model_.back = model_.back && !isChosen(ModelRow::Back, 0);
+    }
+    void removeChosen(std::vector<ModelPage>& pages, ModelRow::Kind kind)
+    {
+        for (std::size_t i = pages.size(); i-- > 0;)
+            if (isChosen(kind, i))
+                pages.erase(pages.begin() + static_cast<std::ptrdiff_t>(i));
     }
     void removeAll()
     {
@@ -248,19 +240,20 @@ private:
     {
         save();
         MoveUp(set_, selected_);
-        std::vector<ModelPage>& inserts = model_.inserts;
-        for (std::size_t i = 1; i < inserts.size(); ++i)
-            if (isChosen(ModelRow::Insert, i) && inserts[i - 1].start != 0)
-                std::swap(inserts[i], inserts[i - 1]); // those below have not moved yet
+        for (std::size_t i = 1; i < model_.inserts.size(); ++i)
+            pass(i, i - 1); // those below have not moved yet
     }
     void moveDown()
     {
         save();
         MoveDown(set_, selected_);
-        std::vector<ModelPage>& inserts = model_.inserts;
-        for (std::size_t i = inserts.size(); i-- > 1;)
-            if (isChosen(ModelRow::Insert, i - 1) && inserts[i].start != 0)
-                std::swap(inserts[i], inserts[i - 1]);
+        for (std::size_t i = model_.inserts.size(); i-- > 1;)
+            pass(i - 1, i);
+    }
+    void pass(std::size_t from, std::size_t to)
+    {
+        if (isChosen(ModelRow::Insert, from) && model_.inserts[to].start != 0)
+            std::swap(model_.inserts[from], model_.inserts[to]);
     }
 
     // What is written is what is there, so the very same pages stay.

@@ -59,20 +59,6 @@ protected:
     _StockMenuCommandEventHandlerData data;
 };
 
-TEST_F(StockMenuTest, ChoosingChangesTheStockAndItsViews)
-{
-    initialize(JobContext::Insert);
-    EXPECT_EQ(icon.pictures(), QStringList({u"Paper_Plain-White.gif"_s}));
-    EXPECT_TRUE(choose(kStockTypeCommand, kStockTypeTransparency));
-    EXPECT_EQ(stock.type(), kStockTypeTransparency);
-    EXPECT_EQ(summary.text(), u"- Clear\n- Transparency"_s);
-    EXPECT_EQ(icon.pictures(), QStringList({u"Paper_Plain-Clear.gif"_s}));
-
-    EXPECT_TRUE(choose(kStockColorCommand, kUnset));
-    EXPECT_TRUE(choose(kStockTypeCommand, kUnset));
-    EXPECT_EQ(summary.text(), u"UseJobSetting"_s);
-}
-
 TEST_F(StockMenuTest, HandlersAroundTheButtonSeeTheStockChanged)
 {
     initialize(JobContext::ExceptionPage);

@@ -6,9 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <map>
-
 using namespace Qt::StringLiterals;
 
 namespace kesta {
@@ -21,17 +18,6 @@ protected:
         return GenerateStockSummary(bundle, context, stock, u"; "_s);
     }
     QStringList pictures() { return StockIconPictures(&stock); }
-    static QStringList titles(const Menu& menu)
-    {
-        QStringList titles;
-        for (const MenuItem& item : menu.items)
-            titles << (item.separator ? u"-"_s : item.title);
-        return titles;
-    }
-    static bool holds(const Menu& menu, SInt32 value)
-    {
-        return std::ranges::find(menu.items, value, &MenuItem::value) != menu.items.end();
-    }
 
     const Bundle bundle = test::BundleWithAllTexts();
     const test::CurrentPrinter printer;
@@ -103,65 +89,6 @@ TEST_F(StockRulesTest, WhatHasNoTextIsLeftOutAndNothingAtAllHasAWord)
     EXPECT_EQ(StockSummaryText(bundle, &stock, JobContext::Job), u"- Red\n- Bond"_s);
 }
 
-TEST_F(StockRulesTest, TheMenuHasASizeAndAnInserterForSpecialPagesOnly)
-{
-    const test::WithAccessories fitted({{"Option2", "DClass_BK"}});
-    Menu menu{.items = {{.title = u"before"_s}}};
-    PopulateStockMenu(menu, bundle, JobContext::Job);
-    EXPECT_EQ(titles(menu), QStringList({u"OtherColor"_s, u"OtherType"_s, u"-"_s, u"-"_s}));
-    PopulateStockMenu(menu, bundle, JobContext::ExceptionPage);
-    EXPECT_EQ(titles(menu), QStringList({u"OtherSize"_s, u"OtherColor"_s, u"OtherType"_s, u"-"_s, u"-"_s}));
-    for (const JobContext context : {JobContext::Cover, JobContext::Insert}) {
-        PopulateStockMenu(menu, bundle, context);
-        EXPECT_EQ(titles(menu).last(), u"Tray 8 Inserter Value"_s);
-        EXPECT_EQ(menu.items.back().command, kStockSourceCommand);
-        EXPECT_EQ(menu.items.back().value, kStockSourcePostPrintInserter);
-    }
-}
-
-TEST_F(StockRulesTest, WithoutAnInserterTheMenuDoesNotOfferIt)
-{
-    const test::WithAccessories fitted({{"Option2", "CClass"}});
-    Menu menu;
-    PopulateStockMenu(menu, bundle, JobContext::Cover);
-    EXPECT_TRUE(menu.items.back().separator);
-}
-
-TEST_F(StockRulesTest, SubmenusOfSpecialPagesBeginWithTheJobsSettingAndLackThePrintersOwn)
-{
-    Menu menu;
-    for (const auto populate : {PopulateStockSizeMenu, PopulateStockTypeMenu, PopulateStockColorMenu}) {
-        populate(menu, bundle, JobContext::Insert);
-        EXPECT_EQ(menu.items.front().title, u"UseJobSetting"_s);
-        EXPECT_EQ(menu.items.front().value, kUnset);
-        EXPECT_NE(menu.items.front().command, kNoCommand);
-        populate(menu, bundle, JobContext::Job);
-        EXPECT_FALSE(holds(menu, kUnset));
-    }
-    EXPECT_TRUE(holds(menu, kStockColorUnspecified));
-    PopulateStockColorMenu(menu, bundle, JobContext::Cover);
-    EXPECT_FALSE(holds(menu, kStockColorUnspecified));
-    EXPECT_TRUE(holds(menu, kStockColorPrinterDefault));
-
-    PopulateStockTypeMenu(menu, bundle, JobContext::Job);
-    EXPECT_TRUE(holds(menu, kStockTypeSystemDefault) && holds(menu, kStockTypeUnspecified));
-    PopulateStockTypeMenu(menu, bundle, JobContext::ExceptionPage);
-    EXPECT_FALSE(holds(menu, kStockTypeSystemDefault) || holds(menu, kStockTypeUnspecified));
-}
-
-TEST_F(StockRulesTest, CoversCanNotHaveACustomSize)
-{
-    Menu menu;
-    const auto offersCustom = [&](JobContext context) {
-        PopulateStockSizeMenu(menu, bundle, context);
-        const auto custom = std::ranges::find(menu.items, SInt32{kStockSizeCustom}, &MenuItem::value);
-        return custom != menu.items.end() && custom->enabled;
-    };
-    EXPECT_TRUE(offersCustom(JobContext::Insert));
-    EXPECT_FALSE(offersCustom(JobContext::Cover));
-    EXPECT_TRUE(holds(menu, kStockSizeCustom)) << "there, but disabled";
-}
-
 TEST_F(StockRulesTest, APrinterWithoutTheOptionHasAnEmptySubmenuThatCanNotBeOpened)
 {
     test::PPDVariant bare;
@@ -230,14 +157,6 @@ TEST_F(StockRulesTest, TheOtherCommandsTouchWhatTheyAreFor)
     EXPECT_EQ(stock, before);
 }
 
-TEST_F(StockRulesTest, AClearTransparencyHasNoGloss)
-{
-    ApplyStockCommand(stock, JobContext::Job, kStockTypeCommand, kStockTypeTransparency);
-    EXPECT_EQ(pictures(), QStringList({u"Paper_Plain-Clear.gif"_s}));
-    stock.setColor(kStockColorBlue);
-    EXPECT_EQ(pictures(), QStringList({u"Paper_Plain-Blue.gif"_s, u"Paper_Overlay-LightweightGloss.gif"_s}));
-}
-
 TEST_F(StockRulesTest, OverlaysLieOverEachOtherInOrder)
 {
     stock.setType(kStockTypeHeavyLabels);
@@ -253,26 +172,12 @@ TEST_F(StockRulesTest, OverlaysLieOverEachOtherInOrder)
     stock.setPunched(kStockPunched);
     stock.setColor(kStockColorGoldenrod);
     EXPECT_EQ(pictures(), QStringList({u"Paper_Envelope-Goldenrod.gif"_s, u"Paper_Overlay-HolePunchedEnvelope.gif"_s}));
+    ApplyStockCommand(stock, JobContext::Job, kStockTypeCommand, kStockTypeTransparency);
+    stock.setPunched(kStockNotPunched);
+    EXPECT_EQ(pictures(), QStringList({u"Paper_Plain-Clear.gif"_s})) << "without gloss";
+    stock.setColor(kStockColorGoldenrod);
+    EXPECT_EQ(pictures(), QStringList({u"Paper_Plain-Goldenrod.gif"_s, u"Paper_Overlay-LightweightGloss.gif"_s}));
     EXPECT_TRUE(StockIconPictures(nullptr).isEmpty());
-}
-
-TEST_F(StockRulesTest, EveryPictureOfAnyPaperIsOneOfTheFamily)
-{
-    std::map<QString, int> bases, overlays;
-    for (SInt32 type = 0; type <= 51; ++type) {
-        stock.setType(type);
-        stock.setColor(kStockColorRed);
-        const QStringList names = pictures();
-        ++bases[names.front()];
-        for (const QString& name : names.mid(1))
-            ++overlays[name];
-    }
-    EXPECT_EQ(bases.size(), 5u);
-    EXPECT_EQ(bases[u"Paper_Reloaded-Red.gif"_s], 6);
-    EXPECT_EQ(bases[u"Paper_Pre-CutTab-Red.gif"_s], 3);
-    EXPECT_EQ(overlays.size(), 23u);
-    EXPECT_EQ(overlays[u"Paper_Overlay-Custom4.gif"_s], 1);
-    EXPECT_EQ(overlays[u"Paper_Overlay-HeavyweightGlossReloaded.gif"_s], 2);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "panels/booklet_watermark/booklet/BookletRules.h"
 
+#include "model/FirstSpecialPages.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/ticket/LocalizedText.h"
 #include "platform/plugins/Bundle.h"
@@ -13,14 +14,12 @@
 namespace kesta {
 namespace {
 
-// Lists come as arrays, covers as dictionaries; nothing when the key is absent.
-std::optional<bool> HoldsEntries(const Ticket& settings, const char* key)
+// Lists are arrays, covers dictionaries.
+bool HoldsPages(const Ticket& settings, const char* key)
 {
-    if (const Array* list = settings.values().array(key))
-        return !list->empty();
-    if (const Dictionary* record = settings.values().dictionary(key))
-        return record->count() != 0;
-    return std::nullopt;
+    const Array* list = settings.values().array(key);
+    const Dictionary* cover = settings.values().dictionary(key);
+    return (list && !list->empty()) || (cover && cover->count() != 0);
 }
 
 // Ticket values of one staple on an upright page and of two on a lying one. The others leave the fold free.
@@ -71,22 +70,17 @@ const Illustration& IllustrationFor(SInt32 fold)
 
 bool SpecialPagesLockBooklet(const Ticket& settings)
 {
-    if (const auto exceptions = HoldsEntries(settings, key::SpecialPagesExceptionList))
-        return *exceptions;
-    if (const auto inserts = HoldsEntries(settings, key::SpecialPagesInsertList))
-        return *inserts;
-    if (HoldsEntries(settings, key::SpecialPagesFrontCover))
-        return false;
-    return HoldsEntries(settings, key::SpecialPagesBackCover).value_or(false);
+    const std::optional<FirstSpecialPages> first = FirstSpecialPagesOf(settings);
+    return first && first->holdsAny && first->kind != SpecialPagesKind::FrontCover;
 }
 
 BookletLock BookletLockOf(const Ticket& settings, ppd_file_t* ppd)
 {
     return {.bySpecialPages = SpecialPagesLockBooklet(settings),
             .byStaple = StapleLocksBooklet(settings, ppd),
-            .hasExceptions = HoldsEntries(settings, key::SpecialPagesExceptionList).value_or(false),
-            .hasInserts = HoldsEntries(settings, key::SpecialPagesInsertList).value_or(false),
-            .hasBackCover = HoldsEntries(settings, key::SpecialPagesBackCover).value_or(false)};
+            .hasExceptions = HoldsPages(settings, key::SpecialPagesExceptionList),
+            .hasInserts = HoldsPages(settings, key::SpecialPagesInsertList),
+            .hasBackCover = HoldsPages(settings, key::SpecialPagesBackCover)};
 }
 
 QString BookletLockReason(const Bundle& bundle, const BookletLock& lock)

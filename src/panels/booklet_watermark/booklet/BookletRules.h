@@ -7,8 +7,7 @@ namespace kesta {
 
 struct Bundle;
 
-// Whether special pages stand in the way of a booklet. The first of exceptions, inserts, front cover and back cover
-// that the ticket has at all decides, by holding an entry; a front cover never stands in the way.
+// Whether the ticket's first special pages stand in the way of a booklet; a front cover never does.
 bool SpecialPagesLockBooklet(const Ticket& settings);
 
 // Why a job can't become a booklet now, nor stop being one.

@@ -53,9 +53,11 @@ void ShowSides(const _CoversEventHandlerData& editor, const Column& column, cons
         picture->setPicture(CoverSidesPicture(cover));
 }
 
-// A tray of the paper menu that the cover's own menu lacks.
+// A tray of the paper menu that the cover's own menu lacks; of some printers it has none at all.
 QString ForeignTrayText(const Bundle& bundle, SInt32 tray)
 {
+    if (tray == kAutomaticTray)
+        return LocalizedString(bundle, "Automatic Tray");
     const auto inserter = tray == kStockSourcePostPrintInserter
                               ? CopyLocalizedStringForInstalledFeatureFromPlugin("PostPrintInserterKey", bundle)
                               : std::nullopt;

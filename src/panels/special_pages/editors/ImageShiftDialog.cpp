@@ -1,19 +1,41 @@
 #include "panels/special_pages/editors/ImageShiftDialog.h"
 
 #include "panels/special_pages/editors/ImageShiftScene.h"
+#include "pde/forms/BoundControls.h"
 #include "pde/forms/DialogCommands.h"
-#include "pde/menus/MenuUtilities.h"
 #include "pde/ticket/LocalizedText.h"
 #include "toolkit/controls/SpinField.h"
 #include "toolkit/windows/InterfaceFile.h"
 
-#include <QCheckBox>
+#include <array>
 
 namespace kesta {
 namespace imageshift {
 namespace {
 
 constexpr QLatin1StringView kHelpPage("Special_Pages/Add_Exceptions/m_add_exceptions_page.htm");
+
+template <ShiftOfSide ShiftSettings::*side, SInt32 ShiftOfSide::*offset> constexpr Access<ShiftSettings> kOffset{
+    [](const ShiftSettings& settings) { return settings.*side.*offset; },
+    [](ShiftSettings& settings, SInt32 value) { settings.*side.*offset = value; },
+};
+template <bool ShiftSettings::*flag> constexpr Access<ShiftSettings> kFlag{
+    [](const ShiftSettings& settings) { return SInt32{settings.*flag}; },
+    [](ShiftSettings& settings, SInt32 value) { settings.*flag = value != 0; },
+};
+
+constexpr auto kBindings = std::to_array<Binding<ShiftSettings>>({
+    {kShiftCheckBox, kFlag<&ShiftSettings::isOn>},
+    {kAlikeCheckBox, kFlag<&ShiftSettings::areAlike>},
+    {kHorizontal1, kOffset<&ShiftSettings::side1, &ShiftOfSide::horizontal>},
+    {kVertical1, kOffset<&ShiftSettings::side1, &ShiftOfSide::vertical>},
+    {kHorizontal2, kOffset<&ShiftSettings::side2, &ShiftOfSide::horizontal>},
+    {kVertical2, kOffset<&ShiftSettings::side2, &ShiftOfSide::vertical>},
+    {kUnitsPopup,
+     {[](const ShiftSettings& settings) { return static_cast<SInt32>(settings.units); },
+      [](ShiftSettings& settings, SInt32 units) { SwitchShiftUnits(settings, static_cast<SizeUnits>(units)); }},
+     {.map = _TabStockRadioMap}},
+});
 
 struct ShiftDialog {
     const Bundle& bundle;
@@ -22,48 +44,25 @@ struct ShiftDialog {
 
     QWidget* control(Control number) const { return FindControl(&window, {kSignature, number}); }
     SpinField* field(Control number) const { return FindControlAs<SpinField>(&window, {kSignature, number}); }
+    BoundControls<ShiftSettings> controls() const
+    {
+        return {{.root = &window, .signature = kSignature, .bundle = bundle, .ppd = nullptr}, kBindings};
+    }
 };
-
-struct OffsetField {
-    Control number;
-    ShiftOfSide ShiftSettings::*side;
-    SInt32 ShiftOfSide::*offset;
-};
-constexpr OffsetField kFields[] = {
-    {kHorizontal1, &ShiftSettings::side1, &ShiftOfSide::horizontal},
-    {kVertical1, &ShiftSettings::side1, &ShiftOfSide::vertical},
-    {kHorizontal2, &ShiftSettings::side2, &ShiftOfSide::horizontal},
-    {kVertical2, &ShiftSettings::side2, &ShiftOfSide::vertical},
-};
-
-void SetChecked(const ShiftDialog& dialog, Control number, bool checked)
-{
-    if (auto* box = qobject_cast<QCheckBox*>(dialog.control(number)))
-        box->setChecked(checked);
-}
 
 void ShowLimits(const ShiftDialog& dialog)
 {
     const bool inches = dialog.settings.units == SizeUnits::Inches;
     const FieldLimits limits = TabShiftLimits(dialog.settings.units);
     const int decimals = inches ? 1 : 0;
+    for (const Control number : {kHorizontal1, kVertical1, kHorizontal2, kVertical2}) {
+        if (SpinField* field = dialog.field(number))
+            field->setLimits(limits.least, limits.most, decimals);
+    }
     const QStringList numbers{CreateLocalizedCFStringFromNumberWithDecimals(limits.least, decimals),
                               CreateLocalizedCFStringFromNumberWithDecimals(limits.most, decimals)};
     SetControlText(dialog.control(kLimits),
                    LocalizedFormat(dialog.bundle, inches ? "Min-Max Inches" : "Min-Max Millimeters", numbers));
-}
-
-// The field that the user is typing into keeps its text.
-void ShowNumbers(const ShiftDialog& dialog, SInt32 typedInto)
-{
-    const FieldLimits limits = TabShiftLimits(dialog.settings.units);
-    for (const OffsetField& offset : kFields) {
-        SpinField* field = dialog.field(offset.number);
-        if (!field || offset.number == typedInto)
-            continue;
-        field->setLimits(limits.least, limits.most, dialog.settings.units == SizeUnits::Inches ? 1 : 0);
-        field->setNumber(dialog.settings.*offset.side.*offset.offset);
-    }
 }
 
 void EnableControls(const ShiftDialog& dialog)
@@ -78,35 +77,18 @@ void EnableControls(const ShiftDialog& dialog)
 
 void ShowSettings(const ShiftDialog& dialog, SInt32 typedInto = 0)
 {
-    SetChecked(dialog, kShiftCheckBox, dialog.settings.isOn);
-    SetChecked(dialog, kAlikeCheckBox, dialog.settings.areAlike);
-    ShowNumbers(dialog, typedInto);
-    ShowLimits(dialog);
-    SetPopupButtonToTicketValue(FindPopupButton(&dialog.window, {kSignature, kUnitsPopup}),
-                                static_cast<SInt32>(dialog.settings.units));
+    dialog.controls().show(dialog.settings, Showing::Opened, typedInto);
     EnableControls(dialog);
     if (QWidget* scene = dialog.control(kScene))
         scene->update();
 }
 
-void TakeNumbers(ShiftDialog& dialog)
-{
-    for (const OffsetField& offset : kFields) {
-        if (const SpinField* field = dialog.field(offset.number))
-            dialog.settings.*offset.side.*offset.offset = field->number();
-    }
-}
-
 EventResult HandleHit(ShiftDialog& dialog, const HitEvent& hit)
 {
-    TakeNumbers(dialog);
-    if (hit.control.number == kShiftCheckBox)
-        dialog.settings.isOn = hit.value != 0;
-    else if (hit.control.number == kAlikeCheckBox)
-        dialog.settings.areAlike = hit.value != 0;
-    else if (hit.control.number == kUnitsPopup)
-        SwitchShiftUnits(dialog.settings, static_cast<SizeUnits>(hit.ticketValue));
+    dialog.controls().take(hit, dialog.settings);
     FollowSide1(dialog.settings);
+    if (hit.control.number == kUnitsPopup)
+        ShowLimits(dialog);
     ShowSettings(dialog, hit.control.number);
     return EventResult::NotHandled;
 }
@@ -115,14 +97,14 @@ EventResult DrawScene(const ShiftDialog& dialog, const DrawEvent& event)
 {
     if (event.control.number != kScene)
         return EventResult::NotHandled;
-    DrawImageShiftScene(*event.painter, event.bounds, dialog.settings);
+    DrawImageShiftScene(*event.painter, event.bounds, dialog.settings, dialog.window.layoutDirection());
     return EventResult::Handled;
 }
 
 void Begin(const ShiftDialog& dialog)
 {
-    PopulatePopupButtonFromMap(dialog.bundle, FindPopupButton(&dialog.window, {kSignature, kUnitsPopup}),
-                               _TabStockRadioMap, JobContext::Job);
+    dialog.controls().fill();
+    ShowLimits(dialog);
     ShowSettings(dialog);
     if (SpinField* first = dialog.field(kHorizontal1); first && dialog.settings.isOn) {
         first->setFocus();
@@ -145,7 +127,7 @@ OSStatus RunModalImageShiftDialog(const Bundle& bundle, _IS_Options& options, Mo
         [&](const DrawEvent& event) { return imageshift::DrawScene(dialog, event); });
     result = RunModalDialog(bundle, *window, imageshift::kHelpPage);
     if (result == ModalResult::OK) {
-        imageshift::TakeNumbers(dialog);
+        dialog.controls().takeAll(dialog.settings);
         FollowSide1(dialog.settings);
         ApplyShiftSettings(dialog.settings, options);
     }

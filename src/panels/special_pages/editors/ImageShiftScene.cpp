@@ -35,8 +35,7 @@ void DrawPrint(QPainter& painter, const QRectF& print)
 void DrawSide(QPainter& painter, const QRectF& sheet, const ShiftOfSide& side, SizeUnits units, bool isOn)
 {
     const QRectF before = sheet.adjusted(kMargin, kMargin, -kMargin, -kMargin);
-    const QRectF now =
-        isOn ? ShiftedPrint(before, side, units, kSheet.width() / kSheetInches).translated(0.5, 0.5) : before;
+    const QRectF now = isOn ? ShiftedPrint(before, side, units, kSheet.width() / kSheetInches) : before;
     painter.save();
     painter.setClipRect(sheet);
     painter.fillRect(sheet, kPaper);
@@ -46,7 +45,7 @@ void DrawSide(QPainter& painter, const QRectF& sheet, const ShiftOfSide& side, S
     painter.drawRect(before.adjusted(0.5, 0.5, -0.5, -0.5));
     if (isOn) {
         painter.setPen(QPen(kAction, 1.5));
-        painter.drawRect(now);
+        painter.drawRect(now.adjusted(0.5, 0.5, -0.5, -0.5));
     }
     painter.restore();
     painter.setPen(QPen(kEdge, 1));
@@ -55,14 +54,16 @@ void DrawSide(QPainter& painter, const QRectF& sheet, const ShiftOfSide& side, S
 
 } // namespace
 
-void DrawImageShiftScene(QPainter& painter, const QRect& bounds, const ShiftSettings& settings)
+void DrawImageShiftScene(QPainter& painter, const QRect& bounds, const ShiftSettings& settings,
+                         Qt::LayoutDirection direction)
 {
+    const QRectF left(bounds.topLeft(), kSheet);
+    const QRectF right = left.translated(kSheet.width() + kGap, 0);
+    const bool isMirrored = direction == Qt::RightToLeft;
     painter.save();
     painter.setOpacity(settings.isOn ? 1 : kDisabledPictureOpacity);
-    QRectF sheet(bounds.topLeft(), kSheet);
-    DrawSide(painter, sheet, settings.side1, settings.units, settings.isOn);
-    sheet.translate(kSheet.width() + kGap, 0);
-    DrawSide(painter, sheet, settings.side2, settings.units, settings.isOn);
+    DrawSide(painter, isMirrored ? right : left, settings.side1, settings.units, settings.isOn);
+    DrawSide(painter, isMirrored ? left : right, settings.side2, settings.units, settings.isOn);
     painter.restore();
 }
 

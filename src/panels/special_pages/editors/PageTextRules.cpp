@@ -16,15 +16,14 @@ SInt32 LastOf(const PageRange& range)
     return range.start + range.count - 1;
 }
 
-bool HavePageInCommon(PageRanges ranges)
+// Of ranges in order.
+bool HavePageInCommon(const PageRanges& ranges)
 {
-    std::ranges::sort(ranges, {}, &PageRange::start);
     const auto found = std::ranges::adjacent_find(
         ranges, [](const PageRange& one, const PageRange& next) { return next.start <= LastOf(one); });
     return found != ranges.end();
 }
 
-// Both are in order; the list has no page twice.
 PageRanges RangesOf(const ExceptionPageList& list, const SpecialPage* leftOut)
 {
     PageRanges ranges;
@@ -36,12 +35,12 @@ PageRanges RangesOf(const ExceptionPageList& list, const SpecialPage* leftOut)
     return ranges;
 }
 
-bool IsFree(PageRanges ranges, const ExceptionPageList& list, const SpecialPage* edited)
+// Both are in order; the list has no page twice.
+bool IsFree(const PageRanges& ranges, const ExceptionPageList& list, const SpecialPage* edited)
 {
     if (HavePageInCommon(ranges))
         return false;
     const PageRanges taken = RangesOf(list, edited);
-    std::ranges::sort(ranges, {}, &PageRange::start);
     auto next = taken.begin();
     return std::ranges::none_of(ranges, [&](const PageRange& range) {
         next = std::find_if(next, taken.end(), [&](const PageRange& one) { return LastOf(one) >= range.start; });
@@ -98,8 +97,10 @@ OSStatus MakeExceptions(const ExceptionPage& like, const QString& text, const Ex
         return status;
     if (std::ranges::any_of(ranges, [](const PageRange& range) { return range.start < 1; }))
         return kInvalidPageNumbers;
+    std::ranges::sort(ranges, {}, &PageRange::start);
     if (!IsFree(ranges, list, edited))
         return kPageRangeConflict;
+    made.reserve(made.size() + ranges.size());
     for (const PageRange& range : ranges) {
         made.push_back(like);
         made.back().setStartPage(range.start);
