@@ -209,6 +209,8 @@ OSStatus RunModalWatermarkEditorDialog(const Bundle& bundle, _WatermarkData& rec
         preview->setFixedHeight(editor::HeightOfPage(editor.page(), preview->maximumSize()));
         mouse.emplace(editor, *preview);
     }
+    if (QWidget* first = editor.control(editor.record.isText ? editor::kTextField : editor::kChooseButton))
+        first->setFocus();
     const EventHandler events = InstallEventHandler(
         *window, [&](const HitEvent& hit) { return editor::HandleHit(editor, hit); },
         [&](const TextTypedEvent& typed) { return editor::LimitText(editor, typed); },
