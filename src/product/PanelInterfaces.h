@@ -8,10 +8,11 @@ namespace kesta {
 inline constexpr auto _PanelInterfaces = std::to_array<const char*>({
     "GetPaperOutputPanelInterface",
     "GetSpecialPagesPanelInterface",
+    "GetBookletWatermarkPanelInterface",
     "GetColorOptionPanelInterface",
     "GetAdvancedPanelInterface",
 });
-static_assert(_PanelInterfaces.size() == 4);
+static_assert(_PanelInterfaces.size() == 5);
 
 // The panels that are plug-ins of their own, with their places below the library root.
 struct PanelPlugIn {

@@ -145,6 +145,8 @@ TEST_F(DamagedSettingsTest, WrongKindsAndRangesUnderEveryKeyCountAsNothing)
         for (const auto& [key, value] : *clean.dictionary("PMPrintSettingsTicket"))
             if (!value.number() && AreOfOneKind(value, wrong))
                 damaged.remove(key); // it would be right
+        if (wrong.string())
+            damaged.remove(key::WatermarkName); // any text is a name
         if (wrong.dictionary()) {
             for (const char* cover : {key::SpecialPagesFrontCover, key::SpecialPagesBackCover})
                 damaged.remove(cover); // a cover of which nothing is said

@@ -70,6 +70,23 @@ Drawing Caution()
     return drawing;
 }
 
+Drawing Info()
+{
+    Drawing drawing(kSize, kSize);
+    drawing.circle({8, 8}, 6.25, kLine);
+    drawing.path(Polyline({{8, 7.5}, {8, 11}}), kLine);
+    drawing.circle({8, 5}, 1, Filled(kIconInk));
+    return drawing;
+}
+
+Drawing Center()
+{
+    Drawing drawing = Lines({Polyline({{8, 2}, {8, 5}}), Polyline({{8, 11}, {8, 14}}), Polyline({{2, 8}, {5, 8}}),
+                             Polyline({{11, 8}, {14, 8}})});
+    drawing.circle({8, 8}, 1.5, Filled(kIconInk));
+    return drawing;
+}
+
 } // namespace
 
 void AddTo(Pictures& pictures)
@@ -91,6 +108,8 @@ void AddTo(Pictures& pictures)
         {"ButtonGraphic_Landscape.png",
          Page({1.75, 3.75, 12.5, 8.5}, {Polyline({{5, 6.5}, {11, 6.5}}), Polyline({{5, 9.5}, {8.5, 9.5}})})});
     pictures.push_back({"ButtonGraphic_Caution.png", Caution()});
+    pictures.push_back({"ButtonGraphic_Info.png", Info()});
+    pictures.push_back({"ButtonGraphic_Center.png", Center()});
 }
 
 } // namespace kesta::pictures::button_icons

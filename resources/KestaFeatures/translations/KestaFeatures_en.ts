@@ -986,6 +986,265 @@
         <translation>%1 to %2 points</translation>
     </message>
     <message>
+        <source>Page Borders Label</source>
+        <translation>Page borders</translation>
+    </message>
+    <message>
+        <source>Booklet Locked By Pages</source>
+        <extracomment>%1: what stands in the way, such as “inserts and exceptions”</extracomment>
+        <translation>Locked by the %1 of this job. A booklet needs pages that are all alike.</translation>
+    </message>
+    <message>
+        <source>Booklet Locked By Staple</source>
+        <translation>Locked by the staple position. A booklet is stapled in its fold.</translation>
+    </message>
+    <message>
+        <source>Locking Inserts</source>
+        <extracomment>In “Locked by the … of this job”</extracomment>
+        <translation>inserts</translation>
+    </message>
+    <message>
+        <source>Locking Exceptions</source>
+        <extracomment>In “Locked by the … of this job”</extracomment>
+        <translation>exceptions</translation>
+    </message>
+    <message>
+        <source>Locking Back Cover</source>
+        <extracomment>In “Locked by the … of this job”</extracomment>
+        <translation>back cover</translation>
+    </message>
+    <message>
+        <source>List Of One</source>
+        <extracomment>%1: the only part of a list</extracomment>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>List Of Two</source>
+        <extracomment>%1 and %2: the parts of a list</extracomment>
+        <translation>%1 and %2</translation>
+    </message>
+    <message>
+        <source>List Of Three</source>
+        <extracomment>%1 to %3: the parts of a list</extracomment>
+        <translation>%1, %2 and %3</translation>
+    </message>
+    <message>
+        <source>Show Special Pages</source>
+        <translation>Show Special Pages</translation>
+    </message>
+    <message>
+        <source>Booklet Fold Hint</source>
+        <translation>From above: the gutter, and the creep past the dashed line</translation>
+    </message>
+    <message>
+        <source>Watermark On All Pages</source>
+        <extracomment>%1: the layer, such as “Blended with the page”</extracomment>
+        <translation>%1, on all pages</translation>
+    </message>
+    <message>
+        <source>Watermark On Page 1</source>
+        <extracomment>%1: the layer, such as “Blended with the page”</extracomment>
+        <translation>%1, on page 1 only</translation>
+    </message>
+    <message>
+        <source>Watermark Preview Name</source>
+        <translation>Preview of the watermark</translation>
+    </message>
+    <message>
+        <source>Watermark Summary</source>
+        <extracomment>%1: the name of the watermark</extracomment>
+        <translation>Watermark “%1”</translation>
+    </message>
+    <message>
+        <source>Watermark Missing Summary</source>
+        <extracomment>%1: the name of the watermark</extracomment>
+        <translation>Watermark “%1” not on this computer</translation>
+    </message>
+    <message>
+        <source>Watermark Not Here</source>
+        <extracomment>%1: the name of the watermark</extracomment>
+        <translation>The watermark “%1” of these settings is not on this computer, so none is printed. Choose another one, or make it anew.</translation>
+    </message>
+    <message>
+        <source>Font Substituted</source>
+        <extracomment>%1 and %2: names of fonts</extracomment>
+        <translation>%1 is not on this computer. %2 is drawn and printed in its place.</translation>
+    </message>
+    <message>
+        <source>Font Lacks Characters</source>
+        <extracomment>%1 and %2: names of fonts</extracomment>
+        <translation>%1 lacks a character of the text. %2 is drawn and printed in its place.</translation>
+    </message>
+    <message>
+        <source>Characters Missing</source>
+        <extracomment>%1: characters</extracomment>
+        <translation>No font on this computer has %1.</translation>
+    </message>
+    <message>
+        <source>No Font For Watermark</source>
+        <translation>This computer has no font to draw the text in; the watermark is left out.</translation>
+    </message>
+    <message>
+        <source>Font Can't Be Sent</source>
+        <extracomment>%1: the name of a font</extracomment>
+        <translation>%1 can’t be sent to the printer; the watermark is left out.</translation>
+    </message>
+    <message>
+        <source>Font May Not Be Sent</source>
+        <extracomment>%1: the name of a font</extracomment>
+        <translation>The license of %1 does not allow it to be sent to the printer; the watermark is left out.</translation>
+    </message>
+    <message>
+        <source>Font Can't Be Kept</source>
+        <extracomment>%1: the name of a font</extracomment>
+        <translation>%1 can’t be kept with the watermarks of this computer, so it is not sent to the printer; the watermark is left out.</translation>
+    </message>
+    <message>
+        <source>Picture Can't Be Opened</source>
+        <extracomment>%1: the name of a file</extracomment>
+        <translation>The picture “%1” can’t be opened.</translation>
+    </message>
+    <message>
+        <source>Picture Of No Known Kind</source>
+        <extracomment>%1: the name of a file</extracomment>
+        <translation>“%1” is no picture of a known kind, or it is damaged.</translation>
+    </message>
+    <message>
+        <source>Picture Too Large</source>
+        <extracomment>%1: the name of a file</extracomment>
+        <translation>The picture “%1” has too many pixels.</translation>
+    </message>
+    <message>
+        <source>Picture Refused Header</source>
+        <translation>This picture can’t be used</translation>
+    </message>
+    <message>
+        <source>Watermark Name Header</source>
+        <translation>Choose another name</translation>
+    </message>
+    <message>
+        <source>Watermark Name Too Long</source>
+        <extracomment>%1: the name of a watermark</extracomment>
+        <translation>A name has room for 511 bytes. “%1” is longer.</translation>
+    </message>
+    <message>
+        <source>Watermark Name Reserved</source>
+        <extracomment>%1: the name of a watermark</extracomment>
+        <translation>“%1” is a name that the list of watermarks needs for itself. Change the text, or give the file another name.</translation>
+    </message>
+    <message>
+        <source>Replace Watermark Header</source>
+        <translation>Replace the other watermark?</translation>
+    </message>
+    <message>
+        <source>Replace Watermark Message</source>
+        <extracomment>%1: the name of a watermark</extracomment>
+        <translation>There is a watermark “%1” already. Everybody who uses this computer gets this one in its place.</translation>
+    </message>
+    <message>
+        <source>Watermark Not Saved Header</source>
+        <translation>The watermark is not saved</translation>
+    </message>
+    <message>
+        <source>Watermark Not Saved Message</source>
+        <extracomment>%1: the name of a watermark</extracomment>
+        <translation>The list of watermarks can’t be written just now, so “%1” stays as it was.</translation>
+    </message>
+    <message>
+        <source>Watermark Not Deleted Header</source>
+        <translation>The watermark is not deleted</translation>
+    </message>
+    <message>
+        <source>Watermark Gone Header</source>
+        <translation>This watermark is gone</translation>
+    </message>
+    <message>
+        <source>Watermark Gone Message</source>
+        <extracomment>%1: the name of a watermark</extracomment>
+        <translation>Somebody else has removed or renamed “%1”. It has left the menu.</translation>
+    </message>
+    <message>
+        <source>Own Watermarks Header</source>
+        <translation>Copy your own watermarks?</translation>
+    </message>
+    <message>
+        <source>Own Watermarks Message</source>
+        <extracomment>%1: names of watermarks</extracomment>
+        <translation>Everybody who uses this computer shares one list of watermarks now. It lacks these that you had before: %1.</translation>
+    </message>
+    <message>
+        <source>Watermark Kind Name</source>
+        <translation>Kind of watermark</translation>
+    </message>
+    <message>
+        <source>Watermark Text Name</source>
+        <translation>Text of the watermark</translation>
+    </message>
+    <message>
+        <source>Watermark Text Placeholder</source>
+        <translation>For example: DRAFT</translation>
+    </message>
+    <message>
+        <source>Watermark Color Name</source>
+        <translation>Color of the text</translation>
+    </message>
+    <message>
+        <source>Picture File Name</source>
+        <translation>File of the picture</translation>
+    </message>
+    <message>
+        <source>Font And Size</source>
+        <extracomment>%1: the name of a font, %2: its size</extracomment>
+        <translation>%1, %2 points</translation>
+    </message>
+    <message>
+        <source>Degrees Unit</source>
+        <translation>degrees</translation>
+    </message>
+    <message>
+        <source>Percent Unit</source>
+        <translation>percent</translation>
+    </message>
+    <message>
+        <source>Points Unit</source>
+        <translation>points</translation>
+    </message>
+    <message>
+        <source>Watermark Preview Hint</source>
+        <translation>Drag the text to move it, its handle to turn it.</translation>
+    </message>
+    <message>
+        <source>Picture Watermark Hint</source>
+        <translation>A picture is printed in the middle of the page and at full density.</translation>
+    </message>
+    <message>
+        <source>Fonts Title</source>
+        <translation>Fonts</translation>
+    </message>
+    <message>
+        <source>Font Search Placeholder</source>
+        <translation>Type a part of the name</translation>
+    </message>
+    <message>
+        <source>Font List Name</source>
+        <translation>Fonts of this computer</translation>
+    </message>
+    <message>
+        <source>No Font Found</source>
+        <translation>No font has this in its name</translation>
+    </message>
+    <message>
+        <source>Font Sample Name</source>
+        <translation>Sample of the font</translation>
+    </message>
+    <message numerus="yes">
+        <source>Font Count</source>
+        <translation>
+            <numerusform>%n font</numerusform>
+            <numerusform>%n fonts</numerusform>
+        </translation>
+    </message>
+    <message>
         <source>NoWatermark</source>
         <translation>None</translation>
     </message>

@@ -11,10 +11,11 @@ struct SummaryPlace {
     static constexpr SInt32 Sides = 3;
     static constexpr SInt32 Finishing = 4;
     static constexpr SInt32 OtherPages = 5;
-    static constexpr SInt32 Quality = 6;
-    static constexpr SInt32 Colors = 7;
-    static constexpr SInt32 Output = 8; // where the sheets come out, and how
-    static constexpr SInt32 Other = 9;
+    static constexpr SInt32 Watermark = 6;
+    static constexpr SInt32 Quality = 7;
+    static constexpr SInt32 Colors = 8;
+    static constexpr SInt32 Output = 9; // where the sheets come out, and how
+    static constexpr SInt32 Other = 10;
 };
 
 } // namespace kesta

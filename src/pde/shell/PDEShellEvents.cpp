@@ -1,6 +1,7 @@
 #include "pde/shell/PDEShell.h"
 
 #include "pde/interface/JobTypeCheck.h"
+#include "pde/interface/PanelChoice.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/menus/BundleUtilities.h"
 #include "pde/menus/SystemUtilities.h"
@@ -8,6 +9,8 @@
 #include "platform/plugins/Bundle.h"
 #include "platform/system/Notices.h"
 #include "toolkit/windows/InterfaceFile.h"
+
+#include <algorithm>
 
 namespace kesta::shell {
 namespace {
@@ -53,6 +56,25 @@ void ShowJobTypeSetup(PDEShellContext& shell)
     button->window()->setAttribute(Qt::WA_KeyboardFocusChange); // with its ring
 }
 
+// Nothing where the pane has no such panel.
+EventResult ShowPanelTitled(const QString& title, PDEShellContext& shell)
+{
+    const auto panel = std::ranges::find(shell.panels, title, &PanelRecord::title);
+    if (panel == shell.panels.end() || panel->index == kTakesNoPart)
+        return EventResult::NotHandled;
+    SelectAndShow(panel->index, shell);
+    return EventResult::Handled;
+}
+
+EventResult LetOthersRead(const PDEShellContext& shell)
+{
+    for (const PanelRecord& panel : shell.panels) {
+        if (panel.index != kTakesNoPart && panel.index != GetShownPanel()._lastTabIndex)
+            panel.interface.Sync(panel.context, shell.session, true);
+    }
+    return EventResult::Handled;
+}
+
 EventResult HandleHit(PDEShellContext& shell, const HitEvent& hit)
 {
     if (hit.control.signature != kSignature)
@@ -92,6 +114,10 @@ EventResult HandleCommand(PDEShellContext& shell, FourCharCode command)
             ShowJobTypeSetup(shell);
         return result;
     }
+    case kCommandShowSpecialPages:
+        return ShowPanelTitled(LocalizedString(*shell.bundle, "SpecialPagesTitle"), shell);
+    case kCommandOthersRead:
+        return LetOthersRead(shell);
     default:
         return EventResult::NotHandled;
     }

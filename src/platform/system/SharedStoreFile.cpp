@@ -56,6 +56,13 @@ bool CanKeepShared(const QString& folder, const QString& path)
     return IsAllowed(folder, R_OK | W_OK | X_OK) && (!file || (S_ISREG(*file) && IsAllowed(path, R_OK | W_OK)));
 }
 
+// Empty without a home.
+QString OwnFolder()
+{
+    const QString data = DataDirectory();
+    return data.isEmpty() ? QString() : data + QLatin1String(kFolder);
+}
+
 std::optional<Dictionary> ParseRoot(const QByteArray& bytes, QString& problem)
 {
     PropertyListResult list = ParsePropertyList(bytes);
@@ -125,10 +132,18 @@ std::optional<QString> CopyPreferenceFileURL(QAnyStringView file)
     MakeSharedFolder(shared);
     if (CanKeepShared(shared, sharedPath))
         return sharedPath;
-    const QString data = DataDirectory();
-    if (data.isEmpty() || !MakeDirectory(data + QLatin1String(kFolder)))
+    const QString own = OwnFolder();
+    if (own.isEmpty() || !MakeDirectory(own))
         return std::nullopt;
-    return data + QLatin1String(kFolder) + u'/' + name;
+    return own + u'/' + name;
+}
+
+std::optional<Dictionary> CopyOwnXMLData(QAnyStringView file)
+{
+    const std::optional<QString> inUse = CopyPreferenceFileURL(file);
+    const QString own = OwnFolder() + u'/' + file.toString();
+    const bool isAside = inUse && *inUse != own && QFileInfo(own).isFile();
+    return isAside ? ReadRoot(own).content : std::nullopt;
 }
 
 std::optional<Dictionary> CopyXMLData(QAnyStringView file)

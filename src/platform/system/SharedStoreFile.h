@@ -15,6 +15,10 @@ std::optional<QString> CopyPreferenceFileURL(QAnyStringView file);
 // Nothing when the file is missing or unreadable. One that can't be parsed is said on standard error.
 std::optional<Dictionary> CopyXMLData(QAnyStringView file);
 
+// What the user's own file has while the one in use is the machine's: kept there before the machine had one. Nothing
+// when there is none, it can't be read, or it is the one in use.
+std::optional<Dictionary> CopyOwnXMLData(QAnyStringView file);
+
 enum class WhenUnreadable { DoNothing, StartNew };
 
 // Reads the file, makes a change and, when its bytes then differ, writes it whole, over the old one. A file that is

@@ -38,7 +38,9 @@ ModalState& State()
 
 void ActWhenIdle(const Loop& loop)
 {
-    if (State().loops.back() != &loop || !loop.window || !State().idleAction)
+    const bool isEnded =
+        !loop.events.isRunning(); // but other timers, as of animations, may let this one tick once more
+    if (isEnded || State().loops.back() != &loop || !loop.window || !State().idleAction)
         return;
     const ModalIdleAction action = State().idleAction; // it may replace itself
     action(*loop.window);

@@ -99,12 +99,18 @@ TEST_F(BookletDialogTest, CancelLeavesAllAsItWas)
     const Booklet before = booklet;
     ModalUser user;
     user.then([](QWidget& window) {
-        EXPECT_TRUE(get(window, kFoldNoneRadio).isChecked());
+        for (const Control number : {kFoldNoneRadio, kFoldRadio, kFoldAndStapleRadio})
+            EXPECT_FALSE(get(window, number).isChecked()) << number;
         get(window, kLayoutOnRadio).click();
         cancel(window);
     });
     EXPECT_EQ(RunModalBookletCreationDialog(bundle, booklet), kBookletDialogCancelled);
     EXPECT_EQ(booklet, before);
+
+    booklet.gutter = 30;
+    user.then(ok);
+    EXPECT_EQ(RunModalBookletCreationDialog(bundle, booklet), noErr);
+    EXPECT_EQ(booklet.fold, 20) << "another fold stays what it is";
 }
 
 TEST_F(BookletDialogTest, SpecialPagesLockFoldAndLayout)
@@ -114,6 +120,7 @@ TEST_F(BookletDialogTest, SpecialPagesLockFoldAndLayout)
     user.then([](QWidget& window) {
         for (const Control number : {kFoldNoneRadio, kFoldRadio, kFoldAndStapleRadio, kLayoutOnRadio})
             EXPECT_FALSE(isEnabled(window, number)) << number;
+        EXPECT_TRUE(get<QWidget>(window, kLockRow).isVisibleTo(&window)) << "and it says why";
         EXPECT_TRUE(isEnabled(window, kLayoutOffRadio)) << "the way out stays open";
     });
     user.then(cancel);

@@ -2,6 +2,7 @@
 
 #include "pde/interface/TicketKeys.h"
 #include "printer/FinishingKinds.h"
+#include "support/TestTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -36,6 +37,40 @@ TEST(BookletRules, TheFirstSpecialPagesOfATicketLockTheBookletOrNot)
     EXPECT_TRUE(LocksBooklet({{key::SpecialPagesBackCover, cover}}));
     EXPECT_FALSE(LocksBooklet({{key::SpecialPagesBackCover, Dictionary()}}));
     EXPECT_FALSE(LocksBooklet({{key::SpecialPagesExceptionList, Value("damaged")}}));
+}
+
+// What each ticket value of staples does; "SingleLandscape" has none.
+TEST(BookletRules, StaplesOfACornerAndOfALongEdgeLockTheBooklet)
+{
+    Ticket settings;
+    const auto locks = [&](const char* choice) {
+        PPDSetCurrentChoice(settings, OptionOf(Finishing::Staple), choice);
+        return BookletLockOf(settings, nullptr).byStaple;
+    };
+    EXPECT_FALSE(BookletLockOf(settings, nullptr).isLocked());
+    EXPECT_TRUE(locks("SingleLandscape"));
+    for (const ChoiceRow& row : PPDKeyword(OptionOf(Finishing::Staple)).choices()) {
+        const bool isOfTwoKinds = (row.value >= 5 && row.value <= 8) || (row.value >= 10 && row.value <= 13);
+        EXPECT_EQ(locks(row.choice), isOfTwoKinds) << row.choice;
+    }
+}
+
+TEST(BookletRules, TheReasonNamesAllThatStandsInTheWay)
+{
+    const Bundle bundle = test::BundleWithAllTexts();
+    const auto reason = [&](const BookletLock& lock) { return BookletLockReason(bundle, lock).toStdString(); };
+    EXPECT_EQ(reason({}), "");
+    EXPECT_EQ(reason({.byStaple = true}), "Booklet Locked By Staple");
+    EXPECT_EQ(reason({.bySpecialPages = true, .byStaple = true, .hasInserts = true}),
+              "Booklet Locked By Pages List Of One Locking Inserts");
+    EXPECT_EQ(reason({.bySpecialPages = true, .hasExceptions = true, .hasInserts = true, .hasBackCover = true}),
+              "Booklet Locked By Pages List Of Three Locking Inserts Locking Exceptions Locking Back Cover");
+
+    Ticket settings;
+    settings.set(kPrintingManagerClient, key::SpecialPagesExceptionList, Array{Dictionary()});
+    settings.set(kPrintingManagerClient, key::SpecialPagesBackCover, Dictionary{{"StartPage", Number::Index(1)}});
+    EXPECT_EQ(BookletLockOf(settings, nullptr),
+              (BookletLock{.bySpecialPages = true, .hasExceptions = true, .hasBackCover = true}));
 }
 
 TEST(BookletRules, TheIllustrationShowsFoldLayoutAndBorders)

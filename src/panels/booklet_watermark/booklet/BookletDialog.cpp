@@ -1,9 +1,11 @@
 #include "panels/booklet_watermark/booklet/BookletDialog.h"
 
 #include "panels/booklet_watermark/booklet/BookletRules.h"
+#include "panels/booklet_watermark/booklet/FoldScene.h"
 #include "panels/special_pages/paper/StockMenuRules.h"
 #include "pde/forms/BoundControls.h"
 #include "pde/forms/DialogCommands.h"
+#include "pde/forms/InfoMark.h"
 #include "pde/menus/LocalizationUtilities.h"
 #include "pde/ticket/LocalizedText.h"
 #include "pde/ticket/TicketUtilities.h"
@@ -23,7 +25,7 @@ namespace {
 // What is a choice only while the layout is on.
 constexpr auto kLayoutControls =
     std::to_array<Control>({kDrawOutlinesBox, kNewSizeLabel, kNewSizePopup, kGutterLabel, kGutterField, kGutterRange,
-                            kCreepLabel, kCreepField, kCreepRange});
+                            kCreepLabel, kCreepField, kCreepRange, kFoldScene, kFoldHint});
 
 struct FoldRadio {
     Control radio;
@@ -93,16 +95,28 @@ void BuildControls(const BookletWindow& dialog, const Bundle& bundle)
                             CreateLocalizedCFStringFromNumberWithDecimals(kGreatestCreep, 1)});
 }
 
+BookletLock LockOfJob()
+{
+    const PrintSession* session = GetCurrentPrintSession();
+    const Ticket* settings = session ? GetTicketFromSession(*session, kPMPrintSettingsTicket).ticket : nullptr;
+    return settings ? BookletLockOf(*settings, PPDGetCurrent()) : BookletLock();
+}
+
 void EnableControls(const BookletWindow& dialog)
 {
     for (const Control number : kLayoutControls)
         SetControlEnabled(dialog.control(number), dialog.isChecked(kLayoutOnRadio));
 
-    const PrintSession* session = GetCurrentPrintSession();
-    const Ticket* settings = session ? GetTicketFromSession(*session, kPMPrintSettingsTicket).ticket : nullptr;
-    const bool isLocked = settings && SpecialPagesLockBooklet(*settings);
-    for (const Control number : {kFoldNoneRadio, kFoldRadio, kFoldAndStapleRadio, kLayoutOnRadio})
-        SetControlEnabled(dialog.control(number), !isLocked);
+    for (const Control number : {kFoldLabel, kFoldNoneRadio, kFoldRadio, kFoldAndStapleRadio, kLayoutOnRadio})
+        SetControlEnabled(dialog.control(number), !LockOfJob().bySpecialPages);
+}
+
+void ShowLock(const BookletWindow& dialog, const Bundle& bundle)
+{
+    BookletLock lock = LockOfJob();
+    lock.byStaple = false; // the panel's affair: here the fold may be chosen all the same
+    SetControlText(dialog.control(kLockReason), BookletLockReason(bundle, lock));
+    SetControlVisible(dialog.control(kLockRow), lock.isLocked());
 }
 
 // The first checked radio decides; without any the fold stays.
@@ -116,7 +130,8 @@ SInt32 ChosenFold(const BookletWindow& dialog, SInt32 before)
 void SyncToUI(const BookletWindow& dialog, const Booklet& booklet)
 {
     const auto fold = std::ranges::find(kFoldRadios, booklet.fold, &FoldRadio::fold);
-    dialog.check(fold == kFoldRadios.end() ? kFoldNoneRadio : fold->radio);
+    if (fold != kFoldRadios.end()) // a job that is folded in another way checks none, and stays so
+        dialog.check(fold->radio);
     dialog.check(booklet.isOn() ? kLayoutOnRadio : kLayoutOffRadio);
     dialog.bound.show(booklet, Showing::Opened); // a size that the menu lacks stays at its first item
 }
@@ -128,21 +143,41 @@ void SyncFromUI(const BookletWindow& dialog, Booklet& booklet)
     dialog.bound.takeAll(booklet);
 }
 
+Booklet AsShown(const BookletWindow& dialog, const Booklet& before)
+{
+    Booklet shown = before;
+    SyncFromUI(dialog, shown);
+    return shown;
+}
+
 // Sheets can be folded, and stapled in the fold, without becoming a booklet: whoever expects one reads why.
 void ShowFoldHint(const BookletWindow& dialog, const Bundle& bundle, const Booklet& shown)
 {
     const bool foldsOnly = !shown.isOn() && shown.fold != kNotFinished;
-    SetControlText(dialog.control(kFoldHint),
+    SetControlText(dialog.control(kWithoutLayoutHint),
                    foldsOnly ? LocalizedString(bundle, "Fold Without Layout Hint") : QString());
 }
 
 void ShowChoices(const BookletWindow& dialog, const Bundle& bundle, const Booklet& before)
 {
-    Booklet shown = before;
-    SyncFromUI(dialog, shown);
+    const Booklet shown = AsShown(dialog, before);
     ShowFoldHint(dialog, bundle, shown);
     if (auto* picture = FindControlAs<PictureView>(&dialog.window, {kSignature, kIllustration}))
         picture->setPicture(QString::fromLatin1(BookletIllustration(shown)));
+    if (QWidget* scene = dialog.control(kFoldScene))
+        scene->update();
+}
+
+EventResult DrawInDialog(const BookletWindow& dialog, const Bundle& bundle, const Booklet& before,
+                         const DrawEvent& draw)
+{
+    if (draw.control.number == kLockMark)
+        DrawInfoMark(*draw.painter, draw.bounds, bundle);
+    else if (draw.control.number == kFoldScene)
+        DrawFoldScene(*draw.painter, draw.bounds, AsShown(dialog, before), dialog.control(kFoldScene)->isEnabled());
+    else
+        return EventResult::NotHandled;
+    return EventResult::Handled;
 }
 
 OSStatus RunModalBookletDialog(const Bundle& bundle, Booklet& booklet, QAnyStringView windowName)
@@ -155,12 +190,16 @@ OSStatus RunModalBookletDialog(const Bundle& bundle, Booklet& booklet, QAnyStrin
     BuildControls(dialog, bundle);
     SyncToUI(dialog, booklet);
     EnableControls(dialog);
+    ShowLock(dialog, bundle);
     ShowChoices(dialog, bundle, booklet);
-    const EventHandler handler = InstallEventHandler(*window, [&](const HitEvent&) {
-        EnableControls(dialog);
-        ShowChoices(dialog, bundle, booklet);
-        return EventResult::NotHandled;
-    });
+    const EventHandler handler = InstallEventHandler(
+        *window,
+        [&](const HitEvent&) {
+            EnableControls(dialog);
+            ShowChoices(dialog, bundle, booklet);
+            return EventResult::NotHandled;
+        },
+        [&](const DrawEvent& draw) { return DrawInDialog(dialog, bundle, booklet, draw); });
     if (RunModalDialog(bundle, *window, {}) != ModalResult::OK)
         return kBookletDialogCancelled;
     SyncFromUI(dialog, booklet);

@@ -40,7 +40,12 @@ enum Control : SInt32 {
     kCreepField = 14,
     kCreepRange = 15,
     kIllustration = 16,
-    kFoldHint = 17, // not in BookletOptions
+    kFoldScene = 17,
+    kFoldHint = 18,
+    kLockRow = 19,
+    kLockMark = 20,
+    kLockReason = 21,
+    kWithoutLayoutHint = 22, // not in BookletOptions
 };
 
 } // namespace booklet

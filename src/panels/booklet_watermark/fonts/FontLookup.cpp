@@ -97,6 +97,15 @@ std::vector<FontFile> KnownOutlines(const FontSet& fonts)
     return files;
 }
 
+std::vector<FontFile> SearchNamed(const QString& postScriptName, const QString&)
+{
+    Pattern pattern(FcPatternCreate());
+    FcPatternAddString(pattern.get(), FC_POSTSCRIPT_NAME, FcText(postScriptName.toUtf8()));
+    std::vector<FontFile> files = KnownOutlines(List(std::move(pattern)));
+    std::erase_if(files, [&](const FontFile& file) { return file.postScriptName != postScriptName; });
+    return files;
+}
+
 Pattern SubstitutePattern(const QString& postScriptName)
 {
     const FontDescription description = DescribeFont(postScriptName);
@@ -141,10 +150,12 @@ std::vector<FontFile> SearchSubstitutes(const QString& postScriptName, const QSt
     return files;
 }
 
-// Sorting all fonts takes milliseconds, and a preview asks for the same again and again.
-class RememberedSubstitutes {
+// Looking at all fonts takes its time, and a preview asks for the same again and again.
+class RememberedFonts {
 public:
-    const std::vector<FontFile>& find(const QString& postScriptName, const QString& characters)
+    using Search = std::vector<FontFile> (*)(const QString& postScriptName, const QString& characters);
+
+    const std::vector<FontFile>& find(const QString& postScriptName, const QString& characters, Search search)
     {
         Configuration now(FcConfigReference(nullptr));
         if (now != configuration_ || entries_.size() > kMostRemembered)
@@ -156,7 +167,7 @@ public:
         const auto known = std::ranges::find_if(entries_, isAsked);
         if (known != entries_.end())
             return known->files;
-        entries_.push_back({postScriptName, characters, SearchSubstitutes(postScriptName, characters)});
+        entries_.push_back({postScriptName, characters, search(postScriptName, characters)});
         return entries_.back().files;
     }
 
@@ -175,19 +186,16 @@ private:
 
 std::vector<FontFile> FontsNamed(const QString& postScriptName)
 {
+    static RememberedFonts remembered;
     FcInitBringUptoDate();
-    Pattern pattern(FcPatternCreate());
-    FcPatternAddString(pattern.get(), FC_POSTSCRIPT_NAME, FcText(postScriptName.toUtf8()));
-    std::vector<FontFile> files = KnownOutlines(List(std::move(pattern)));
-    std::erase_if(files, [&](const FontFile& file) { return file.postScriptName != postScriptName; });
-    return files;
+    return remembered.find(postScriptName, {}, SearchNamed);
 }
 
 std::vector<FontFile> SubstitutesFor(const QString& postScriptName, const QString& characters)
 {
-    static RememberedSubstitutes remembered;
+    static RememberedFonts remembered;
     FcInitBringUptoDate();
-    return remembered.find(postScriptName, characters);
+    return remembered.find(postScriptName, characters, SearchSubstitutes);
 }
 
 std::vector<FontFile> InstalledFonts()

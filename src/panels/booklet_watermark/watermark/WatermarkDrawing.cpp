@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numbers>
 
 namespace kesta::booklet_watermark {
@@ -15,38 +16,67 @@ namespace {
 
 constexpr double kPointsInInch = 72;
 constexpr double kFixed = 65536; // 16.16
+constexpr double kNothingYet = std::numeric_limits<double>::max();
 
 class CairoPath : public OutlineSink {
 public:
-    CairoPath(cairo_t* context, double pen) : context_(context), pen_(pen) {}
+    explicit CairoPath(cairo_t* context) : context_(context) {}
 
-    void moveTo(OutlinePoint to) override { cairo_move_to(context_, pen_ + to.x, to.y); }
-    void lineTo(OutlinePoint to) override { cairo_line_to(context_, pen_ + to.x, to.y); }
+    void moveTo(OutlinePoint to) override
+    {
+        take(to);
+        cairo_move_to(context_, pen_ + to.x, to.y);
+    }
+    void lineTo(OutlinePoint to) override
+    {
+        take(to);
+        cairo_line_to(context_, pen_ + to.x, to.y);
+    }
     void curveTo(OutlinePoint first, OutlinePoint second, OutlinePoint to) override
     {
+        for (const OutlinePoint& point : {first, second, to})
+            take(point);
         cairo_curve_to(context_, pen_ + first.x, first.y, pen_ + second.x, second.y, pen_ + to.x, to.y);
     }
     void close() override { cairo_close_path(context_); }
 
+    void setPen(double pen) { pen_ = pen; }
+    // Around all points, those that only bend curves included; empty without any.
+    QRectF frame() const
+    {
+        return least_.x > most_.x ? QRectF() : QRectF({least_.x, least_.y}, QPointF(most_.x, most_.y));
+    }
+
 private:
+    void take(OutlinePoint point)
+    {
+        least_ = {std::min(least_.x, pen_ + point.x), std::min(least_.y, point.y)};
+        most_ = {std::max(most_.x, pen_ + point.x), std::max(most_.y, point.y)};
+    }
+
     cairo_t* context_;
-    double pen_;
+    double pen_ = 0;
+    OutlinePoint least_{kNothingYet, kNothingYet};
+    OutlinePoint most_{-kNothingYet, -kNothingYet};
 };
 
-// The line with its origin at that of the user space, turned counter-clockwise.
-void AddLine(cairo_t* context, const FontChoice& font, const _WatermarkData& record)
+// The line with its origin at that of the user space, turned counter-clockwise; its frame before it was turned.
+QRectF AddLine(cairo_t* context, const FontChoice& font, const _WatermarkData& record)
 {
     cairo_save(context);
     cairo_rotate(context, record.angle * std::numbers::pi / 180);
     const double scale = std::clamp(record.fontSize, 1, 1000) / static_cast<double>(font.typeface->unitsPerEm());
     cairo_scale(context, scale, scale);
+    CairoPath path(context);
     double pen = 0;
     for (const PlacedGlyph& glyph : font.line.glyphs) {
-        CairoPath path(context, pen);
+        path.setPen(pen);
         DrawOutline(*font.typeface, glyph, path);
         pen += glyph.advance;
     }
     cairo_restore(context);
+    const QRectF frame = path.frame();
+    return {frame.topLeft() * scale, frame.size() * scale};
 }
 
 // Of the ink in whole units, top-down.
@@ -87,13 +117,14 @@ WatermarkNotes DrawText(cairo_t* context, const QRectF& page, _WatermarkData& re
         return notes;
     notes.fontName = font.typeface->file().displayName;
     notes.isSubstitute = font.isSubstitute;
+    notes.lacksCharacter = font.isSubstitute && !FontsNamed(record.fontName.get()).empty();
     notes.missingCharacters = font.line.missing;
     for (const PlacedGlyph& glyph : font.line.glyphs)
         record.glyphs.push_back(glyph.glyph);
 
     cairo_save(context);
     cairo_new_path(context);
-    AddLine(context, font, record);
+    notes.frame = AddLine(context, font, record);
     SetOrigin(record, page, BoundsOfPath(context));
     cairo_path_t* const path = cairo_copy_path(context);
     cairo_new_path(context);

@@ -17,10 +17,12 @@ enum class PictureProblem {
 
 // What the user should know of a drawing, for whoever has a place to say it.
 struct WatermarkNotes {
-    QString fontName;          // of a text: the font that it is drawn in, for people; empty when there is none
-    bool isSubstitute = false; // that isn't the font which the record names
-    QString missingCharacters; // of a text: what no font on this computer has, each once
+    QString fontName;            // of a text: the font that it is drawn in, for people; empty when there is none
+    bool isSubstitute = false;   // that isn't the font which the record names
+    bool lacksCharacter = false; // of a substitute: the record's font is there, but not for the whole text
+    QString missingCharacters;   // of a text: what no font on this computer has, each once
     PictureProblem picture = PictureProblem::None;
+    QRectF frame = {}; // of a text before it is turned: around its outlines, from its origin, in points, y upwards
 
     bool operator==(const WatermarkNotes&) const = default;
 };

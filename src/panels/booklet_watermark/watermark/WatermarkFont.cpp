@@ -101,8 +101,10 @@ FontCheck CheckFont(const _WatermarkData& record)
     const FontChoice font = ChooseFont(record.fontName.get(), record.text.get());
     if (!font.typeface)
         return {{}, FontProblem::NoFont};
-    FontCheck check{{font.typeface->file().displayName, font.isSubstitute, font.line.missing, PictureProblem::None},
-                    ProblemOf(font.typeface->sendability())};
+    FontCheck check{{}, ProblemOf(font.typeface->sendability())};
+    check.notes.fontName = font.typeface->file().displayName;
+    check.notes.isSubstitute = font.isSubstitute;
+    check.notes.missingCharacters = font.line.missing;
     if (check.problem == FontProblem::None && MakeFontProgram(*font.typeface, font.line.glyphs).isEmpty())
         check.problem = FontProblem::Damaged;
     return check;
