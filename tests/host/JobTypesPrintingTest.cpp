@@ -147,9 +147,11 @@ protected:
             EXPECT_TRUE(isOn || isOff || arrived.contains(name + '=' + value))
                 << name.constData() << ' ' << job.options.constData();
             if (name == "PageSize")
-                continue; // the filters turn it into the pages themselves
-            EXPECT_TRUE(job.data.contains("%%BeginFeature: *" + name + ' ' + value + '\n'))
-                << name.constData() << ' ' << value.constData();
+                continue;                               // the filters turn it into the pages themselves
+            const QByteArray code = name == "JCLBanner" // before the pages, in the printer's job language
+                                        ? "@PJL SET JOBBANNER=" + QByteArray(value == "True" ? "ON" : "OFF")
+                                        : "%%BeginFeature: *" + name + ' ' + value;
+            EXPECT_TRUE(job.data.contains(code + '\n')) << code.constData();
         }
     }
 

@@ -44,7 +44,8 @@ TEST_F(AdvancedPanelTest, WhatTheUserPicksReachesTheTicketAndComesBack)
                  .banner = 2,
                  .requestOffset = 1,
                  .mirror = 1,
-                 .optimization = 1},
+                 .optimization = 1,
+                 .bannerIsOption = true},
                 expected);
     EXPECT_EQ(ticket.values(), expected.values());
     EXPECT_EQ(ticket.ppdDict(), expected.ppdDict());
@@ -112,13 +113,42 @@ TEST_F(AdvancedPanelTest, WithoutADialogBehindItTheWebLinksButtonIsOutOfView)
     EXPECT_FALSE(control(kAboutButton)->isHidden());
 }
 
-TEST_F(AdvancedPanelTest, OpenedAgainItKeepsItsControls)
+TEST_F(AdvancedPanelTest, OpenedAgainItHasItsControlsAndShowsWhatIsChosen)
 {
     open();
     const PopupButton* before = popup(kMirrorPopup);
     EXPECT_EQ(slots->Close(prologue.context), noErr);
+    WriteTicket({.mirror = 1, .optimization = 1}, ticket);
+    ASSERT_EQ(sync(true), noErr);
     EXPECT_EQ(slots->Open(prologue.context), noErr);
     EXPECT_EQ(popup(kMirrorPopup), before);
+    EXPECT_EQ(GetPopupButtonTicketValue(popup(kOptimizationPopup)), 1);
+}
+
+TEST_F(AdvancedPanelTest, ANewPaneShowsTheBannerThatIsSent)
+{
+    WriteTicketValue(TicketWriter(ticket, "X"), key::BannerPage, 0);
+    WriteTicketValue(TicketWriter(ticket, "X"), key::PrintingOptimization, 7);
+    open();
+    EXPECT_EQ(popup(kBannerPopup)->value(), 2);
+    EXPECT_EQ(popup(kOptimizationPopup)->text(), QStringLiteral("Not On This Printer Other Value 7"));
+    PPDSetCurrentChoice(ticket, "JCLBanner", "True");
+    ASSERT_EQ(sync(true), noErr);
+    EXPECT_EQ(popup(kBannerPopup)->value(), 1) << "the choice alone was changed";
+    PPDSetCurrentChoice(ticket, "JCLBanner", "False");
+    WriteTicketValue(TicketWriter(ticket, "X"), key::BannerPage, 1);
+    ASSERT_EQ(sync(true), noErr);
+    EXPECT_EQ(popup(kBannerPopup)->value(), 2);
+}
+
+TEST_F(AdvancedPanelTest, AFreshJobIsThePrintersOwnDefault)
+{
+    open();
+    ASSERT_EQ(sync(false), noErr);
+    ASSERT_GT(ticket.ppdDict().count(), 2u);
+    for (const auto& [keyword, choice] : ticket.ppdDict())
+        EXPECT_EQ(choice, Value(PPDCopyDefaultChoice(PPDGetCurrent(), keyword).value_or(QString())))
+            << keyword.toStdString();
 }
 
 TEST_F(AdvancedPanelTest, AboutNamesThePrinterAndWhatIsFitted)

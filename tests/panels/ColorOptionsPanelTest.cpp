@@ -99,6 +99,19 @@ TEST_F(ColorOptionsPanelTest, ANameIsAskedForAndShown)
     EXPECT_EQ(stored(), Dictionary());
 }
 
+TEST_F(ColorOptionsPanelTest, WhatNobodyCanChooseIsShownAsItIsAndLeftAlone)
+{
+    const Dictionary foreign{{"FCLightness", Number::Index(250)}, {"RGBImagesProfile", Number::Index(5)}};
+    ticket.set("X", key::FullColorOptions, foreign);
+    open();
+    EXPECT_EQ(GetPopupButtonTicketValue(popup(kRGBImages)), 5);
+    EXPECT_FALSE(popup(kRGBImages)->text().isEmpty()) << "though 5 is how a profile with a name is kept";
+    EXPECT_EQ(control<SliderField>(kLightness).field().text(), u"250"_s);
+    EXPECT_TRUE(control<SliderField>(kLightness).field().property("invalid").toBool());
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(stored(), foreign);
+}
+
 TEST_F(ColorOptionsPanelTest, TheStripsShowTheColorsBeforeAndAfter)
 {
     open();

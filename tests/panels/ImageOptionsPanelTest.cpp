@@ -57,6 +57,19 @@ TEST_F(ImageOptionsPanelTest, ReadingWritesTheQualityToo)
     EXPECT_FALSE(ticket.values().find(key::InvertImageOptions)) << "but nothing else";
 }
 
+TEST_F(ImageOptionsPanelTest, AnUnknownQualityIsShownAsSuchAndLeftAlone)
+{
+    PPDSetCurrentChoice(ticket, "JCLPrintQuality", "Fantastic");
+    open();
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_FALSE(ticket.values().find(key::ImageResolution));
+    EXPECT_EQ(PPDCopyCurrentChoice(ticket, "JCLPrintQuality"), u"Fantastic"_s);
+    EXPECT_EQ(quality()->text(), u"Not On This Printer Fantastic"_s);
+    EXPECT_TRUE(test::Pick(quality(), 3));
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_EQ(*ticket.values().find(key::ImageResolution), Value(Number::SInt32(3)));
+}
+
 TEST_F(ImageOptionsPanelTest, ANegativeImageStaysAndHidesTheMirrorPicture)
 {
     ticket.set("X", key::InvertImageOptions, Invert(5, 1));

@@ -119,6 +119,40 @@ TEST_F(JobTypeDialogsTest, PasscodesAreHiddenAndMarkedWhereTheyDiffer)
     EXPECT_EQ(notices.titles, QStringList(u"Invalid Secure Print Passcode Header"_s));
 }
 
+TEST_F(JobTypeDialogsTest, AStoredPasscodeThatNobodyCanTypeIsMarkedUntilItIsTypedAnew)
+{
+    passcode = u"12345678901234"_s;
+    ModalUser user;
+    user.then([](QWidget& window) {
+        EXPECT_TRUE(get(window, kPasscodeField).property("invalid").toBool());
+        EXPECT_EQ(get(window, kPasscodeField).accessibleDescription(), u"Invalid Secure Print Passcode Message 4 10"_s);
+    });
+    user.then(ok);
+    user.then([](QWidget& window) {
+        EXPECT_EQ(window.focusWidget(), &get(window, kPasscodeField));
+        EXPECT_FALSE(get(window, kConfirmationField).property("invalid").toBool());
+        type(window, kPasscodeField, u"8642"_s);
+        type(window, kConfirmationField, u"8642"_s);
+    });
+    user.then(ok);
+    runSecurePrint();
+    EXPECT_EQ(passcode, u"8642"_s);
+
+    details.hasPasscode = true;
+    details.securePasscode = u"pass"_s;
+    user.then([](QWidget& window) {
+        EXPECT_TRUE(get(window, kPasscodeField).property("invalid").toBool());
+        type(window, kPasscodeField, u"864"_s);
+        EXPECT_FALSE(get(window, kPasscodeField).property("invalid").toBool());
+    });
+    user.then(ok);
+    user.then(cancel);
+    runSavedJob();
+    EXPECT_EQ(details.securePasscode, u"pass"_s);
+    EXPECT_EQ(notices.titles,
+              (QStringList{u"Invalid Secure Print Passcode Header"_s, u"Invalid Saved Job Passcode Header"_s}));
+}
+
 TEST_F(JobTypeDialogsTest, ATimeIsTypedKeyByKey)
 {
     const auto typeAll = [](const char* keys) {
@@ -297,13 +331,18 @@ TEST_F(JobTypeDialogsTest, WhatADamagedTicketHoldsIsShownWithinBounds)
     details.securePasscode = QString(10'000'000, u'é');
     ModalUser user;
     user.then([](QWidget& window) {
-        EXPECT_EQ(get<HistoryComboBox>(window, kJobNameBox).typedText(), QString());
+        EXPECT_FALSE(GetWindowDefaultButton(window)->isEnabled()) << "from the start";
+        auto& name = get<HistoryComboBox>(window, kJobNameBox);
+        EXPECT_EQ(name.typedText(), QString());
         EXPECT_LT(get(window, kPasscodeField).text().size(), 100'000);
+        TypeIntoField(&name, u"a"_s);
+        EXPECT_TRUE(get<HistoryComboBox>(window, kFolderBox).chooseItem(1));
+        get<QCheckBox>(window, kSecureCheckBox).click();
     });
     user.then(ok);
     runSavedJob();
     EXPECT_EQ(details.saveDisposition, 1);
-    EXPECT_TRUE(details.useDefaultLocation) << "no folder is the public one";
+    EXPECT_TRUE(details.useDefaultLocation);
 }
 
 TEST_F(JobTypeDialogsTest, EachDialogHasItsHelpPage)

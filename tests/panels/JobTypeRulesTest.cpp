@@ -20,7 +20,14 @@ TEST(PasscodeRules, OnlyALongEnoughPasscodeThatIsTypedTwiceIsTaken)
     EXPECT_EQ(JudgeSecurePrintPasscode(u"1234"_s, {}), PasscodeVerdict::Refused);
     EXPECT_EQ(JudgeSecurePrintPasscode({}, {}), PasscodeVerdict::MakeOne);
     EXPECT_EQ(JudgeSecurePrintPasscode(u"123"_s, u"123"_s), PasscodeVerdict::MakeOne);
-    EXPECT_EQ(JudgeSecurePrintPasscode(u"abcd"_s, u"ABCD"_s), PasscodeVerdict::Accepted);
+}
+
+TEST(PasscodeRules, WhatCanNotBeTypedAtThePrinterIsRefused)
+{
+    for (const QString& stored : {u"12a4"_s, u"٣٣٣٣"_s, u"12345678901"_s}) {
+        EXPECT_EQ(JudgeSecurePrintPasscode(stored, stored), PasscodeVerdict::Refused) << stored.toStdString();
+        EXPECT_EQ(JudgeSavedJobPasscode(stored, stored), PasscodeVerdict::Refused) << stored.toStdString();
+    }
 }
 
 TEST(PasscodeRules, ASavedJobGetsAPasscodeOfItsOwnWhateverTheConfirmationSays)
@@ -29,6 +36,7 @@ TEST(PasscodeRules, ASavedJobGetsAPasscodeOfItsOwnWhateverTheConfirmationSays)
     EXPECT_EQ(JudgeSavedJobPasscode(u"1234"_s, u"4321"_s), PasscodeVerdict::Refused);
     EXPECT_EQ(JudgeSavedJobPasscode(u"1234"_s, {}), PasscodeVerdict::Refused);
     EXPECT_EQ(JudgeSavedJobPasscode(u"1234"_s, u"1234"_s), PasscodeVerdict::Accepted);
+    EXPECT_EQ(JudgeSavedJobPasscode(u"123"_s, u"123"_s), PasscodeVerdict::Refused);
 }
 
 TEST(PasscodeRules, MadePasscodesHaveFourDigitsAndComeFromTheRandomSource)

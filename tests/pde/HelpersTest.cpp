@@ -5,6 +5,7 @@
 #include "printer/MediaLimits.h"
 #include "support/CurrentPrinter.h"
 #include "support/FakeSystem.h"
+#include "support/PPDVariant.h"
 #include "support/Recorders.h"
 #include "support/TestTexts.h"
 
@@ -70,6 +71,11 @@ TEST(MediaLimits, ComeFromThePPD)
     EXPECT_NE(limits, without);
     EXPECT_LT(limits.minimumWidth, limits.maximumWidth);
     EXPECT_LT(limits.minimumHeight, limits.maximumHeight);
+
+    test::PPDVariant unlimited;
+    unlimited.replaceLines("*ParamCustomPageSize", {});
+    const test::CurrentPrinter other(unlimited);
+    EXPECT_EQ(GetMediaLimits(), without);
 }
 
 TEST(CreatePropertiesFromXMLFile, AnswersNothingOnAnyFailure)

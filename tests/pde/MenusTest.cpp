@@ -159,6 +159,9 @@ TEST(Views, ASummaryNeedsAText)
     EXPECT_EQ(label.text(), u"before");
     EXPECT_EQ(UpdateSummaryTextView(&label, u""_s), noErr);
     EXPECT_EQ(label.text(), u"");
+    const QString whole = QString(5000, u'x') + u'.';
+    EXPECT_EQ(UpdateSummaryTextView(&label, whole), noErr);
+    EXPECT_EQ(label.text(), whole);
 }
 
 } // namespace

@@ -83,10 +83,50 @@ TEST(SpinField, RefusesWhatIsOutOfRangeAsItIsTyped)
     EXPECT_EQ(field.hits.numbers.back(), 4);
 }
 
+TEST(SpinField, ANumberBeyondTheLimitsIsShownAndMarkedUntilItIsChanged)
+{
+    OptionalField field;
+    const auto isMarked = [&] { return field.spin.property("invalid").toBool(); };
+    field.spin.setNumber(250);
+    EXPECT_EQ(field.spin.text(), u"250"_s);
+    EXPECT_EQ(field.spin.number(), 250);
+    EXPECT_TRUE(isMarked());
+    field.retype(u"100"_s); // through 1 and 10
+    EXPECT_FALSE(isMarked());
+    EXPECT_EQ(field.hits.numbers, (Numbers{1, 10, 100}));
+
+    field.spin.setNumber(-250);
+    test::PressKey(field.spin, Qt::Key_Down);
+    EXPECT_EQ(field.spin.number(), -250);
+    test::PressKey(field.spin, Qt::Key_Up);
+    EXPECT_EQ(field.hits.numbers.back(), -100);
+    EXPECT_FALSE(isMarked());
+    field.spin.setNumber(250);
+    field.retype(QString());
+    EXPECT_EQ(field.hits.numbers.back(), kUnset);
+    field.spin.setNumber(0);
+    EXPECT_EQ(field.spin.text(), u"0"_s);
+}
+
+TEST(SpinField, ArrowsStopWhereTypingNeedNot)
+{
+    OptionalField field;
+    field.spin.setStepLimits(-8, 8);
+    field.spin.setSingleStep(5);
+    field.retype(u"6"_s);
+    test::PressKey(field.spin, Qt::Key_Up);
+    EXPECT_EQ(field.hits.numbers, (Numbers{6, 8}));
+    field.retype(u"50"_s);
+    test::PressKey(field.spin, Qt::Key_Up);
+    EXPECT_EQ(field.spin.number(), 50);
+    test::PressKey(field.spin, Qt::Key_Down);
+    EXPECT_EQ(field.spin.number(), 8);
+}
+
 TEST(SpinField, TellsOnlyChangesOfTheUsers)
 {
     OptionalField field;
-    field.spin.setNumber(5000); // shown as 100
+    field.spin.setNumber(5000);
     test::PressKey(field.spin, Qt::Key_Return);
     EXPECT_TRUE(field.hits.numbers.empty());
     field.spin.setNumber(kUnset);
@@ -129,7 +169,7 @@ TEST_F(SliderFieldTest, SliderAndFieldAreOneControl)
     EXPECT_EQ(hits.numbers, (Numbers{-40, -41, kUnset}));
 
     control.setNumber(5000);
-    EXPECT_EQ(control.number(), 100);
+    EXPECT_EQ(control.number(), 5000) << "as it is";
     EXPECT_EQ(control.slider().value(), 100);
 }
 

@@ -20,6 +20,7 @@
 #include "support/Accessories.h"
 #include "support/CurrentPrinter.h"
 #include "toolkit/controls/MenuButton.h"
+#include "toolkit/controls/Controls.h"
 #include "toolkit/controls/PictureView.h"
 #include "toolkit/controls/SummaryTextView.h"
 #include "toolkit/style/KestaStyle.h"
@@ -32,6 +33,7 @@
 #include <QLocale>
 
 #include <cstdio>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -42,10 +44,12 @@ class Gallery {
 public:
     Gallery(const Bundle& bundle, const QDir& folder) : bundle_(bundle), folder_(folder) {}
 
-    // Runs the dialog, saves it as the user would find it, and cancels.
-    template <class Run> void add(const QString& name, Run run)
+    // Runs the dialog, saves it as the user would find it, or has left it, and cancels.
+    template <class Run> void add(const QString& name, Run run, const std::function<void(QWidget&)>& use = {})
     {
-        SetModalIdleAction([this, name](QWidget& window) {
+        SetModalIdleAction([this, name, use](QWidget& window) {
+            if (use)
+                use(window);
             save(window, name);
             EndModalLoop(window, ModalResult::Cancel);
         });
@@ -91,12 +95,21 @@ void AddStockDialogs(Gallery& gallery)
     gallery.add(u"advanced-stock"_s, [&](const Bundle& bundle, ModalResult& result) {
         return RunModalAdvancedStockDialog(bundle, JobContext::Insert, stock, result);
     });
-    _IS_Options shift;
-    for (const SInt32 millimetres : {13, 20}) {
-        shift.option = 1;
-        shift.X1 = millimetres;
-        gallery.add(u"tab-stock-%1"_s.arg(millimetres), [&](const Bundle& bundle, ModalResult& result) {
+    Stock foreign = MakeStock(kStockTypeOrdered, kStockColorText, 9999);
+    foreign.setCustomType(u"Dividers"_s);
+    foreign.setCustomColor(u"Teal"_s);
+    foreign.setWeight(10'000);
+    gallery.add(u"advanced-stock-foreign"_s, [&](const Bundle& bundle, ModalResult& result) {
+        return RunModalAdvancedStockDialog(bundle, JobContext::Insert, foreign, result);
+    });
+    for (const SInt32 millimetres : {13, 20, 60}) {
+        _IS_Options shift{.option = 1, .inches = false, .X1 = millimetres};
+        const auto run = [&](const Bundle& bundle, ModalResult& result) {
             return RunModalTabStockSetupDialog(bundle, stock, shift, result);
+        };
+        gallery.add(u"tab-stock-%1"_s.arg(millimetres), run);
+        gallery.add(u"tab-stock-none"_s, run, [](QWidget& window) {
+            FindPopupButton(&window, {tabstock::kSignature, tabstock::kShiftPopup})->chooseItem(1);
         });
     }
 }

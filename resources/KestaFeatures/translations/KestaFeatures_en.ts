@@ -403,6 +403,10 @@
         <translation>Tray 8 (inserter)</translation>
     </message>
     <message>
+        <source>Inserter Not Fitted</source>
+        <translation>Inserter, not on this printer</translation>
+    </message>
+    <message>
         <source>SecurePrintSetupTitle</source>
         <translation>Secure Print</translation>
     </message>
@@ -431,6 +435,20 @@
         <source>Passcode Required Message</source>
         <extracomment>%1 and %2: least and most number of digits; %3: the passcode</extracomment>
         <translation>Note %3: you need it at the printer. To choose your own, of %1 to %2 digits, open the setup again.</translation>
+    </message>
+    <message>
+        <source>Saved Job Passcode Required Message</source>
+        <extracomment>%1 and %2: least and most number of digits; %3: the passcode</extracomment>
+        <translation>Note %3: you need it to print the saved job at the printer. To choose your own, of %1 to %2 digits, open the setup again.</translation>
+    </message>
+    <message>
+        <source>Invalid Saved Job Passcode Header</source>
+        <translation>The saved job needs a valid passcode</translation>
+    </message>
+    <message>
+        <source>Invalid Saved Job Passcode Message</source>
+        <extracomment>%1 and %2: least and most number of digits</extracomment>
+        <translation>Enter the same passcode of %1 to %2 digits in both fields of the saved job’s setup.</translation>
     </message>
     <message>
         <source>TimeToPrint:</source>
@@ -725,7 +743,7 @@
     </message>
     <message>
         <source>Invalid Paper Size Message</source>
-        <translation>The sizes now lie within the limits. Check them, then choose OK again.</translation>
+        <translation>Sizes outside of the limits will be set to the nearest that it takes. Check them, then choose OK again.</translation>
     </message>
     <message>
         <source>Custom Size Setup</source>
@@ -817,6 +835,11 @@
     <message>
         <source>Precut Tab Hint</source>
         <translation>After this many tabs the set begins again.</translation>
+    </message>
+    <message>
+        <source>Image Shift Ends Hint</source>
+        <extracomment>Below the choice "None" of the tab margin shift, where the pages have an image shift</extracomment>
+        <translation>These pages’ image shift ends with it, on both sides.</translation>
     </message>
     <message>
         <source>Tab Shift Distance:</source>

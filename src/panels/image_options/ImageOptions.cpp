@@ -27,8 +27,10 @@ void ReadQuality(ImageOptions& options, const Ticket& settings, ppd_file_t* ppd)
 
 void WriteQuality(const ImageOptions& options, Ticket& settings)
 {
+    if (!PPDChoiceForTicketValue("JCLPrintQuality", options.quality))
+        return;
     const TicketWriter writer(settings, kPrintingManagerClient);
-    WriteTicketValue(writer, key::ImageResolution, options.quality);
+    writer.set(key::ImageResolution, Number::SInt32(options.quality));
     WriteBindings(kBindings, options, writer);
 }
 

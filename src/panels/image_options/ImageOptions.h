@@ -41,7 +41,8 @@ struct InvertControls {
     bool mirror = false;
 };
 
-// The PPD, which may be null, has the default of a quality that the ticket does not choose.
+// The PPD, which may be null, has the default of a quality that the ticket does not choose. What no choice stands for
+// is left as it is in the ticket.
 void ReadQuality(ImageOptions& options, const Ticket& settings, ppd_file_t* ppd);
 void WriteQuality(const ImageOptions& options, Ticket& settings);
 

@@ -3,6 +3,7 @@
 #include "panels/paper_output/FinishingRules.h"
 #include "panels/paper_output/PaperOutputHandler.h"
 #include "panels/paper_output/PaperOutputView.h"
+#include "panels/paper_output/PasscodeRules.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"
 #include "platform/plugins/Bundle.h"
@@ -20,7 +21,7 @@ JobTypeCheck CheckOf(const _PaperOutputContext& panel)
             .hasPasscode =
                 [&panel] {
                     const std::optional<QString>& passcode = panel.options.jobType.securePasscode;
-                    return passcode && !passcode->isEmpty();
+                    return passcode && !passcode->isEmpty() && CanBeTypedAtPrinter(*passcode);
                 },
             .setupButton = [&panel] { return FindHere(panel, kJobTypeSetupButton); },
             .hasFaxRecipients =

@@ -4,6 +4,7 @@
 #include "panels/paper_output/FinishingRules.h"
 #include "panels/paper_output/FinishingSummary.h"
 #include "panels/paper_output/PaperOutputPictures.h"
+#include "panels/special_pages/paper/SeparatorsRules.h"
 #include "pde/forms/ViewUtilities.h"
 #include "pde/interface/SummaryPlaces.h"
 #include "pde/menus/MenuUtilities.h"
@@ -17,6 +18,8 @@
 #include "toolkit/windows/WindowSummary.h"
 
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace kesta::paper_output {
 namespace {
@@ -264,9 +267,17 @@ void ShowOptions(_PaperOutputContext& panel)
     ShowFinishing(panel);
 }
 
+// Separators stay in the job when the paper is no transparency any more: the menu shows them whatever the paper.
 void ShowPaper(const _PaperOutputContext& panel)
 {
     ShowStock(panel.stockMenu);
+    if (MenuControl* button = panel.stockMenu.button) {
+        button->changeItems([&panel](Menu& menu) {
+            const auto item = std::ranges::find(menu.items, kSeparatorsCommand, &MenuItem::command);
+            if (item != menu.items.end())
+                item->checked = panel.options.separatorCount != kSeparatorsNone;
+        });
+    }
 }
 
 void ShowFinishing(const _PaperOutputContext& panel)

@@ -24,10 +24,12 @@ void ShowNotice(const Bundle& bundle, const char* title, const char* message, co
 
 } // namespace
 
-PasscodeFields::PasscodeFields(const Bundle& bundle, QWidget& window, FourCharCode signature)
+PasscodeFields::PasscodeFields(const Bundle& bundle, QWidget& window, FourCharCode signature,
+                               const PasscodeNotices& notices)
     : bundle_(bundle),
       window_(window),
       signature_(signature),
+      notices_(notices),
       passcode_(FindTextField(&window, {signature, kPasscodeField})),
       confirmation_(FindTextField(&window, {signature, kConfirmationField}))
 {
@@ -67,6 +69,15 @@ void PasscodeFields::focus()
         return;
     passcode_->setFocus();
     passcode_->selectAll();
+    if (!CanBeTypedAtPrinter(passcode()))
+        markPasscode();
+}
+
+// Those who hear the window are told why.
+void PasscodeFields::markPasscode()
+{
+    RememberProblem(LocalizedFormat(bundle_, notices_.refused, Limits()));
+    SetInvalid(passcode_, true);
 }
 
 void PasscodeFields::enable(bool enabled)
@@ -96,12 +107,12 @@ bool PasscodeFields::settle(PasscodeVerdict verdict)
         return true;
     if (verdict == PasscodeVerdict::MakeOne) {
         fill(MakePasscode());
-        ShowNotice(bundle_, "Passcode Required Header", "Passcode Required Message", Limits() << passcode());
+        ShowNotice(bundle_, "Passcode Required Header", notices_.made, Limits() << passcode());
         return true;
     }
-    ShowNotice(bundle_, "Invalid Secure Print Passcode Header", "Invalid Secure Print Passcode Message", Limits());
-    if (passcode_ && confirmation_)
-        SetInvalid(confirmation_->isEnabled() ? confirmation_ : passcode_, true);
+    ShowNotice(bundle_, notices_.refusedTitle, notices_.refused, Limits());
+    const bool isConfirmationWrong = confirmation_ && confirmation_->isEnabled() && CanBeTypedAtPrinter(passcode());
+    SetInvalid(isConfirmationWrong ? confirmation_ : passcode_, true);
     return false;
 }
 

@@ -23,17 +23,30 @@ enum PasscodeControl : SInt32 {
     kConfirmationLimits = 6,
 };
 
+// Keys of what is said of a passcode that was made, and of one that can't be taken.
+struct PasscodeNotices {
+    const char* made;
+    const char* refusedTitle;
+    const char* refused;
+};
+inline constexpr PasscodeNotices kSecurePrintNotices{.made = "Passcode Required Message",
+                                                     .refusedTitle = "Invalid Secure Print Passcode Header",
+                                                     .refused = "Invalid Secure Print Passcode Message"};
+inline constexpr PasscodeNotices kSavedJobNotices{.made = "Saved Job Passcode Required Message",
+                                                  .refusedTitle = "Invalid Saved Job Passcode Header",
+                                                  .refused = "Invalid Saved Job Passcode Message"};
+
 // The two fields for a passcode of a setup window, with their labels. The window must outlive it; a window without the
 // fields has an empty passcode.
 class PasscodeFields {
 public:
     // Limits what may be typed to passcodes.
-    PasscodeFields(const Bundle& bundle, QWidget& window, FourCharCode signature);
+    PasscodeFields(const Bundle& bundle, QWidget& window, FourCharCode signature, const PasscodeNotices& notices);
 
     void fill(const QString& passcode); // both
     QString passcode() const;
     QString confirmation() const;
-    void focus();
+    void focus(); // marks a passcode that must be typed anew
 
     void enable(bool enabled); // the confirmation only once the passcode is long enough
     void enableConfirmation(bool enabled);
@@ -44,10 +57,12 @@ public:
 
 private:
     QWidget* control(SInt32 number) const;
+    void markPasscode();
 
     const Bundle& bundle_;
     QWidget& window_;
     FourCharCode signature_;
+    const PasscodeNotices& notices_;
     QLineEdit* passcode_;
     QLineEdit* confirmation_;
 };

@@ -2,19 +2,20 @@
 
 #include "platform/system/RandomSource.h"
 
+#include <algorithm>
+
 namespace kesta {
-namespace {
 
-bool AreSame(const QString& passcode, const QString& confirmation)
+bool CanBeTypedAtPrinter(const QString& passcode)
 {
-    return passcode.compare(confirmation, Qt::CaseInsensitive) == 0;
+    static constexpr QLatin1StringView kCharacters(kPasscodeCharacters);
+    return passcode.size() <= kLongestPasscode &&
+           std::ranges::all_of(passcode, [](QChar c) { return kCharacters.contains(c); });
 }
-
-} // namespace
 
 PasscodeVerdict JudgeSecurePrintPasscode(const QString& passcode, const QString& confirmation)
 {
-    if (!AreSame(passcode, confirmation))
+    if (passcode != confirmation || !CanBeTypedAtPrinter(passcode))
         return PasscodeVerdict::Refused;
     return IsLongEnoughPasscode(passcode) ? PasscodeVerdict::Accepted : PasscodeVerdict::MakeOne;
 }
@@ -23,7 +24,8 @@ PasscodeVerdict JudgeSavedJobPasscode(const QString& passcode, const QString& co
 {
     if (passcode.isEmpty())
         return PasscodeVerdict::MakeOne;
-    return AreSame(passcode, confirmation) ? PasscodeVerdict::Accepted : PasscodeVerdict::Refused;
+    const bool isUsable = CanBeTypedAtPrinter(passcode) && IsLongEnoughPasscode(passcode);
+    return isUsable && passcode == confirmation ? PasscodeVerdict::Accepted : PasscodeVerdict::Refused;
 }
 
 QString MakePasscode()

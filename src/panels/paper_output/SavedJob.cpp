@@ -28,7 +28,7 @@ static_assert(kSaveRadios.size() == SavedJobSaveOptionRadioMap.size());
 struct SavedJobDialog {
     const Bundle& bundle;
     QWidget& window;
-    PasscodeFields passcode{bundle, window, kSavedJobSignature};
+    PasscodeFields passcode{bundle, window, kSavedJobSignature, kSavedJobNotices};
     HistoryComboBox* jobName = FindControlAs<HistoryComboBox>(&window, {kSavedJobSignature, kJobNameBox});
     HistoryComboBox* folder = FindControlAs<HistoryComboBox>(&window, {kSavedJobSignature, kFolderBox});
 
@@ -75,6 +75,13 @@ void ShowNameOrEntry(HistoryComboBox& box, bool showsEntry, SettingMap map, cons
         box.setTypedText(name.value_or(QString()));
 }
 
+// OK needs a name and a folder.
+void EnableOK(const SavedJobDialog& dialog)
+{
+    const bool complete = !dialog.jobName->currentText().isEmpty() && !dialog.folder->currentText().isEmpty();
+    SetControlEnabled(GetWindowDefaultButton(dialog.window), complete);
+}
+
 void RestoreUIValuesFromData(SavedJobDialog& dialog, const JobType& job)
 {
     const auto option = static_cast<std::size_t>(SaveOptionFor(job.saveDisposition));
@@ -84,6 +91,9 @@ void RestoreUIValuesFromData(SavedJobDialog& dialog, const JobType& job)
     dialog.button(kSecureCheckBox)->setChecked(job.hasPasscode);
     dialog.passcode.fill(job.securePasscode.value_or(QString()));
     dialog.passcode.enable(job.hasPasscode);
+    if (job.hasPasscode && !CanBeTypedAtPrinter(dialog.passcode.passcode()))
+        dialog.passcode.focus();
+    EnableOK(dialog);
     if (auto* picture = FindControlAs<PictureView>(&dialog.window, {kSavedJobSignature, kFormatPicture}))
         picture->setPicture(QString::fromLatin1(JobFormatPicture(job.mediaTypeInJob)));
 }
@@ -116,13 +126,6 @@ void SaveHistories(const SavedJobDialog& dialog)
     RememberTypedValue(*history, kFolderNamesKey, dialog.folder->typedText());
     if (!(*history == before))
         WriteUserPreferences(kInputHistoryFile, *history);
-}
-
-// OK needs a name and a folder.
-void EnableOK(const SavedJobDialog& dialog)
-{
-    const bool complete = !dialog.jobName->currentText().isEmpty() && !dialog.folder->currentText().isEmpty();
-    SetControlEnabled(GetWindowDefaultButton(dialog.window), complete);
 }
 
 // What is typed into a fixed entry takes its place: an entry with a few characters more would be a name that nobody

@@ -16,7 +16,7 @@ OSStatus RunModalSecurePrintSetup(const Bundle& bundle, std::optional<QString>& 
     const std::unique_ptr<QWidget> window = CreateWindowFromNib(bundle, "SecurePrint", "SecurePrint");
     if (!window)
         return kInterfaceFileUnreadable;
-    jobtypes::PasscodeFields fields(bundle, *window, jobtypes::kSecurePrintSignature);
+    jobtypes::PasscodeFields fields(bundle, *window, jobtypes::kSecurePrintSignature, jobtypes::kSecurePrintNotices);
     const QString stored = passcode.value_or(QString());
     fields.fill(stored);
     fields.enableConfirmation(!stored.isEmpty());

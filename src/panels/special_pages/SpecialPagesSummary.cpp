@@ -43,7 +43,7 @@ MaybeText KindPart(const Bundle& bundle, const SpecialPage& page, const Ticket* 
 std::vector<MaybeText> PaperParts(const Bundle& bundle, const Stock& stock)
 {
     if (stock.source() == kStockSourcePostPrintInserter)
-        return {CopyLocalizedStringForInstalledFeatureFromPlugin("PostPrintInserterKey", bundle)};
+        return {StockInserterText(bundle)};
     if (stock.source() != kUnset)
         return {};
     return {stock.size() != kUnset ? StockSizeText(stock) : MaybeText(),

@@ -101,9 +101,11 @@ template <const auto& kForm> struct FormSlots {
         return noErr;
     }
 
-    // Without its window the panel stays empty.
+    // Without its window the panel stays empty. Opened again, it has its controls and shows what the options say now.
     static OSStatus Open(Context& panel)
     {
+        if (panel.view)
+            Show(panel, Showing::Opened);
         if (panel.view || !panel.pane)
             return noErr;
         std::unique_ptr<QWidget> window = CreateWindowFromNib(*panel.bundle, kForm.interfaceFile, kForm.window);

@@ -6,19 +6,6 @@
 #include <QVBoxLayout>
 
 namespace kesta {
-namespace {
-
-constexpr qsizetype kLongestSummary = 1000; // UTF-16 units
-
-QString Cut(const QString& text)
-{
-    if (text.size() <= kLongestSummary)
-        return text;
-    const bool splitsPair = text[kLongestSummary - 1].isHighSurrogate();
-    return text.first(kLongestSummary - (splitsPair ? 1 : 0)) + u'\u2026';
-}
-
-} // namespace
 
 void UpdateTabControl(TabControl* tabs, std::span<QWidget* const> panes)
 {
@@ -64,7 +51,7 @@ OSStatus UpdateSummaryTextView(QWidget* view, const QString& text)
 {
     if (text.isNull())
         return kMissingArgument;
-    SetControlText(view, Cut(text));
+    SetControlText(view, text);
     return noErr;
 }
 

@@ -25,7 +25,7 @@ void TranslateView(QWidget* view, int dx, int dy); // in pixels; for views that 
 // Makes a label an empty text of that font size in points.
 void SetupTextViewControl(QWidget* control, Float32 fontSize);
 
-// A text may hold names from settings files: it is cut to what can be laid out at once.
+// The whole text; how long a text can be laid out at once is the view's affair.
 OSStatus UpdateSummaryTextView(QWidget* view, const QString& text);
 
 } // namespace kesta

@@ -14,7 +14,7 @@ struct Bundle;
 // All functions must be set; they are called on the dialog's thread while the registration lives.
 struct JobTypeCheck {
     std::function<SInt32()> jobType = {};
-    std::function<bool()> hasPasscode = {};              // asked for secure jobs
+    std::function<bool()> hasPasscode = {};              // asked for secure jobs: one that can be typed at the printer
     std::function<QWidget*()> setupButton = {};          // of the job type; null while the panel has no window
     std::function<bool()> hasFaxRecipients = {};         // asked for faxes
     std::function<void(const Bundle&)> runFaxSetup = {}; // lets the user name recipients, modally

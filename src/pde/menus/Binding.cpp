@@ -8,17 +8,6 @@
 namespace kesta {
 namespace {
 
-bool IsInMap(SettingMap map, SInt32 value)
-{
-    return std::ranges::find(map, value, &SettingRow::value) != map.end();
-}
-
-std::optional<SInt32> ReadKey(const BindingRule& rule, const Ticket& settings)
-{
-    const std::optional<SInt32> value = ReadTicketValue(settings, rule.key);
-    return value && rule.onlyOffered && !IsInMap(rule.map, *value) ? std::nullopt : value;
-}
-
 // In the words of the map, of the panel or of the printer, else the printer's keyword.
 std::optional<QString> NameOf(const Bundle& bundle, const BindingRule& rule, ppd_file_t* ppd, SInt32 value)
 {
@@ -113,8 +102,8 @@ std::optional<SInt32> ReadBound(const BindingRule& rule, const Ticket& settings,
 {
     if (!rule.key && !rule.option)
         return std::nullopt;
-    const std::optional<SInt32> value =
-        rule.key ? ReadKey(rule, settings) : PPDGetTicketValueForChoiceOrDefault(ppd, settings, *rule.option);
+    const std::optional<SInt32> value = rule.key ? ReadTicketValue(settings, rule.key)
+                                                 : PPDGetTicketValueForChoiceOrDefault(ppd, settings, *rule.option);
     return value ? value : rule.otherwise;
 }
 

@@ -26,7 +26,6 @@ struct BindingRule {
     std::optional<PPDKeyword> option = {}; // the printer's, read when there is no key
     Conflicting conflicting = Conflicting::Keep;
     std::optional<SInt32> otherwise = {}; // what a ticket means that does not say; nothing: the number stays
-    bool onlyOffered = false;             // an entry that the map lacks does not say either
 };
 
 template <class Record> struct Access {

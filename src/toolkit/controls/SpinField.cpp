@@ -1,12 +1,14 @@
 #include "toolkit/controls/SpinField.h"
 
 #include "toolkit/controls/ControlEvent.h"
+#include "toolkit/controls/TextInput.h"
 
 #include <QLineEdit>
 #include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace kesta {
 namespace {
@@ -25,7 +27,11 @@ SpinField::SpinField(QWidget* parent) : QDoubleSpinBox(parent)
     setRange(0, 99);
     connect(this, &QDoubleSpinBox::valueChanged, this, &SpinField::sendHit);
     // Becoming empty, and filled with the number that was there before, is no change of the value below.
-    connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { empty_ = meansEmpty(text); });
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
+        empty_ = meansEmpty(text);
+        if (text != textOfForeign())
+            setForeign({});
+    });
     connect(lineEdit(), &QLineEdit::textChanged, this, [this] {
         if (hasAcceptableInput())
             sendHit();
@@ -60,11 +66,18 @@ double SpinField::toShown(SInt32 number) const
 void SpinField::setLimits(SInt32 least, SInt32 most, int decimals)
 {
     ++settingByCode_;
+    setForeign({});
+    stepLimits_.reset();
     setDecimals(std::clamp(decimals, 0, kMostDecimals));
     setRange(toShown(least), toShown(most));
     setSingleStep(toShown(1));
     lastNumber_ = number();
     --settingByCode_;
+}
+
+void SpinField::setStepLimits(SInt32 least, SInt32 most)
+{
+    stepLimits_ = {least, most};
 }
 
 SInt32 SpinField::leastNumber() const
@@ -79,7 +92,7 @@ SInt32 SpinField::mostNumber() const
 
 SInt32 SpinField::number() const
 {
-    return empty_ ? kUnset : toNumber(value());
+    return empty_ ? kUnset : foreign_.value_or(toNumber(value()));
 }
 
 void SpinField::setShown(SInt32 number)
@@ -93,7 +106,21 @@ void SpinField::setShown(SInt32 number)
 void SpinField::setNumber(SInt32 number)
 {
     empty_ = number == kUnset && !emptyText().isEmpty();
+    const bool isForeign = number != kUnset && (number < leastNumber() || number > mostNumber());
+    setForeign(isForeign ? std::optional(number) : std::nullopt);
     setShown(empty_ ? 0 : number);
+}
+
+void SpinField::setForeign(std::optional<SInt32> number)
+{
+    foreign_ = number;
+    MarkInvalid(this, number.has_value());
+}
+
+// Empty without one.
+QString SpinField::textOfForeign() const
+{
+    return foreign_ ? prefix() + textFromValue(0) + suffix() : QString();
 }
 
 QString SpinField::emptyText() const
@@ -111,32 +138,52 @@ void SpinField::setEmptyText(const QString& text)
 
 QValidator::State SpinField::validate(QString& text, int& position) const
 {
-    return meansEmpty(text) ? QValidator::Acceptable : QDoubleSpinBox::validate(text, position);
+    const bool isShown = meansEmpty(text) || (foreign_ && text == textOfForeign());
+    return isShown ? QValidator::Acceptable : QDoubleSpinBox::validate(text, position);
 }
 
 double SpinField::valueFromText(const QString& text) const
 {
-    return meansEmpty(text) ? value() : QDoubleSpinBox::valueFromText(text);
+    const bool isShown = meansEmpty(text) || (foreign_ && text == textOfForeign());
+    return isShown ? value() : QDoubleSpinBox::valueFromText(text);
 }
 
 QString SpinField::textFromValue(double shown) const
 {
-    return empty_ ? QString() : QDoubleSpinBox::textFromValue(shown);
+    return empty_ ? QString() : QDoubleSpinBox::textFromValue(foreign_ ? toShown(*foreign_) : shown);
 }
 
+SInt32 SpinField::nearestStep(SInt32 number) const
+{
+    const StepLimits limits = stepLimits_.value_or(StepLimits{leastNumber(), mostNumber()});
+    return std::clamp(number, limits.least, limits.most);
+}
+
+// From beyond the limits the first step is to the nearest of them.
 void SpinField::stepBy(int steps)
 {
-    if (empty_) {
+    const SInt32 before = number();
+    ++settingByCode_;
+    if (empty_)
         setNumber(0);
-        lastNumber_ = kUnset;
-    }
-    QDoubleSpinBox::stepBy(steps);
+    if (nearestStep(number()) == number())
+        QDoubleSpinBox::stepBy(steps);
+    if (const SInt32 nearest = nearestStep(number()); nearest != number())
+        setNumber(nearest);
+    --settingByCode_;
+    lastNumber_ = before;
     sendHit(); // an end that is reached from empty is another number, too
 }
 
 QAbstractSpinBox::StepEnabled SpinField::stepEnabled() const
 {
-    return empty_ && !isReadOnly() ? StepUpEnabled | StepDownEnabled : QDoubleSpinBox::stepEnabled();
+    if (isReadOnly())
+        return StepNone;
+    if (empty_)
+        return StepUpEnabled | StepDownEnabled;
+    const SInt32 up = nearestStep(std::numeric_limits<SInt32>::max());
+    const SInt32 down = nearestStep(std::numeric_limits<SInt32>::min());
+    return (number() < up ? StepUpEnabled : StepNone) | (number() > down ? StepDownEnabled : StepNone);
 }
 
 QSize SpinField::sizeHint() const

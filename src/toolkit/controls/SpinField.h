@@ -4,6 +4,8 @@
 
 #include <QDoubleSpinBox>
 
+#include <optional>
+
 namespace kesta {
 
 // A number with arrows, in the language's notation. Its number is a whole count of units of 10^-decimals: with one
@@ -12,6 +14,8 @@ namespace kesta {
 //
 // With an empty text, which it shows in place of a number, it may also be empty: its number is then kUnset, taking its
 // text away makes it so, and its arrows go on from the number nearest to 0.
+//
+// A number beyond the limits, which nobody can type, is shown as what it is, and marked, until the user changes it.
 class SpinField : public QDoubleSpinBox {
     Q_OBJECT
     Q_PROPERTY(QString emptyText READ emptyText WRITE setEmptyText)
@@ -20,10 +24,12 @@ public:
     explicit SpinField(QWidget* parent = nullptr);
 
     void setLimits(SInt32 least, SInt32 most, int decimals = 0);
+    // What arrows and keys stop at, where more can be typed; setLimits() ends it.
+    void setStepLimits(SInt32 least, SInt32 most);
     SInt32 leastNumber() const;
     SInt32 mostNumber() const;
     SInt32 number() const;
-    void setNumber(SInt32 number); // brought within the limits, but for the kUnset of an empty field; sends nothing
+    void setNumber(SInt32 number); // sends nothing; kUnset, where it may not be empty, is brought within the limits
 
     QString emptyText() const;
     void setEmptyText(const QString& text); // an empty one: never empty
@@ -43,11 +49,19 @@ private:
     SInt32 toNumber(double shown) const;
     double toShown(SInt32 number) const;
     bool meansEmpty(const QString& text) const;
+    QString textOfForeign() const;
+    SInt32 nearestStep(SInt32 number) const;
+    void setForeign(std::optional<SInt32> number);
     void setShown(SInt32 number);
     void sendHit();
 
     int settingByCode_ = 0;
     bool empty_ = false;
+    std::optional<SInt32> foreign_ = {}; // beyond the limits
+    struct StepLimits {
+        SInt32 least, most;
+    };
+    std::optional<StepLimits> stepLimits_ = {};
     SInt32 lastNumber_ = 0; // that code set or a hit told
 };
 

@@ -10,6 +10,8 @@ namespace kesta {
 namespace {
 
 constexpr auto kDash = QLatin1StringView("- "); // before each fact
+constexpr qsizetype kMostDrawn = 20'000;        // UTF-16 units
+constexpr int kLongestWord = 40;                // in letters: what is longer is no word and must not widen the window
 
 struct Fact {
     QString text;
@@ -56,15 +58,28 @@ QSize SummaryTextView::withRoom(QSize size) const
     return size.expandedTo({0, leading + fontMetrics().height()});
 }
 
+bool SummaryTextView::isEndless() const
+{
+    return text().size() > kMostDrawn;
+}
+
+QString SummaryTextView::drawnText() const
+{
+    if (!isEndless())
+        return text();
+    const bool splitsPair = text()[kMostDrawn - 1].isHighSurrogate();
+    return text().first(kMostDrawn - (splitsPair ? 1 : 0)) + u'\u2026';
+}
+
 QSize SummaryTextView::sizeHint() const
 {
-    return withRoom(QLabel::sizeHint());
+    return withRoom(isEndless() ? minimumSizeHint() : QLabel::sizeHint());
 }
 
 // What layouts go by, as the lines wrap.
 int SummaryTextView::heightForWidth(int width) const
 {
-    const QRect last = LaidOut(text(), fontMetrics(), width).back().rect;
+    const QRect last = LaidOut(drawnText(), fontMetrics(), width).back().rect;
     return withRoom({width, last.bottom() + 1}).height();
 }
 
@@ -76,7 +91,7 @@ void SummaryTextView::paintEvent(QPaintEvent*)
                               Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, palette(), isEnabled(), shown,
                               foregroundRole());
     };
-    for (const Fact& fact : LaidOut(text(), fontMetrics(), width())) {
+    for (const Fact& fact : LaidOut(drawnText(), fontMetrics(), width())) {
         draw(fact.rect, fact.text);
         if (fact.hasDash)
             draw(QRect(0, fact.rect.top(), fact.rect.left(), fact.rect.height()), kDash.trimmed());
@@ -85,9 +100,9 @@ void SummaryTextView::paintEvent(QPaintEvent*)
 
 QSize SummaryTextView::minimumSizeHint() const
 {
-    constexpr int kLongestWord = 40; // what is longer is no word and must not widen the window
-    const QSize size = QLabel::minimumSizeHint();
-    return withRoom({std::min(size.width(), fontMetrics().averageCharWidth() * kLongestWord), size.height()});
+    const int widest = fontMetrics().averageCharWidth() * kLongestWord;
+    const QSize size = isEndless() ? QSize(widest, 0) : QLabel::minimumSizeHint();
+    return withRoom({std::min(size.width(), widest), size.height()});
 }
 
 } // namespace kesta

@@ -5,7 +5,8 @@
 namespace kesta {
 
 // A plain text of some facts, a line and a dash each, that wrap beside their dashes; it keeps room for its usual number
-// of lines, so that nothing jumps.
+// of lines, so that nothing jumps. Texts hold names from settings files: what nobody would read to its end ends with an
+// ellipsis, though text() has it all.
 class SummaryTextView : public QLabel {
     Q_OBJECT
     Q_PROPERTY(int lines READ lines WRITE setLines)
@@ -25,6 +26,8 @@ protected:
 
 private:
     QSize withRoom(QSize size) const;
+    bool isEndless() const;
+    QString drawnText() const;
     int lines_ = 1;
 };
 

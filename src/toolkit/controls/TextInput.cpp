@@ -144,6 +144,12 @@ void RememberProblem(const QString& text)
     QTimer::singleShot(0, [] { LastProblem().clear(); });
 }
 
+void MarkInvalid(QWidget* field, bool invalid)
+{
+    if (field && field->property("invalid").toBool() != invalid)
+        ShowInvalid(*field, invalid);
+}
+
 void SetInvalid(QWidget* field, bool invalid)
 {
     if (!field || field->property("invalid").toBool() == invalid)

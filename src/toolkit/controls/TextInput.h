@@ -22,6 +22,8 @@ void TypeIntoField(QWidget* field, const QString& text);
 // and selects its text; the next edit takes the mark away. As long as it is set, the field's accessible description is
 // what the alert before it said.
 void SetInvalid(QWidget* field, bool invalid);
+// Ring and mark alone: the focus stays, and the next edit does not take them away.
+void MarkInvalid(QWidget* field, bool invalid);
 // What an alert says that was just closed. Forgotten when the code that raised it has ended.
 void RememberProblem(const QString& text);
 

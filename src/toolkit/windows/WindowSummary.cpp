@@ -44,6 +44,16 @@ QStringList FactsOf(const PopupButton& popup)
     return {isNamed ? FormatText(sentence, {title}) : title};
 }
 
+// A fact may be a name from a settings file.
+QString Cut(const QString& fact)
+{
+    constexpr qsizetype kLongestFact = 1000; // UTF-16 units
+    if (fact.size() <= kLongestFact)
+        return fact;
+    const bool splitsPair = fact[kLongestFact - 1].isHighSurrogate();
+    return fact.first(kLongestFact - (splitsPair ? 1 : 0)) + u'\u2026';
+}
+
 QStringList FactsOf(const SummaryTextView& view)
 {
     const QStringList byDefault = SummaryFacts(view.property(kDefault).toString());
@@ -91,7 +101,7 @@ QStringList SummaryFacts(const QString& summary)
     for (const QString& line : summary.split(u'\n')) {
         const QString fact = line.startsWith(u"- "_s) ? line.sliced(2).trimmed() : line.trimmed();
         if (!fact.isEmpty())
-            facts << fact;
+            facts << Cut(fact);
     }
     return facts;
 }

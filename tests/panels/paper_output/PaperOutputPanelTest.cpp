@@ -108,9 +108,15 @@ TEST_F(PaperOutputPanelTest, TheSeparatorsAreChosenFromThePaperMenu)
         test::Pick(FindPopupButton(&window, {separators::kSignature, separators::kColorPopup}), 4);
         test::Press(window, kCommandOK);
     });
+    const auto isMarked = [&] {
+        SendControlEvent(*menu(kStockMenuButton), MenuEnableItemsEvent{});
+        return menu(kStockMenuButton)->menu().items.back().checked;
+    };
+    EXPECT_FALSE(isMarked());
     EXPECT_TRUE(choose(kStockMenuButton, kSeparatorsCommand));
     EXPECT_EQ(options().separatorCount, kSeparatorsPrinted);
     EXPECT_EQ(options().separatorStock.color(), 4);
+    EXPECT_TRUE(isMarked()) << "whatever the paper is";
 }
 
 TEST_F(PaperOutputPanelTest, SecurePrintAsksForItsPasscodeAtOnceAndHoldsPrintBackWithoutOne)

@@ -18,7 +18,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QPixmap>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -135,6 +137,10 @@ TEST_F(CustomSizeDialogTest, ASizeOutsideTheLimitsIsRefusedAndCorrected)
         EXPECT_EQ(notices.titles.size(), 1);
         EXPECT_EQ(width(window).number(), 1300);
         EXPECT_EQ(length(window).number(), 388);
+        length(window).stepBy(-1);
+        width(window).stepBy(3);
+        EXPECT_EQ(length(window).number(), 388);
+        EXPECT_EQ(width(window).number(), 1300);
         length(window).findChild<QLineEdit*>()->clear();
         Press(window, kCommandOK);
     });
@@ -202,7 +208,21 @@ TEST_F(PaperDialogsTest, PrecutTabsComeInThreesUntilOKSaysOtherwise)
     };
     EXPECT_EQ(tabsAfter(kCommandCancel, 5), kUnset);
     EXPECT_EQ(tabsAfter(kCommandOK), 3);
-    EXPECT_EQ(tabsAfter(kCommandOK, 255), 254);
+    EXPECT_EQ(tabsAfter(kCommandOK, 254), 254);
+
+    user.then([](QWidget& window) {
+        SpinField& field = spin(window, precuttab::kSignature, precuttab::kSequenceField);
+        for (const QString& unusable : {u"0"_s, QString(), u"255"_s}) {
+            field.selectAll();
+            field.findChild<QLineEdit*>()->insert(unusable);
+            EXPECT_FALSE(GetWindowDefaultButton(window)->isEnabled()) << unusable.toStdString();
+        }
+        field.stepBy(1);
+        EXPECT_EQ(field.number(), 254);
+        EXPECT_TRUE(GetWindowDefaultButton(window)->isEnabled());
+        Press(window, kCommandCancel);
+    });
+    RunModalPreCutTabStockSetup(bundle, DialogMode::Add, JobContext::Insert, stock, result);
 }
 
 class TabStockDialogTest : public PaperDialogsTest {
@@ -212,6 +232,10 @@ protected:
         return popup(window, tabstock::kSignature, tabstock::kShiftPopup);
     }
     static PopupButton* units(QWidget& window) { return popup(window, tabstock::kSignature, tabstock::kUnitsPopup); }
+    static QString text(QWidget& window, SInt32 number)
+    {
+        return qobject_cast<QLabel*>(FindControl(&window, {tabstock::kSignature, number}))->text();
+    }
     static SpinField& shiftField(QWidget& window) { return spin(window, tabstock::kSignature, tabstock::kShiftField); }
     void run() { EXPECT_EQ(RunModalTabStockSetupDialog(bundle, stock, shift, result), noErr); }
 
@@ -244,20 +268,72 @@ TEST_F(TabStockDialogTest, OKTakesTheTemplateAndCancelNothing)
 TEST_F(TabStockDialogTest, ACustomShiftIsShownInTheUnitsChosen)
 {
     shift.option = 1;
+    shift.inches = false;
     shift.X1 = 20;
     user.then([](QWidget& window) {
         EXPECT_EQ(GetPopupButtonTicketValue(shiftPopup(window)), kTabShiftCustom);
         EXPECT_EQ(shiftField(window).text(), u"0.8"_s);
         EXPECT_TRUE(shiftField(window).isEnabled() && units(window)->isEnabled());
-        shiftField(window).setNumber(99);
-        EXPECT_EQ(shiftField(window).number(), 15);
+        EXPECT_EQ(text(window, tabstock::kShiftLimits), u"Min-Max Inches -1.5 1.5"_s);
+        shiftField(window).setNumber(15);
+        shiftField(window).stepBy(1);
         EXPECT_TRUE(test::Pick(units(window), 2));
         EXPECT_EQ(shiftField(window).text(), u"38"_s);
+        EXPECT_EQ(text(window, tabstock::kShiftLimits), u"Min-Max Millimeters -38 38"_s);
         shiftField(window).setNumber(30);
         Press(window, kCommandOK);
     });
     run();
     EXPECT_EQ(shift, (_IS_Options{.option = 1, .inches = false, .X1 = 30}));
+}
+
+TEST_F(TabStockDialogTest, AShiftBeyondTheLimitsIsShownAndHoldsOKBack)
+{
+    shift = {.option = 1, .inches = false, .X1 = 60};
+    user.then([](QWidget& window) {
+        const QPushButton& ok = *GetWindowDefaultButton(window);
+        EXPECT_EQ(shiftField(window).text(), u"2.4"_s);
+        EXPECT_TRUE(shiftField(window).property("invalid").toBool());
+        EXPECT_FALSE(ok.isEnabled());
+        EXPECT_TRUE(test::Pick(shiftPopup(window), kTabShiftLetterTemplate));
+        EXPECT_TRUE(ok.isEnabled()) << "the field does not count";
+        EXPECT_FALSE(shiftField(window).property("invalid").toBool());
+        EXPECT_TRUE(test::Pick(shiftPopup(window), kTabShiftCustom));
+        auto* typed = shiftField(window).findChild<QLineEdit*>();
+        for (const auto& [text, isUsable] : {std::pair(u"2"_s, false), {u"-"_s, false}, {u"1.2"_s, true}}) {
+            typed->selectAll();
+            TypeIntoField(typed, text);
+            EXPECT_EQ(ok.isEnabled(), isUsable) << text.toStdString();
+            EXPECT_NE(shiftField(window).property("invalid").toBool(), isUsable) << text.toStdString();
+            test::Pick(units(window), 2);
+            test::Pick(units(window), 1);
+            EXPECT_EQ(ok.isEnabled(), isUsable) << "there and back";
+        }
+        Press(window, kCommandOK);
+    });
+    run();
+    EXPECT_EQ(shift.X1, 30);
+}
+
+TEST_F(TabStockDialogTest, NoneSaysThatItEndsTheWholeShift)
+{
+    const auto says = [](QWidget& window) {
+        return !FindControl(&window, {tabstock::kSignature, tabstock::kShiftEndsHint})->isHidden();
+    };
+    user.then([&](QWidget& window) {
+        EXPECT_FALSE(says(window)) << "there is none";
+        Press(window, kCommandCancel);
+    });
+    run();
+    shift = {.option = 1, .inches = false, .X1 = 13, .Y2 = 4};
+    user.then([&](QWidget& window) {
+        EXPECT_FALSE(says(window));
+        EXPECT_TRUE(test::Pick(shiftPopup(window), kTabShiftNone));
+        EXPECT_TRUE(says(window));
+        Press(window, kCommandOK);
+    });
+    run();
+    EXPECT_EQ(shift.option, kUnset);
 }
 
 TEST_F(PaperDialogsTest, SeparatorsEndWithTheDefaultsAndCancelChangesNothing)
@@ -337,6 +413,39 @@ TEST_F(AdvancedStockDialogTest, CancelLeavesAllAndWhatNoMenuHasIsKept)
     });
     run();
     EXPECT_EQ(stock, before);
+}
+
+TEST_F(AdvancedStockDialogTest, WhatNoMenuHasIsNamed)
+{
+    using namespace advancedstock;
+    stock = Stock(Dictionary{{"Size", Number::Index(9999)},
+                             {"Type", Number::Index(kStockTypeOrdered)},
+                             {"CustomType", "Dividers"},
+                             {"Modulus", Number::Index(5)},
+                             {"Color", Number::Index(kStockColorText)},
+                             {"CustomColor", "teal"},
+                             {"Punched", Number::Index(7)},
+                             {"Weight", Number::Index(10'000)}});
+    const Stock before = stock;
+    user.then([](QWidget& window) {
+        const auto shown = [&](SInt32 number) { return choice(window, number)->text(); };
+        EXPECT_EQ(shown(kSizePopup), u"Unknown Setting 9999"_s);
+        EXPECT_EQ(shown(kTypePopup), u"Dividers (5)"_s);
+        EXPECT_EQ(shown(kColorPopup), u"teal"_s);
+        EXPECT_EQ(shown(kPunchedPopup), u"Unknown Setting 7"_s);
+        EXPECT_EQ(spin(window, kSignature, kWeightField).number(), 10'000);
+        const int items = choice(window, kColorPopup)->menu().count();
+        EXPECT_FALSE(choice(window, kColorPopup)->chooseItem(1)) << "not anew";
+        EXPECT_TRUE(test::Pick(choice(window, kPunchedPopup), kStockPunched));
+        EXPECT_TRUE(test::Pick(choice(window, kPunchedPopup), kUnset));
+        EXPECT_EQ(choice(window, kPunchedPopup)->menu().count(), 3);
+        EXPECT_EQ(choice(window, kColorPopup)->menu().count(), items);
+        Press(window, kCommandOK);
+    });
+    run();
+    EXPECT_EQ(stock.color(), before.color());
+    EXPECT_EQ(stock.customType(), before.customType());
+    EXPECT_EQ(stock.size(), before.size());
 }
 
 TEST_F(AdvancedStockDialogTest, ACustomSizeIsAskedForInItsOwnDialog)

@@ -110,6 +110,22 @@ TEST(TabStock, ATemplateIsATemplateOfTheUsersOwnCountry)
     EXPECT_EQ(options, (_IS_Options{.option = kUnset, .inches = false, .X1 = 13})) << "the offset stays";
 }
 
+TEST(TabStock, TenthsOfAnInchAreReadAsSuchAndBecomeMillimetresTogether)
+{
+    _IS_Options options{.option = 1, .inches = true, .X1 = 13, .X2 = 5, .Y1 = -10, .Y2 = 1};
+    EXPECT_EQ(TabShiftFromOptions(options, kInches), (TabShift{kTabShiftCustom, 13})) << "1.3 inches are no template";
+    EXPECT_EQ(TabShiftFromOptions(options, kMillimetres), (TabShift{kTabShiftCustom, 33}));
+    ApplyTabShift({kTabShiftCustom, 13}, kInches, options);
+    const _IS_Options millimetres{.option = 1, .inches = false, .X1 = 33, .X2 = 13, .Y1 = -25, .Y2 = 3};
+    EXPECT_EQ(options, millimetres);
+    ApplyTabShift({kTabShiftCustom, 33}, kMillimetres, options);
+    EXPECT_EQ(options, millimetres) << "once";
+
+    ApplyTabShift({.choice = kTabShiftNone}, kMillimetres, options);
+    ApplyTabShift({.choice = kTabShiftA4Template}, kMillimetres, options);
+    EXPECT_EQ(options, (_IS_Options{.option = 1, .inches = false, .X1 = 13})) << "what was ended stays away";
+}
+
 TEST(TabStock, ASetHasThreeTabsUntilItIsSaid)
 {
     Stock stock;

@@ -68,6 +68,10 @@ TEST_F(StockRulesTest, OfPaperFromATrayOnlyTheInserterIsNamed)
     stock.setCustomName(u"Invoices"_s);
     stock.setSource(kStockSourcePostPrintInserter);
     EXPECT_EQ(summary(JobContext::Insert), u"- Tray 8 Inserter Value"_s);
+    {
+        const test::WithAccessories without({{"Option2", "CClass"}});
+        EXPECT_EQ(summary(JobContext::Insert), u"- Inserter Not Fitted"_s);
+    }
     stock.setSource(3);
     EXPECT_EQ(summary(JobContext::Insert), QString());
 }

@@ -58,10 +58,8 @@ QString ForeignTrayText(const Bundle& bundle, SInt32 tray)
 {
     if (tray == kAutomaticTray)
         return LocalizedString(bundle, "Automatic Tray");
-    const auto inserter = tray == kStockSourcePostPrintInserter
-                              ? CopyLocalizedStringForInstalledFeatureFromPlugin("PostPrintInserterKey", bundle)
-                              : std::nullopt;
-    return inserter ? *inserter : LocalizedFormat(bundle, "Unknown Setting", {QString::number(tray)});
+    return tray == kStockSourcePostPrintInserter ? StockInserterText(bundle)
+                                                 : LocalizedFormat(bundle, "Unknown Setting", {QString::number(tray)});
 }
 
 void ShowTray(const _CoversEventHandlerData& editor, const Column& column, const Cover* cover)
@@ -97,8 +95,15 @@ void ShowCovers(_CoversEventHandlerData& editor)
     ShowColumn(editor, kBackColumn);
 }
 
+// Before covers go: the icons may be drawn any time. ShowCovers gives the papers what there is then.
+void LetGoOfPapers(_CoversEventHandlerData& editor)
+{
+    editor.frontPaper.stock = editor.backPaper.stock = nullptr;
+}
+
 void ChooseOption(_CoversEventHandlerData& editor, SInt32 option)
 {
+    LetGoOfPapers(editor);
     SetPopupButtonToTicketValue(editor.popup(kOptionPopup), option);
     ApplyCoverOption(editor.covers, option, editor.tray(kFrontColumn), editor.tray(kBackColumn));
     ShowCovers(editor);
@@ -111,6 +116,7 @@ void DefaultCovers(_CoversEventHandlerData& editor)
 
 void Follow(_CoversEventHandlerData& editor)
 {
+    LetGoOfPapers(editor);
     FollowFront(editor.covers, editor.option());
     ShowCovers(editor);
 }

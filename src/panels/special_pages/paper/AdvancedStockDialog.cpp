@@ -4,13 +4,17 @@
 #include "panels/special_pages/paper/StockDescriptionSetup.h"
 #include "panels/special_pages/paper/StockIcon.h"
 #include "panels/special_pages/paper/StockMenuRules.h"
+#include "panels/special_pages/paper/StockSummary.h"
 #include "pde/forms/DialogCommands.h"
 #include "pde/forms/TextFieldUtilities.h"
 #include "pde/menus/MenuUtilities.h"
+#include "pde/ticket/LocalizedText.h"
 #include "platform/plugins/Bundle.h"
 #include "toolkit/controls/PictureView.h"
 #include "toolkit/controls/SpinField.h"
 #include "toolkit/windows/InterfaceFile.h"
+
+#include <algorithm>
 
 namespace kesta {
 namespace advancedstock {
@@ -26,51 +30,61 @@ struct AdvancedStockDialog {
     QLineEdit* description() const { return FindTextField(&window, {kSignature, kDescriptionField}); }
 };
 
-using PopulateFunction = void (*)(Menu&, const Bundle&, JobContext);
-
-void FillPopup(const AdvancedStockDialog& dialog, Control number, PopulateFunction populate)
-{
-    if (PopupButton* popup = dialog.popup(number)) {
-        Menu menu;
-        populate(menu, dialog.bundle, dialog.context);
-        popup->setMenu(std::move(menu));
-    }
-}
-
-// A value that the menu lacks gets an item before all others: a pop-up does not show what the paper is not.
-void ShowValue(PopupButton* popup, SInt32 value, const QString& titleWhenUnknown)
-{
-    if (!popup || SetPopupButtonToTicketValue(popup, value))
-        return;
-    Menu menu = popup->menu();
-    menu.items.insert(menu.items.begin(), {.title = titleWhenUnknown, .value = value});
-    popup->setMenu(std::move(menu));
-    popup->setValue(1);
-}
-
 QString WordForUnset(const AdvancedStockDialog& dialog)
 {
     return LocalizedString(dialog.bundle, dialog.context == JobContext::Job ? "PrinterDefault" : "UseJobSetting");
 }
 
+QString Name(const AdvancedStockDialog& dialog, SInt32 value, const std::optional<QString>& text)
+{
+    if (value == kUnset)
+        return WordForUnset(dialog);
+    return text ? *text : LocalizedFormat(dialog.bundle, "Unknown Setting", {QString::number(value)});
+}
+
+// A value that the menu lacks gets an item before all others, which can't be chosen anew: a pop-up does not show what
+// the paper is not.
+void ShowValue(const AdvancedStockDialog& dialog, Control number, Menu menu, SInt32 value,
+               const std::optional<QString>& text)
+{
+    PopupButton* popup = dialog.popup(number);
+    if (!popup)
+        return;
+    if (std::ranges::find(menu.items, value, &MenuItem::value) == menu.items.end())
+        menu.items.insert(menu.items.begin(),
+                          {.title = Name(dialog, value, text), .value = value, .enabled = value == kUnset});
+    popup->setMenu(std::move(menu));
+    SetPopupButtonToTicketValue(popup, value);
+}
+
+using PopulateFunction = void (*)(Menu&, const Bundle&, JobContext);
+
+Menu MenuOf(const AdvancedStockDialog& dialog, PopulateFunction populate)
+{
+    Menu menu;
+    populate(menu, dialog.bundle, dialog.context);
+    return menu;
+}
+
+void PopulatePunchedMenu(Menu& menu, const Bundle& bundle, JobContext context)
+{
+    PopulateMenuFromMap(bundle, menu, _StockPunchedMap, context);
+}
+
 void ShowPaper(const AdvancedStockDialog& dialog)
 {
     const Stock& stock = dialog.stock;
-    const QString unknown = WordForUnset(dialog);
-    ShowValue(dialog.popup(kSizePopup), stock.size(), unknown);
-    ShowValue(dialog.popup(kColorPopup), stock.color(), unknown);
-    ShowValue(dialog.popup(kTypePopup), stock.type(), unknown);
-    ShowValue(dialog.popup(kPunchedPopup), stock.punched(), unknown);
+    ShowValue(dialog, kSizePopup, MenuOf(dialog, PopulateStockSizeMenu), stock.size(), StockSizeText(stock));
+    ShowValue(dialog, kColorPopup, MenuOf(dialog, PopulateStockColorMenu), stock.color(), StockColorText(stock));
+    ShowValue(dialog, kTypePopup, MenuOf(dialog, PopulateStockTypeMenu), stock.type(),
+              StockTypeText(dialog.bundle, stock));
+    ShowValue(dialog, kPunchedPopup, MenuOf(dialog, PopulatePunchedMenu), stock.punched(), {});
     if (auto* icon = FindControlAs<PictureView>(&dialog.window, {kSignature, kIcon}))
         icon->setPictures(StockIconPictures(&stock));
 }
 
 void SyncToUI(const AdvancedStockDialog& dialog)
 {
-    FillPopup(dialog, kSizePopup, PopulateStockSizeMenu);
-    FillPopup(dialog, kColorPopup, PopulateStockColorMenu);
-    FillPopup(dialog, kTypePopup, PopulateStockTypeMenu);
-    PopulatePopupButtonFromMap(dialog.bundle, dialog.popup(kPunchedPopup), _StockPunchedMap, dialog.context);
     if (auto* weight = FindControlAs<SpinField>(&dialog.window, {kSignature, kWeightField})) {
         weight->setLimits(0, kMostStockWeight);
         weight->setSpecialValueText(WordForUnset(dialog));

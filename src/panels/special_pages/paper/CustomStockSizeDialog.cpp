@@ -1,5 +1,6 @@
 #include "panels/special_pages/paper/CustomStockSizeDialog.h"
 
+#include "panels/special_pages/paper/LimitedFields.h"
 #include "pde/forms/DialogCommands.h"
 #include "pde/menus/MenuUtilities.h"
 #include "pde/ticket/LocalizedText.h"
@@ -19,8 +20,6 @@ namespace customsize {
 namespace {
 
 constexpr QLatin1StringView kHelpPage("Paper_Output/Paper/idh_other_paper_type.htm");
-// Fields take more than the printer does, so that what somebody types is theirs until OK.
-constexpr SInt32 kMostTyped = 99'999;
 
 struct _CustomStockSizeDialogContext {
     const Bundle& bundle;
@@ -39,12 +38,11 @@ SInt32 NumberOf(const SpinField* field)
     return field ? field->number() : 0;
 }
 
-void ShowField(const _CustomStockSizeDialogContext& dialog, Control number, SInt32 length)
+void ShowField(const _CustomStockSizeDialogContext& dialog, Control number, SInt32 length, const FieldLimits& limits)
 {
     if (SpinField* field = dialog.field(number)) {
-        field->setLimits(0, kMostTyped, FieldDecimals(gCurrentUnits));
+        ShowNumber(*field, LengthToField(length, gCurrentUnits), limits, FieldDecimals(gCurrentUnits));
         field->setSingleStep(gCurrentUnits == SizeUnits::Inches ? 0.1 : 1);
-        field->setNumber(LengthToField(length, gCurrentUnits));
     }
 }
 
@@ -60,10 +58,11 @@ void ShowLimits(const _CustomStockSizeDialogContext& dialog, Control number, con
 
 void ShowSize(const _CustomStockSizeDialogContext& dialog)
 {
-    ShowField(dialog, kWidthField, dialog.size.width);
-    ShowField(dialog, kLengthField, dialog.size.length);
-    ShowLimits(dialog, kWidthLimits, dialog.limits().width);
-    ShowLimits(dialog, kLengthLimits, dialog.limits().length);
+    const SizeLimits limits = dialog.limits();
+    ShowField(dialog, kWidthField, dialog.size.width, limits.width);
+    ShowField(dialog, kLengthField, dialog.size.length, limits.length);
+    ShowLimits(dialog, kWidthLimits, limits.width);
+    ShowLimits(dialog, kLengthLimits, limits.length);
     SetPopupButtonToTicketValue(FindPopupButton(&dialog.window, {kSignature, kUnitsPopup}),
                                 static_cast<SInt32>(gCurrentUnits));
     if (QWidget* preview = dialog.control(kPreview))
@@ -83,11 +82,6 @@ void ShowDefaults(_CustomStockSizeDialogContext& dialog)
     gCurrentUnits = dialog.defaultUnits;
     dialog.size = DefaultPaperSize(dialog.defaultUnits);
     ShowSize(dialog);
-}
-
-bool IsWithin(const SpinField* field, const FieldLimits& limits)
-{
-    return field && field->hasAcceptableInput() && limits.contains(field->number());
 }
 
 // Sets the field to the nearest number within the limits; true when it was outside of them.

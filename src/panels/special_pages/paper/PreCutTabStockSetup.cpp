@@ -1,5 +1,6 @@
 #include "panels/special_pages/paper/PreCutTabStockSetup.h"
 
+#include "panels/special_pages/paper/LimitedFields.h"
 #include "panels/special_pages/paper/TabStockRules.h"
 #include "pde/forms/DialogCommands.h"
 #include "toolkit/controls/SpinField.h"
@@ -14,10 +15,11 @@ OSStatus RunModalPreCutTabStockSetup(const Bundle& bundle, DialogMode, JobContex
     auto* field = FindControlAs<SpinField>(window.get(), {kSignature, kSequenceField});
     if (!field)
         return kInterfaceFileUnreadable;
-    field->setLimits(kTabSequenceLimits.least, kTabSequenceLimits.most);
-    field->setNumber(TabsInSequence(stock));
+    ShowNumber(*field, TabsInSequence(stock), kTabSequenceLimits);
     field->selectAll();
     SetControlText(FindControl(window.get(), {kSignature, kSequenceLimits}), TabSequenceLimitsText(bundle));
+    const EventHandler holding =
+        EnableOKWhile(*window, [field] { return MarkUnlessWithin(field, kTabSequenceLimits); });
     result = RunModalDialog(bundle, *window, {});
     if (result == ModalResult::OK)
         stock.setModulus(field->number());

@@ -25,26 +25,29 @@ MenuItem SubmenuItem(const Bundle& bundle, const char* key, PopulateFunction pop
         .title = LocalizedString(bundle, key), .enabled = !submenu.items.empty(), .submenu = std::move(submenu.items)};
 }
 
-bool IsOfStock(const MenuItem& item, const Stock& stock)
+// What the stock has of what the item's command changes; nothing where that is none of the stock's.
+std::optional<SInt32> ValueOfStock(FourCharCode command, const Stock& stock)
 {
-    switch (item.command) {
+    switch (command) {
     case kStockSizeCommand:
-        return item.value == stock.size();
+        return stock.size();
     case kStockColorCommand:
-        return item.value == stock.color();
+        return stock.color();
     case kStockTypeCommand:
-        return item.value == stock.type();
+        return stock.type();
     case kStockSourceCommand:
-        return item.value == stock.source();
+        return stock.source();
     default:
-        return false;
+        return std::nullopt;
     }
 }
 
 void MarkItems(std::vector<MenuItem>& items, const Stock* stock)
 {
+    const Stock none;
     for (MenuItem& item : items) {
-        item.checked = stock && IsOfStock(item, *stock);
+        if (const std::optional<SInt32> value = ValueOfStock(item.command, stock ? *stock : none))
+            item.checked = stock && item.value == *value;
         MarkItems(item.submenu, stock);
     }
 }

@@ -29,7 +29,7 @@ void PopulateStockMenu(Menu& menu, const Bundle& bundle, JobContext context);
 // Enables or disables what has the command: of a submenu with that command its title alone, so that the items keep
 // their own state.
 void EnableStockCommand(Menu& menu, FourCharCode command, bool enabled);
-// Marks what the stock has now of what the menu offers; without a stock nothing is marked.
+// Marks what the stock has now of what the menu offers, without a stock nothing. Items of an owner's stay as they are.
 void MarkStock(Menu& menu, const Stock* stock);
 
 // Does to the stock what a command does that asks no more of the user: every one but advanced and a custom size. False,

@@ -59,6 +59,12 @@ Text StockTypeText(const Bundle& bundle, const Stock& stock)
     }
 }
 
+QString StockInserterText(const Bundle& bundle)
+{
+    const Text inserter = CopyLocalizedStringForInstalledFeatureFromPlugin("PostPrintInserterKey", bundle);
+    return inserter ? *inserter : LocalizedString(bundle, "Inserter Not Fitted");
+}
+
 namespace {
 
 class Parts {
@@ -118,7 +124,7 @@ QString GenerateStockSummary(const Bundle& bundle, JobContext context, const Sto
     if (stock.source() == kUnset)
         AddPaper(parts, bundle, context, stock);
     else if (stock.source() == kStockSourcePostPrintInserter)
-        parts.add(CopyLocalizedStringForInstalledFeatureFromPlugin("PostPrintInserterKey", bundle));
+        parts.add(StockInserterText(bundle));
     return parts.joined(separator);
 }
 

@@ -11,6 +11,9 @@ std::optional<QString> StockSizeText(const Stock& stock);
 std::optional<QString> StockColorText(const Stock& stock);
 std::optional<QString> StockTypeText(const Bundle& bundle, const Stock& stock);
 
+// The post-print inserter in words; where none is fitted, it says so.
+QString StockInserterText(const Bundle& bundle);
+
 // The paper in words, its parts joined by the separator; a part whose text can't be had is left out. Job summaries
 // never name a size, and name colour and type even when these are unset. Of paper from a tray of its own only the
 // post-print inserter is named.

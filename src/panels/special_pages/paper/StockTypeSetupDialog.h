@@ -21,6 +21,8 @@ enum Control : SInt32 {
     kUnitsPopup = 6,
     kSequencePicture = 7,
     kShiftPicture = 8,
+    kShiftLimits = 9,
+    kShiftEndsHint = 10,
 };
 
 } // namespace tabstock

@@ -5,6 +5,7 @@
 #include "pde/ticket/LocalizedText.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 namespace kesta {
@@ -13,6 +14,8 @@ namespace {
 constexpr SInt32 kUsualTabs = 3;
 constexpr SInt32 kTemplateShift = 13; // millimetres
 constexpr SInt32 kShiftSet = 1;       // an image shift option other than unset
+
+constexpr auto kOtherOffsets = std::to_array({&_IS_Options::X2, &_IS_Options::Y1, &_IS_Options::Y2});
 
 // The value times a ratio, moved away from 0 by about half of the divisor and truncated.
 SInt32 Converted(SInt32 value, SInt64 factor, SInt64 half, SInt64 divisor)
@@ -52,14 +55,27 @@ FieldLimits TabShiftLimits(SizeUnits units)
     return units == SizeUnits::Inches ? FieldLimits{-15, 15} : FieldLimits{-38, 38};
 }
 
+QString TabShiftLimitsText(const Bundle& bundle, SizeUnits units)
+{
+    const bool inches = units == SizeUnits::Inches;
+    const FieldLimits limits = TabShiftLimits(units);
+    const auto text = [&](SInt32 number) {
+        return CreateLocalizedCFStringFromNumberWithDecimals(number, inches ? 1 : 0);
+    };
+    return LocalizedFormat(bundle, inches ? "Min-Max Inches" : "Min-Max Millimeters",
+                           {text(limits.least), text(limits.most)});
+}
+
 TabShift TabShiftFromOptions(const _IS_Options& options, SizeUnits units)
 {
     const bool inches = units == SizeUnits::Inches;
     if (options.option == kUnset)
         return {kTabShiftNone};
-    if (options.X1 == kTemplateShift)
+    if (!options.inches && options.X1 == kTemplateShift)
         return {inches ? kTabShiftLetterTemplate : kTabShiftA4Template};
-    return {kTabShiftCustom, inches ? TabShiftToInches(options.X1) : options.X1};
+    if (options.inches == inches)
+        return {kTabShiftCustom, options.X1};
+    return {kTabShiftCustom, inches ? TabShiftToInches(options.X1) : TabShiftToMillimetres(options.X1)};
 }
 
 void ApplyTabShift(const TabShift& shift, SizeUnits units, _IS_Options& options)
@@ -67,6 +83,12 @@ void ApplyTabShift(const TabShift& shift, SizeUnits units, _IS_Options& options)
     if (shift.choice == kTabShiftNone) {
         options.option = kUnset;
         return;
+    }
+    for (SInt32 _IS_Options::*const offset : kOtherOffsets) {
+        if (options.option == kUnset)
+            options.*offset = 0;
+        else if (options.inches)
+            options.*offset = TabShiftToMillimetres(options.*offset);
     }
     options.option = kShiftSet;
     options.inches = false;

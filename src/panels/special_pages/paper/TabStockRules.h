@@ -35,9 +35,10 @@ QString TabSequenceLimitsText(const Bundle& bundle);
 SInt32 TabShiftToInches(SInt32 millimetres);
 SInt32 TabShiftToMillimetres(SInt32 tenthsOfInch);
 FieldLimits TabShiftLimits(SizeUnits units);
+QString TabShiftLimitsText(const Bundle& bundle, SizeUnits units);
 
 // What the dialog shows of the options, and makes of them. A shift of 13 millimetres is a template's whatever stored
-// it; the field counts with a custom shift alone.
+// it, one of tenths of an inch never; the field counts with a custom shift alone.
 struct TabShift {
     SInt32 choice = kTabShiftNone;
     SInt32 field = 0;
@@ -45,6 +46,7 @@ struct TabShift {
     bool operator==(const TabShift&) const = default;
 };
 TabShift TabShiftFromOptions(const _IS_Options& options, SizeUnits units);
+// The other three offsets are converted to millimetres with the first; those of a shift that was off don't come back.
 void ApplyTabShift(const TabShift& shift, SizeUnits units, _IS_Options& options);
 
 } // namespace kesta
