@@ -1,6 +1,7 @@
 #include "toolkit/windows/WindowSummary.h"
 
 #include "support/TestTexts.h"
+#include "toolkit/controls/MenuButton.h"
 #include "toolkit/controls/PopupButton.h"
 #include "toolkit/controls/SummaryTextView.h"
 
@@ -67,6 +68,20 @@ TEST(WindowSummary, NamesWhatIsNotOffered)
     EXPECT_EQ(popup->selectedItem()->value, 7);
     EXPECT_EQ(popup->menu().count(), 2) << "it can't be chosen anew";
     EXPECT_TRUE(FindNotOffered(window).empty());
+}
+
+TEST(WindowSummary, TellsOfAMenuOnceWhatASummaryTellsToo)
+{
+    QWidget window;
+    auto* view = new SummaryTextView(&window);
+    auto* menu = new MenuButton(&window);
+    const auto item = [](const QString& title) {
+        return MenuItem{.title = title, .checked = true, .notOffered = true};
+    };
+    menu->setMenu({.items = {item(u"Holes"_s), item(u"Fold"_s)}});
+    ShowInSummary(view, 4, QString());
+    view->setText(u"- "_s + WithCaution(u"Holes"_s));
+    EXPECT_EQ(WindowSummary(window), (QStringList{WithCaution(u"Holes"_s), WithCaution(u"Fold"_s)}));
 }
 
 TEST(SummaryTextView, KeepsRoomForItsUsualLines)

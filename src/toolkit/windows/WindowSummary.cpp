@@ -62,6 +62,14 @@ QStringList FactsOf(const SummaryTextView& view)
     return facts;
 }
 
+QStringList NotOfferedFacts(const MenuControl& menu)
+{
+    QStringList facts;
+    for (const MenuItem& item : menu.shownNotOffered())
+        facts << WithCaution(item.title);
+    return facts;
+}
+
 } // namespace
 
 void ShowInSummary(PopupButton* popup, SInt32 place, SInt32 defaultValue)
@@ -125,10 +133,10 @@ QStringList WindowSummary(const QWidget& window)
     for (const QWidget* control : window.findChildren<QWidget*>()) {
         const QVariant place = control->property(kPlace);
         const auto* menu = qobject_cast<const MenuControl*>(control);
-        const bool isNotOffered = menu && !menu->shownNotOffered().empty(); // told in any case
-        if (isNotOffered && !place.isValid())
-            unplaced << WithCaution(menu->shownNotOffered().front().title);
-        if (!place.isValid() || (IsHiddenItself(*control) && !isNotOffered))
+        const QStringList notOffered = menu ? NotOfferedFacts(*menu) : QStringList(); // told in any case
+        if (!place.isValid())
+            unplaced += notOffered;
+        if (!place.isValid() || (IsHiddenItself(*control) && notOffered.isEmpty()))
             continue;
         if (const QVariant phrases = control->property(kPhrases); phrases.isValid())
             phrasesOf[place.toInt()] += phrases.toStringList();
@@ -138,6 +146,7 @@ QStringList WindowSummary(const QWidget& window)
             found[place.toInt()] += FactsOf(*view);
     }
     for (const auto& [place, facts] : found) {
+        unplaced.removeIf([&](const QString& fact) { return facts.contains(fact); });
         if (!facts.isEmpty())
             phrasesOf[place].prepend(facts.join(u", "_s));
     }
