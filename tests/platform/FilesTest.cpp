@@ -51,6 +51,8 @@ TEST_F(FilesTest, AreWrittenWholeAndCutToTheirLength)
     EXPECT_FALSE(WriteFile(path, "a long content"));
     EXPECT_FALSE(WriteFile(path, "short"));
     EXPECT_EQ(Content(path), "short");
+    EXPECT_FALSE(WriteFileInPlace(path, "tiny"));
+    EXPECT_EQ(Content(path), "tiny");
     EXPECT_FALSE(WriteFile(path, ""));
     EXPECT_EQ(Content(path), "");
 
