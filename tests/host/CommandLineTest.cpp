@@ -24,7 +24,7 @@ TEST(CommandLineTest, ReadsEveryOption)
                                             "-o",       "A=1 noB C='x y'", "-h",          "host:8631",
                                             "-s",       "--settings",      "in.plist",    "--save-settings=out.plist",
                                             "--panels", "One,Two",         "--no-dialog", "--",
-                                            "-odd.pdf"});
+                                            "-odd.pdf", "--odder.pdf"});
     ASSERT_TRUE(result.error.isEmpty());
     CommandLine expected;
     expected.queue = QStringLiteral("Kesta/draft");
@@ -40,7 +40,7 @@ TEST(CommandLineTest, ReadsEveryOption)
     expected.saveSettingsPath = QStringLiteral("out.plist");
     expected.panels = {QStringLiteral("One"), QStringLiteral("Two")};
     expected.noDialog = true;
-    expected.files = {"-odd.pdf"};
+    expected.files = {"-odd.pdf", "--odder.pdf"};
     EXPECT_EQ(result.commandLine, expected);
 
     const CommandLine other =

@@ -213,7 +213,7 @@ TEST_F(PrintingTest, SaysWhatIsMissing)
         {{u"-dNowhere"_s, QLatin1StringView(SAMPLE)}, "The printer or class does not exist"},
         {{u"-dPlain"_s, QLatin1StringView(SAMPLE)}, "not accepting"},
         {{QLatin1StringView(SAMPLE), u"/dev/null"_s}, "\"/dev/null\" is empty"},
-        {{u"/"_s}, "Is a directory"},
+        {{u"/"_s}, "unable to access \"/\" - Is a directory"},
         {{u"--settings"_s, QLatin1StringView(SAMPLE), QLatin1StringView(SAMPLE)}, "sample.pdf can’t be used: "},
         {{u"--settings"_s, u"/no/such"_s, QLatin1StringView(SAMPLE)}, "/no/such"},
         {{u"--save-settings"_s, u"/no/such/place"_s, QLatin1StringView(SAMPLE)}, "/no/such/place"},

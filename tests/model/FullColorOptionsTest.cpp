@@ -99,6 +99,8 @@ TEST(FullColorOptions, SettersRefuseWhatIsOutOfRange)
     EXPECT_EQ(options.setGrayImagesProfile(longest), noErr);
     EXPECT_EQ(options.setTrappingAdjustment(0, 20), noErr);
     EXPECT_EQ(options.setTrappingAdjustment(kUnset, kUnset), noErr);
+    EXPECT_EQ(options.setColorCast(1, 2, kUnset), noErr);
+    EXPECT_FALSE(options.asTicket().find("FCColorCast")) << "two make no cast";
     EXPECT_EQ(options.setColorCast(kUnset, -100, 100), noErr);
     EXPECT_EQ(options.setLightness(kUnset), noErr);
     EXPECT_EQ(options.setTRC({}), noErr);

@@ -51,6 +51,8 @@ TEST_F(FilesTest, AreWrittenWholeAndCutToTheirLength)
     EXPECT_FALSE(WriteFile(path, "a long content"));
     EXPECT_FALSE(WriteFile(path, "short"));
     EXPECT_EQ(Content(path), "short");
+    EXPECT_FALSE(WriteFileInPlace(path, "tiny"));
+    EXPECT_EQ(Content(path), "tiny");
     EXPECT_FALSE(WriteFile(path, ""));
     EXPECT_EQ(Content(path), "");
 
@@ -62,18 +64,19 @@ TEST_F(FilesTest, AreWrittenWholeAndCutToTheirLength)
 TEST_F(FilesTest, AFullDiskLeavesTheFileAsItWas)
 {
     ASSERT_FALSE(WriteFile(path, "the old content"));
-    const QString other = folder.filePath(QStringLiteral("new"));
-    std::optional<FileError> replaced, created;
+    const QString other = folder.filePath(QStringLiteral("new")), third = folder.filePath(QStringLiteral("third"));
+    std::optional<FileError> replaced, created, inPlace;
     {
         const test::SmallDisk disk(1000);
         replaced = WriteFile(path, QByteArray(5000, 'x'));
         created = WriteFile(other, QByteArray(5000, 'x'));
+        inPlace = WriteFileInPlace(third, QByteArray(5000, 'x'));
     }
-    ASSERT_TRUE(replaced && created);
+    ASSERT_TRUE(replaced && created && inPlace);
     EXPECT_EQ(replaced->code, EFBIG);
     EXPECT_TRUE(replaced->text.startsWith(path + QStringLiteral(": "))) << replaced->text.toStdString();
     EXPECT_EQ(Content(path), "the old content");
-    EXPECT_FALSE(QFile::exists(other));
+    EXPECT_FALSE(QFile::exists(other) || QFile::exists(third));
 }
 
 // From here on the program's file system reserves no room.

@@ -42,6 +42,17 @@ TEST(JobSettings, AreReadWholeAndWrittenAsTheSameBytes)
     EXPECT_EQ(PMSessionGetDataFromSession(session, kPMPageFormatTicket), restored.pageFormat.reference());
 }
 
+TEST(JobSettings, SecretsAreLeftOutAndNothingElse)
+{
+    JobTickets tickets, without;
+    FillTickets(tickets);
+    FillTickets(without);
+    tickets.printSettings.set("com.kesta.print", "stock",
+                              Dictionary{{"Size", Number::SInt32(204)}, {"Secret", "4711"}});
+    constexpr NestedEntry kSecrets[] = {{"options", "Secret"}, {"stock", "Secret"}, {"none", "Secret"}};
+    EXPECT_EQ(WriteJobSettings(tickets, kSecrets), WriteJobSettings(without));
+}
+
 TEST(JobSettings, AMissingEntryCountsAsEmpty)
 {
     JobTickets tickets;

@@ -165,7 +165,7 @@ TEST(PropertyList, RefusesOtherDocuments)
     for (const QByteArray& document :
          {QByteArray(), QByteArray("bplist00"), QByteArray("<html/>"), QByteArray("<plist><true/></plist><plist/>"),
           QByteArray("<plist><true/></plist>words"), QByteArray("<!DOCTYPE html><plist><true/></plist>"),
-          QByteArray("<!doctype plist><plist><true/></plist>"),
+          QByteArray("<!doctype plist><plist><true/></plist>"), QByteArray("<!DOCTYPE plist []><plist><true/></plist>"),
           QByteArray("<!DOCTYPE plist><!DOCTYPE plist []><plist><true/></plist>"), bomb, longDoctype,
           QByteArray("<plist><string>\xFF\xFE</string></plist>"),
           QByteArray("<plist><string>\0</string></plist>", 33)}) {

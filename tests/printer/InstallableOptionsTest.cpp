@@ -31,27 +31,6 @@ QStringList Installed()
     return sorted;
 }
 
-QString FittedFinisher(const char* finisher)
-{
-    const WithAccessories fitted(
-        {{"Option2", finisher}, {"Option4", "None"}, {"Option5", "False"}, {"Option8", "False"}});
-    return Installed().join(QLatin1Char(' '));
-}
-
-TEST(InstallableOptions, EachFinisherHasItsFeatures)
-{
-    EXPECT_EQ(FittedFinisher("None"), QStringLiteral("SimpleCatchTrayKey"));
-    EXPECT_EQ(FittedFinisher("OCT"), QStringLiteral("OCT"));
-    EXPECT_EQ(FittedFinisher("CClass"), QStringLiteral("DualStapleKey MultipleStapleKey SingleStapleKey"));
-    EXPECT_EQ(FittedFinisher("CClass_BK"),
-              QStringLiteral("BookletFoldKey DualStapleKey MultipleStapleKey SingleStapleKey"));
-    EXPECT_EQ(FittedFinisher("DClass"), QStringLiteral("BookletFoldKey DualStapleKey MultipleStapleKey "
-                                                       "PostPrintInserterKey SingleStapleKey ZFoldHalfSheetKey"));
-    EXPECT_EQ(FittedFinisher("DClass_BK"),
-              QStringLiteral("BookletFoldKey CFoldKey DualStapleKey MultipleStapleKey PostPrintInserterKey "
-                             "SingleStapleKey ZFoldHalfSheetKey ZFoldKey"));
-}
-
 TEST(InstallableOptions, TheFirstInstalledRowOfAFeatureAnswers)
 {
     const WithAccessories fitted({{"Option4", "HolePunch24"}});

@@ -19,6 +19,7 @@ TEST(TypedValueHistory, IsNewestFirstWithoutRepetitionsAndTenLong)
     for (int i = 12; i > 2; --i)
         expected.push_back(QString::number(i));
     EXPECT_EQ(TypedValueHistory(preferences, "names"), expected);
+    EXPECT_EQ(preferences.array("names")->size(), 10U) << "no more is kept, either";
 
     RememberTypedValue(preferences, "names", QStringLiteral("5"));
     const Texts history = TypedValueHistory(preferences, "names");

@@ -170,6 +170,9 @@ TEST(Separators, NoneHaveNoColor)
     EXPECT_EQ(SyncSeparatorsFromTicket(&ticket, option, stock), noErr);
     EXPECT_EQ(option, kSeparatorsNone);
     EXPECT_EQ(stock, Stock()) << "the colour is not looked at";
+    ticket.restore(key::SeparatorOption, Number::Index(7), "X"); // none that the dialog offers
+    EXPECT_EQ(SyncSeparatorsFromTicket(&ticket, option, stock), noErr);
+    EXPECT_EQ(option, kSeparatorsNone);
 }
 
 TEST(Separators, AMissingColorIsTheStatus)
