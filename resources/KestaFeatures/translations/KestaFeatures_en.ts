@@ -218,11 +218,6 @@
         <translation>banner sheet: %1</translation>
     </message>
     <message>
-        <source>Order In Summary</source>
-        <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
-        <translation>booklet image order: %1</translation>
-    </message>
-    <message>
         <source>Image Quality In Summary</source>
         <extracomment>In the window’s summary line. %1: what is chosen</extracomment>
         <translation>image quality: %1</translation>
