@@ -8,9 +8,9 @@ namespace kesta {
 
 bool CanBeTypedAtPrinter(const QString& passcode)
 {
-    static constexpr QLatin1StringView kCharacters(kPasscodeCharacters);
+    const QLatin1StringView allowed(kPasscodeCharacters);
     return passcode.size() <= kLongestPasscode &&
-           std::ranges::all_of(passcode, [](QChar c) { return kCharacters.contains(c); });
+           std::ranges::all_of(passcode, [allowed](QChar c) { return allowed.contains(c); });
 }
 
 PasscodeVerdict JudgeSecurePrintPasscode(const QString& passcode, const QString& confirmation)
