@@ -260,6 +260,8 @@ TEST(WatermarkMenuTest, ListsTheWatermarksBehindTheFirstItemAndMarksWhatIsChosen
     };
     EXPECT_EQ(marks({}), u"-x-|x-"_s) << "marked, but nothing to choose for";
     EXPECT_EQ(marks({.item = 2, .layer = kLayerForeground, .pages = kFirstPageOnly}), u"oox|ox edit delete"_s);
+    EXPECT_EQ(marks({.item = 2, .layer = kAllPages, .pages = kFirstPageOnly}), u"ooo|ox edit delete"_s)
+        << "of settings from elsewhere";
 
     WatermarkChoice choice;
     for (const SInt32 value : {kLayerBackground, kFirstPageOnly})
@@ -268,6 +270,8 @@ TEST(WatermarkMenuTest, ListsTheWatermarksBehindTheFirstItemAndMarksWhatIsChosen
     EXPECT_EQ(LayerSummary(bundle, choice), QString());
     choice.item = 2;
     EXPECT_EQ(LayerSummary(bundle, choice), u"Watermark On Page 1 WatermarkBackground"_s);
+    choice.layer = kAllPages;
+    EXPECT_EQ(LayerSummary(bundle, choice), u"Watermark On Page 1 4"_s);
 }
 
 } // namespace
