@@ -98,6 +98,7 @@ TEST_F(BookletWatermarkOptionsTest, ABookletForcesTheShortEdgeAndGivesTheSidesBa
     EXPECT_EQ(duplex(), 3);
     turn(kBookletLayoutOff);
     EXPECT_EQ(duplex(), 2);
+    EXPECT_EQ(previousSelection(), 0) << "nothing is left for another job";
     setDuplex(1);
     write();
     EXPECT_EQ(duplex(), 1) << "what the user picks later stands";
