@@ -45,24 +45,33 @@ The exit status is 0, or 1 after an error.
 
 constexpr double kPreviewResolution = 150; // pixels in an inch, of a PNG
 
+// A shared file may hold anything, but a terminal is not to be told by it what to do.
+QString Plain(QString text)
+{
+    for (QChar& character : text)
+        if (character.category() == QChar::Other_Control)
+            character = u' ';
+    return text;
+}
+
+QByteArray Line(const QString& text)
+{
+    return Plain(text).toUtf8() + '\n';
+}
+
+QString Said(const QString& text)
+{
+    return Plain(u"kesta-watermark: "_s + text);
+}
+
 Outcome Fail(const QString& reason)
 {
-    return {1, {}, {u"kesta-watermark: "_s + reason}};
+    return {1, {}, {Said(reason)}};
 }
 
 Outcome Misused()
 {
     return Fail(u"this is no command of it; see kesta-watermark --help"_s);
-}
-
-// A shared file may hold anything, but a terminal is not to be told by it what to do.
-QByteArray Line(const QString& text)
-{
-    QString line = text;
-    for (QChar& character : line)
-        if (character.category() == QChar::Other_Control)
-            character = u' ';
-    return line.toUtf8() + '\n';
 }
 
 QString Where()
@@ -208,7 +217,7 @@ Outcome Add(const Arguments& arguments)
     Outcome outcome = Save(made.record);
     if (outcome.status == 0 && made.record.isText != 0)
         for (const QString& note : TextNotes(made.record))
-            outcome.said << u"kesta-watermark: "_s + note;
+            outcome.said << Said(note);
     return outcome;
 }
 

@@ -1,6 +1,7 @@
 #include "host/dialog/ElidedText.h"
 
 #include <QEvent>
+#include <QTextDocument>
 
 namespace kesta::host {
 
@@ -24,7 +25,8 @@ void ElidedText::elide()
     const QString shown = label_.fontMetrics().elidedText(text_, Qt::ElideRight, label_.contentsRect().width());
     if (shown != label_.text())
         label_.setText(shown);
-    label_.setToolTip(shown == text_ ? QString() : text_);
+    const QString tip = Qt::mightBeRichText(text_) ? Qt::convertFromPlainText(text_) : text_; // names are no markup
+    label_.setToolTip(shown == text_ ? QString() : tip);
 }
 
 bool ElidedText::eventFilter(QObject*, QEvent* event)

@@ -72,7 +72,8 @@ QStringList Sentences(const _BookletWatermarkContext& panel)
     if (watermark.item == kNoWatermarkItem || panel.isPreviewDue)
         return {};
     _WatermarkData record;
-    loadWatermarkData(kWatermarkFile, SelectedName(panel), record);
+    if (!loadWatermarkData(kWatermarkFile, SelectedName(panel), record))
+        return {LocalizedFormat(*panel.bundle, "Watermark Not Here", {SelectedName(panel)})};
     const bool isUnkept = panel.options.fontProblem == FontProblem::NotStored;
     return WatermarkSentences(*panel.bundle, record, panel.notes,
                               isUnkept ? FontProblem::NotStored : panel.fontProblem);
@@ -159,11 +160,14 @@ void renderWatermark(_BookletWatermarkContext& panel)
     panel.fontProblem = FontProblem::None;
     if (!panel.preview)
         return;
-    const DrawingLibrary& drawing = GetDrawingLibrary();
+    panel.preview->clear();
     const QString name = SelectedName(panel);
+    if (name.isEmpty()) // the page is white without anybody's help; see DrawingLibrary.h
+        return;
+    const DrawingLibrary& drawing = GetDrawingLibrary();
     panel.notes = drawing.renderSavedWatermark(kWatermarkFile, name, panel.page, *panel.preview);
     _WatermarkData record;
-    if (!name.isEmpty() && loadWatermarkData(kWatermarkFile, name, record) && record.isText)
+    if (loadWatermarkData(kWatermarkFile, name, record) && record.isText)
         panel.fontProblem = drawing.CheckFont(record).problem;
 }
 

@@ -40,6 +40,13 @@ void Choose(_BookletWatermarkContext& panel, const QString& name)
     panel.options.watermark.missing.clear();
 }
 
+void SayGone(_BookletWatermarkContext& panel, const QString& name)
+{
+    listOfWatermarks().removeAll(name);
+    Choose(panel, {});
+    Say(*panel.bundle, "Watermark Gone Header", "Watermark Gone Message", name);
+}
+
 // OK in the editor: whether the record may be saved under its name. Another watermark of that name is only replaced
 // when the user says so.
 bool MaySave(const Bundle& bundle, const _WatermarkData& record, const QString& oldName)
@@ -85,6 +92,8 @@ void EditSelected(_BookletWatermarkContext& panel, const QString& name)
     _WatermarkData record;
     if (loadWatermarkData(kWatermarkFile, name, record))
         Edit(panel, record, name);
+    else // listed, but without a record, as where the whole store is gone
+        SayGone(panel, name);
 }
 
 void DeleteSelected(_BookletWatermarkContext& panel, const QString& name)
@@ -102,11 +111,8 @@ void RunOnWatermark(_BookletWatermarkContext& panel, const CommandEvent& chosen,
 {
     if (name.isEmpty())
         return;
-    if (!listOfWatermarks().contains(name)) {
-        Choose(panel, {});
-        Say(*panel.bundle, "Watermark Gone Header", "Watermark Gone Message", name);
-        return;
-    }
+    if (!listOfWatermarks().contains(name))
+        return SayGone(panel, name);
     Choose(panel, name);
     if (chosen.command == kEditCommand)
         EditSelected(panel, name);

@@ -27,9 +27,20 @@ std::vector<MenuItem> ItemsOf(const QStringList& names)
     return items;
 }
 
+bool IsPages(SInt32 value)
+{
+    return value == kAllPages || value == kFirstPageOnly;
+}
+
+// A layer of settings from elsewhere may be any number.
 bool Stands(const WatermarkChoice& choice, SInt32 value)
 {
-    return value == choice.layer || value == choice.pages;
+    return value == (IsPages(value) ? choice.pages : choice.layer);
+}
+
+bool IsLayer(SInt32 value)
+{
+    return value >= kLayerBackground && value <= kLayerForeground;
 }
 
 } // namespace
@@ -74,14 +85,14 @@ void MarkWatermarkMenu(Menu& menu, const WatermarkChoice& choice)
 
 void ChooseLayerOrPages(WatermarkChoice& choice, SInt32 value)
 {
-    (value == kAllPages || value == kFirstPageOnly ? choice.pages : choice.layer) = value;
+    (IsPages(value) ? choice.pages : choice.layer) = value;
 }
 
 QString LayerSummary(const Bundle& bundle, const WatermarkChoice& choice)
 {
     if (choice.item == kNoWatermarkItem)
         return {};
-    const char* layer = LocalizedKeyForTicketValue(WatermarkOptionsMap, choice.layer);
+    const char* layer = IsLayer(choice.layer) ? LocalizedKeyForTicketValue(WatermarkOptionsMap, choice.layer) : nullptr;
     const QString layerText = layer ? LocalizedString(bundle, layer) : QString::number(choice.layer);
     const char* format = choice.pages == kFirstPageOnly ? "Watermark On Page 1" : "Watermark On All Pages";
     return LocalizedFormat(bundle, format, {layerText});

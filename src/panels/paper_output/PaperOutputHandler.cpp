@@ -7,6 +7,7 @@
 #include "panels/paper_output/SavedJob.h"
 #include "panels/paper_output/SecurePrint.h"
 #include "panels/special_pages/paper/SeparatorsDialog.h"
+#include "pde/interface/PanelChoice.h"
 #include "pde/interface/TicketKeys.h"
 #include "pde/ticket/TicketUtilities.h"
 #include "toolkit/controls/Controls.h"
@@ -58,6 +59,7 @@ void FollowBooklet(_PaperOutputContext& panel)
             ChangeFinishingMenus(panel, [&](Menu& menu) { EnableFinishingItems(menu, *settings); });
     }
     ShowTwoSided(panel);
+    SendControlEvent(*panel.pane, CommandEvent{.command = kCommandOthersRead});
 }
 
 void CreateBooklet(_PaperOutputContext& panel)

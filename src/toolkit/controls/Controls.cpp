@@ -130,6 +130,7 @@ void SetControlText(QWidget* control, const QString& text)
         QWidget* named = label->buddy();
         if (named && named->accessibleName() == WithoutMnemonic(label->text()))
             named->setAccessibleName(WithoutMnemonic(text));
+        label->setTextFormat(Qt::PlainText); // it may hold names from elsewhere, which are no markup
         label->setText(text);
     } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
         button->setText(text);

@@ -101,6 +101,7 @@ TEST_F(BookletDialogTest, CancelLeavesAllAsItWas)
     user.then([](QWidget& window) {
         for (const Control number : {kFoldNoneRadio, kFoldRadio, kFoldAndStapleRadio})
             EXPECT_FALSE(get(window, number).isChecked()) << number;
+        EXPECT_TRUE(get<QLabel>(window, kWithoutLayoutHint).text().isEmpty()) << "no booklet's fold";
         get(window, kLayoutOnRadio).click();
         cancel(window);
     });

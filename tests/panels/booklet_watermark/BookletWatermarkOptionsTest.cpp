@@ -98,6 +98,7 @@ TEST_F(BookletWatermarkOptionsTest, ABookletForcesTheShortEdgeAndGivesTheSidesBa
     EXPECT_EQ(duplex(), 3);
     turn(kBookletLayoutOff);
     EXPECT_EQ(duplex(), 2);
+    EXPECT_EQ(previousSelection(), 0) << "nothing is left for another job";
     setDuplex(1);
     write();
     EXPECT_EQ(duplex(), 1) << "what the user picks later stands";
@@ -260,6 +261,8 @@ TEST(WatermarkMenuTest, ListsTheWatermarksBehindTheFirstItemAndMarksWhatIsChosen
     };
     EXPECT_EQ(marks({}), u"-x-|x-"_s) << "marked, but nothing to choose for";
     EXPECT_EQ(marks({.item = 2, .layer = kLayerForeground, .pages = kFirstPageOnly}), u"oox|ox edit delete"_s);
+    EXPECT_EQ(marks({.item = 2, .layer = kAllPages, .pages = kFirstPageOnly}), u"ooo|ox edit delete"_s)
+        << "of settings from elsewhere";
 
     WatermarkChoice choice;
     for (const SInt32 value : {kLayerBackground, kFirstPageOnly})
@@ -268,6 +271,8 @@ TEST(WatermarkMenuTest, ListsTheWatermarksBehindTheFirstItemAndMarksWhatIsChosen
     EXPECT_EQ(LayerSummary(bundle, choice), QString());
     choice.item = 2;
     EXPECT_EQ(LayerSummary(bundle, choice), u"Watermark On Page 1 WatermarkBackground"_s);
+    choice.layer = kAllPages;
+    EXPECT_EQ(LayerSummary(bundle, choice), u"Watermark On Page 1 4"_s);
 }
 
 } // namespace

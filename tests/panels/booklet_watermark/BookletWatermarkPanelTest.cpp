@@ -8,6 +8,7 @@
 #include "pde/menus/MenuUtilities.h"
 #include "printer/FinishingKinds.h"
 
+#include <QDir>
 #include <QImage>
 #include <QPixmap>
 #include <QPushButton>
@@ -146,9 +147,10 @@ TEST_F(BookletWatermarkPanelTest, ThePreviewShowsTheWatermarkAndSaysWhatIsDiffer
     ASSERT_EQ(sync(true), noErr);
     EXPECT_NE(look(), blank) << "the page lies now";
 
-    ticket.set(kPrintingManagerClient, key::WatermarkName, "Secret");
+    ticket.set(kPrintingManagerClient, key::WatermarkName, "<b>Secret</b>");
     ASSERT_EQ(sync(true), noErr);
-    EXPECT_EQ(textOf(kNote), u"Watermark Not Here Secret"_s);
+    EXPECT_EQ(textOf(kNote), u"Watermark Not Here <b>Secret</b>"_s);
+    EXPECT_EQ(control(kNote)->property("textFormat").toInt(), Qt::PlainText) << "a name is no markup";
 }
 
 TEST_F(BookletWatermarkPanelTest, NewWatermarksJoinTheMenuAndASecondOfANameAsksFirst)
@@ -230,6 +232,21 @@ TEST_F(BookletWatermarkPanelTest, AWatermarkThatSomebodyElseRemovedLeavesTheMenu
     EXPECT_TRUE(watermarks()->chooseItem(5, 1)) << "its layer";
     EXPECT_EQ(notices.messages.last(), u"Watermark Gone Message ConfidentialWatermark"_s);
     EXPECT_EQ(chosen(), u"NoWatermark"_s);
+}
+
+TEST_F(BookletWatermarkPanelTest, WithoutTheStoreEachUseOfAWatermarkSaysThatItIsGone)
+{
+    open();
+    EXPECT_TRUE(QDir(store.folder.path()).removeRecursively());
+    EXPECT_TRUE(PickCommand(watermarks(), kSavedWatermarkCommand));
+    look();
+    EXPECT_EQ(textOf(kNote), u"Watermark Not Here DraftWatermark"_s);
+    ASSERT_EQ(sync(false), noErr);
+    EXPECT_FALSE(ticket.values().find(key::WatermarkSubsetFontName));
+    EXPECT_TRUE(PickCommand(watermarks(), kEditCommand));
+    EXPECT_EQ(notices.messages, QStringList{u"Watermark Gone Message DraftWatermark"_s});
+    EXPECT_EQ(chosen(), u"NoWatermark"_s);
+    EXPECT_EQ(watermarks()->menu().items[1].title, u"ConfidentialWatermark"_s);
 }
 
 TEST_F(BookletWatermarkPanelTest, OnesOwnWatermarksAreOfferedWhenThePanelIsFirstSeen)

@@ -234,6 +234,21 @@ TEST_F(WatermarkDrawing, OnlyAStoreThatIsNamedIsWrittenAndOnlyWhenSomethingChang
     EXPECT_TRUE(buffer.content().startsWith("%PDF-") && buffer.content() != first);
 }
 
+TEST_F(WatermarkDrawing, ARecordUnderAnotherNameReplacesNothing)
+{
+    saveWatermarkData(kWatermarkFile, Text(u"WatermarkListEntries"_s));
+    ASSERT_EQ(ChangeXMLData(kWatermarkFile, WhenUnreadable::DoNothing,
+                            [](Dictionary& root) {
+                                root.set("Draft", *root.dictionary(kWatermarkListKey));
+                                root.set(kWatermarkListKey, Array{QStringLiteral("Draft")});
+                            }),
+              0);
+    PreviewBuffer buffer;
+    renderSavedWatermark(kWatermarkFile, u"Draft"_s, kLetter, buffer);
+    EXPECT_FALSE(convertFont(kWatermarkFile, u"Draft"_s).subsetName.isEmpty());
+    EXPECT_EQ(loadWatermarkList(kWatermarkFile), QStringList{u"Draft"_s});
+}
+
 TEST_F(WatermarkDrawing, ABufferGrowsByDoublingAndIsReadUpToItsLastByte)
 {
     PreviewBuffer buffer(8);

@@ -69,6 +69,12 @@ TEST_F(WatermarkListTest, ANewStoreGetsTheThreeOfTheLanguage)
     LoadWatermarks(bundle);
     EXPECT_EQ(listOfWatermarks(), QStringList{u"CopyWatermark"_s}) << "a first name without a record";
     EXPECT_EQ(loadWatermarkList(kWatermarkFile)->size(), 2) << "which the store keeps";
+    _WatermarkData picture;
+    picture.fileName.set(u"logo.png"_s);
+    saveWatermarkData(kWatermarkFile, picture);
+    saveWatermarkList(kWatermarkFile, QStringList{u"logo.png"_s});
+    LoadWatermarks(bundle);
+    EXPECT_EQ(listOfWatermarks(), QStringList{u"logo.png"_s}) << "a picture is no empty one";
     saveWatermarkList(kWatermarkFile, QStringList());
     LoadWatermarks(bundle);
     EXPECT_TRUE(listOfWatermarks().isEmpty()) << "an empty list is a list";

@@ -143,6 +143,16 @@ TEST_F(WatermarkTool, PreviewsLeaveTheStoreAsItIs)
     EXPECT_EQ(test::FileBytes(storePath()), before);
 }
 
+TEST_F(WatermarkTool, WhatAFileHoldsIsNoCommandToTheTerminal)
+{
+    _WatermarkData record;
+    record.fileName.set(u"logo.png"_s);
+    record.filePath.set(u"/nowhere/\u009b2J\nlogo.png"_s);
+    saveWatermarkData(kWatermarkFile, record);
+    EXPECT_EQ(failure({u"preview"_s, u"logo.png"_s, u"-o"_s, at("a.pdf")}),
+              "kesta-watermark: /nowhere/ 2J logo.png can't be opened");
+}
+
 // Changes at the same moment may undo each other; what is there stays whole, and a change later on finds it.
 TEST_F(WatermarkTool, ProgramsThatEditAtOnceLeaveAWholeStore)
 {

@@ -153,7 +153,7 @@ Booklet AsShown(const BookletWindow& dialog, const Booklet& before)
 // Sheets can be folded, and stapled in the fold, without becoming a booklet: whoever expects one reads why.
 void ShowFoldHint(const BookletWindow& dialog, const Bundle& bundle, const Booklet& shown)
 {
-    const bool foldsOnly = !shown.isOn() && shown.fold != kNotFinished;
+    const bool foldsOnly = !shown.isOn() && (shown.fold == kFoldBi || shown.fold == kFoldBiStaple);
     SetControlText(dialog.control(kWithoutLayoutHint),
                    foldsOnly ? LocalizedString(bundle, "Fold Without Layout Hint") : QString());
 }

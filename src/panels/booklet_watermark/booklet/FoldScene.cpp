@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
+
 namespace kesta {
 namespace {
 
@@ -27,7 +29,7 @@ struct SheetPlace {
 SheetPlace PlaceOfSheet(int sheet, const Booklet& booklet)
 {
     const double halfHeight = (kSheets - sheet - 0.5) * kDistance;
-    const double shift = kGreatestShift * booklet.creep / kGreatestCreep;
+    const double shift = kGreatestShift * std::clamp(booklet.creep, 0, kGreatestCreep) / kGreatestCreep;
     return {halfHeight, kFold + kDistance * sheet * 0.5 + halfHeight, kEdgeOfOutermost + sheet * shift};
 }
 
@@ -57,7 +59,7 @@ void DrawFoldScene(QPainter& painter, const QRect& bounds, const Booklet& bookle
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(isEnabled ? 1 : kDisabledPictureOpacity);
     painter.translate(bounds.topLeft());
-    const double room = kGreatestRoom * booklet.gutter / kGreatestGutter;
+    const double room = kGreatestRoom * std::clamp(booklet.gutter, 0, kGreatestGutter) / kGreatestGutter;
     for (int sheet = 0; sheet < kSheets; ++sheet) {
         const SheetPlace place = PlaceOfSheet(sheet, booklet);
         painter.setPen(QPen(kSheetColor, 1.5));

@@ -25,14 +25,16 @@ FontProblem ProblemOf(Sendability sendability)
 }
 
 // The driver shows the glyphs that the record has.
-void BringUpToDate(QAnyStringView storeFile, _WatermarkData& record, const std::vector<PlacedGlyph>& line)
+void BringUpToDate(QAnyStringView storeFile, const QString& name, _WatermarkData& record,
+                   const std::vector<PlacedGlyph>& line)
 {
     std::vector<std::uint16_t> glyphs(line.size());
     std::ranges::transform(line, glyphs.begin(), &PlacedGlyph::glyph);
     if (record.glyphs == glyphs)
         return;
     record.glyphs = std::move(glyphs);
-    saveWatermarkData(storeFile, record);
+    if (NameOf(record) == name) // or it would replace another entry of a damaged store
+        saveWatermarkData(storeFile, record);
 }
 
 bool StoreFont(QAnyStringView storeFile, const QString& key, const QByteArray& program)
@@ -82,7 +84,7 @@ ConvertedFont convertFont(QAnyStringView storeFile, const QString& name)
     converted.problem = ProblemOf(font.typeface->sendability());
     if (converted.problem != FontProblem::None)
         return converted;
-    BringUpToDate(storeFile, record, font.line.glyphs);
+    BringUpToDate(storeFile, name, record, font.line.glyphs);
     const QByteArray program = MakeFontProgram(*font.typeface, font.line.glyphs);
     const QString key = SubsetFontName(font.typeface->file().postScriptName);
     if (program.isEmpty())

@@ -90,7 +90,8 @@ WatermarkNotes renderSavedWatermark(QAnyStringView storeFile, const QString& nam
         loadWatermarkData(storeFile, name, record);
     const _WatermarkData stored = record;
     const WatermarkNotes notes = renderWatermark(record, page, buffer);
-    if (record != stored) // or its bytes would be the same
+    const bool isOwnName = NameOf(record) == name; // in a damaged store it may be another watermark's, or the list's
+    if (isOwnName && record != stored)             // or its bytes would be the same
         saveWatermarkData(storeFile, record);
     return notes;
 }
