@@ -99,9 +99,9 @@ TEST(SettingsMerge, ASizeByItsOtherNameTakesThePlaceOfTheSavedOne)
     EXPECT_FALSE(IsTaken({u"media"_s, u"A4,Upper"_s}, printer)) << "the tray is for the print server";
     EXPECT_FALSE(IsTaken({u"media"_s, u"A4"_s}, Printer()));
 
-    JobOptions options{{u"media"_s, u"Letter,Upper"_s}, {u"PageSize"_s, u"A4"_s}};
+    JobOptions options{{u"media"_s, u"Letter,a5, Upper"_s}, {u"PageSize"_s, u"A4"_s}};
     AlignMedia(options);
-    EXPECT_EQ(FindJobOption(options, "media"), u"Upper"_s);
+    EXPECT_EQ(FindJobOption(options, "media"), u" Upper"_s);
     SetJobOption(options, "media", u"na_letter_8.5x11in"_s);
     AlignMedia(options);
     EXPECT_EQ(FindJobOption(options, "media"), std::nullopt);

@@ -30,8 +30,10 @@ QString SizeNamed(const QString& name, const PrinterFacts& printer)
 // Of any printer; trays and kinds of paper are none.
 bool IsSizeName(const QString& name)
 {
-    const QByteArray utf8 = name.trimmed().toUtf8();
-    return pwgMediaForPWG(utf8.constData()) || pwgMediaForPPD(utf8.constData()) || pwgMediaForLegacy(utf8.constData());
+    const QString trimmed = name.trimmed();
+    const QByteArray utf8 = trimmed.toUtf8();
+    const QByteArray ppd = (trimmed.left(1).toUpper() + trimmed.mid(1)).toUtf8(); // "a4" is read as "A4"
+    return pwgMediaForPWG(utf8.constData()) || pwgMediaForPPD(ppd.constData()) || pwgMediaForLegacy(utf8.constData());
 }
 
 } // namespace
