@@ -1,5 +1,7 @@
 #include "host/job/SettingsMerge.h"
 
+#include "host/job/JobPromises.h"
+#include "host/job/MediaOption.h"
 #include "host/job/TwoSided.h"
 #include "pde/interface/TicketKeys.h"
 
@@ -76,6 +78,48 @@ TEST(SettingsMerge, FieldsAreAllThatAPlainPrinterGets)
     EXPECT_TRUE(ReadTickets(plain.printSettings, plain.pageFormat) ==
                 ReadTickets(tickets.printSettings, tickets.pageFormat));
     EXPECT_FALSE(plain.printSettings.values().find(key::FaxOptions));
+}
+
+TEST(SettingsMerge, ASizeByItsOtherNameTakesThePlaceOfTheSavedOne)
+{
+    PrinterFacts printer = Printer();
+    printer.choices[u"PageSize"_s] = {u"A4"_s, u"Letter"_s};
+    const auto sizeWith = [&](const QString& media) {
+        JobTickets tickets;
+        tickets.printSettings.ppdDict().set("PageSize", "Letter");
+        MergeSettings({.queueDefaults = {{u"media"_s, u"A4"_s}}, .commandLine = {{u"media"_s, media}}}, printer,
+                      tickets);
+        return *tickets.printSettings.ppdDict().string("PageSize");
+    };
+    EXPECT_EQ(sizeWith(u"a4"_s), u"A4"_s);
+    EXPECT_EQ(sizeWith(u"Upper, iso_a4_210x297mm"_s), u"A4"_s);
+    EXPECT_EQ(sizeWith(u"iso_a3_297x420mm"_s), u"Letter"_s);
+    EXPECT_EQ(sizeWith(u"Upper"_s), u"Letter"_s) << "nor does a default take the place of what was saved";
+    EXPECT_TRUE(IsTaken({u"media"_s, u"A4"_s}, printer));
+    EXPECT_FALSE(IsTaken({u"media"_s, u"A4,Upper"_s}, printer)) << "the tray is for the print server";
+    EXPECT_FALSE(IsTaken({u"media"_s, u"A4"_s}, Printer()));
+
+    JobOptions options{{u"media"_s, u"Letter,a5, Upper"_s}, {u"PageSize"_s, u"A4"_s}};
+    AlignMedia(options);
+    EXPECT_EQ(FindJobOption(options, "media"), u" Upper"_s);
+    SetJobOption(options, "media", u"na_letter_8.5x11in"_s);
+    AlignMedia(options);
+    EXPECT_EQ(FindJobOption(options, "media"), std::nullopt);
+}
+
+TEST(JobPromises, APasscodeThatNobodyCanTypeIsNone)
+{
+    const auto isMissing = [](const char* passcode) {
+        Ticket settings;
+        settings.set("x", key::JobType,
+                     Dictionary{{key::JobTypeNumber, Number::Index(kJobTypeSecurePrint)},
+                                {key::JobTypeSecurePrintPassword, passcode}});
+        return MissingFor(settings).has_value();
+    };
+    EXPECT_FALSE(isMissing("8642"));
+    EXPECT_FALSE(isMissing("0123456789"));
+    for (const char* passcode : {"", "open sesame", "01234567890"})
+        EXPECT_TRUE(isMissing(passcode)) << passcode;
 }
 
 // What the print server's filters do with both, and what an earlier source's word must not undo.

@@ -3,6 +3,8 @@
 #include "support/TestTexts.h"
 #include "toolkit/controls/MenuButton.h"
 #include "toolkit/controls/PopupButton.h"
+#include "toolkit/controls/SliderField.h"
+#include "toolkit/controls/SpinField.h"
 #include "toolkit/controls/SummaryTextView.h"
 
 #include <gtest/gtest.h>
@@ -68,6 +70,40 @@ TEST(WindowSummary, NamesWhatIsNotOffered)
     EXPECT_EQ(popup->selectedItem()->value, 7);
     EXPECT_EQ(popup->menu().count(), 2) << "it can't be chosen anew";
     EXPECT_TRUE(FindNotOffered(window).empty());
+}
+
+TEST(WindowSummary, NamesNumbersBeyondTheLimitsAndItemsOfSubmenus)
+{
+    QWidget window;
+    auto* slider = new SliderField(&window);
+    slider->setMaximum(100);
+    slider->setAccessibleName(u"Lightness"_s);
+    slider->nameParts();
+    slider->setNumber(250);
+    auto* paper = new MenuButton(&window);
+    const MenuItem teal{.title = u"Teal, not here"_s, .value = 2, .checked = true, .notOffered = true, .instead = 1};
+    const MenuItem white{.title = u"White"_s, .command = "Sclr"_code, .value = 1};
+    paper->setMenu({.items = {{.title = u"Size"_s}, {.title = u"Color"_s, .submenu = {white, teal}}}});
+    paper->setAccessibleName(u"Paper"_s);
+    EXPECT_EQ(WindowSummary(window), (QStringList{WithCaution(u"Lightness 250"_s), WithCaution(u"Teal, not here"_s)}));
+
+    const std::vector<NotOffered> found = FindNotOffered(window);
+    ASSERT_EQ(found.size(), 2U);
+    EXPECT_EQ(found[0].label + found[0].shown + found[0].instead, u"PaperTeal, not hereWhite"_s);
+    EXPECT_EQ(found[1].label + found[1].shown + found[1].instead, u"Lightness250100"_s);
+    SInt32 lightness = 0, color = 0;
+    const EventHandler moved = InstallEventHandler(*slider, [&](const HitEvent& hit) {
+        lightness = hit.value;
+        return EventResult::Handled;
+    });
+    const EventHandler chosen = InstallEventHandler(*paper, [&](const CommandEvent& command) {
+        color = command.ticketValue;
+        return EventResult::Handled;
+    });
+    ReplaceNotOffered(window);
+    EXPECT_EQ(lightness, 100);
+    EXPECT_EQ(slider->field().text(), u"100"_s);
+    EXPECT_EQ(color, 1);
 }
 
 TEST(WindowSummary, TellsOfAMenuOnceWhatASummaryTellsToo)

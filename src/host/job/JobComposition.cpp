@@ -1,5 +1,6 @@
 #include "host/job/JobComposition.h"
 
+#include "host/job/MediaOption.h"
 #include "host/job/SealedTicket.h"
 #include "host/job/TwoSided.h"
 
@@ -85,6 +86,7 @@ ComposedOptions ComposeJobOptions(const JobSources& sources)
     if (fault)
         return {{}, *fault};
     AlignSides(composed.options);
+    AlignMedia(composed.options);
     AddFields(composed.options, sources.fields);
     if (const auto problem = TicketReaderProblem(sources.reader))
         return {{}, *problem};

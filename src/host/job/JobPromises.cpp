@@ -33,6 +33,14 @@ std::optional<SInt32> TypeOf(const Ticket& printSettings)
     return number ? number->as<SInt32>() : std::nullopt;
 }
 
+// Nobody can type another one at a printer; the dialog has it typed anew.
+bool CanBeFetchedWith(const QString& passcode)
+{
+    constexpr int kMostDigits = 10;
+    return !passcode.isEmpty() && passcode.size() <= kMostDigits &&
+           std::ranges::all_of(passcode, [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
 } // namespace
 
 std::optional<JobPromise> PromiseOf(const Ticket& printSettings)
@@ -46,7 +54,7 @@ std::optional<Message> MissingFor(const Ticket& printSettings)
 {
     if (TypeOf(printSettings) == kJobTypeSecurePrint) {
         const QString* passcode = EntriesOf(printSettings)->string(key::JobTypeSecurePrintPassword);
-        return passcode && !passcode->isEmpty() ? std::nullopt : std::optional(Say("Passcode Missing"));
+        return passcode && CanBeFetchedWith(*passcode) ? std::nullopt : std::optional(Say("Passcode Missing"));
     }
     const Array* recipients = printSettings.values().array(key::FaxRecipientList);
     if (IsFax(printSettings) && (!recipients || recipients->empty()))

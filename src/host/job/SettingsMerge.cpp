@@ -1,5 +1,6 @@
 #include "host/job/SettingsMerge.h"
 
+#include "host/job/MediaOption.h"
 #include "host/job/PageRanges.h"
 #include "host/job/TwoSided.h"
 #include "pde/interface/TicketKeys.h"
@@ -113,8 +114,8 @@ void MergeSettings(const SettingSources& sources, const PrinterFacts& printer, J
 {
     Ticket& settings = tickets.printSettings;
     const std::optional<SInt32> duplexing = MergedDuplexing(sources, settings);
-    PresetChoices(sources.queueDefaults, printer, Preset::Fills, settings.ppdDict());
-    PresetChoices(sources.commandLine, printer, Preset::Prevails, settings.ppdDict());
+    PresetChoices(WithPageSize(sources.queueDefaults, printer), printer, Preset::Fills, settings.ppdDict());
+    PresetChoices(WithPageSize(sources.commandLine, printer), printer, Preset::Prevails, settings.ppdDict());
     if (!duplexing)
         return;
     if (printer.offers(kDuplexOption, ChoiceOfDuplexing(*duplexing)))
@@ -126,7 +127,7 @@ bool IsTaken(const JobOption& option, const PrinterFacts& printer)
 {
     if (const std::optional<SInt32> duplexing = DuplexingOf(JobOptions{option}))
         return printer.offers(kDuplexOption, ChoiceOfDuplexing(*duplexing));
-    return printer.offers(option.name, option.value);
+    return printer.offers(option.name, option.value) || IsPageSizeAlone(option, printer);
 }
 
 JobOptions OptionsOutsideDialog(const JobOptions& options, const PrinterFacts& printer)
@@ -145,10 +146,10 @@ Dictionary PrintersOwnChoices(const SettingSources& sources, const PrinterFacts&
     Dictionary own;
     for (const auto& [keyword, choice] : printer.defaults)
         own.set(keyword, choice);
-    PresetChoices(sources.queueDefaults, printer, Preset::Prevails, own);
+    PresetChoices(WithPageSize(sources.queueDefaults, printer), printer, Preset::Prevails, own);
     if (const auto duplexing = DuplexingOf(sources.queueDefaults); duplexing && own.find(kDuplexOption))
         own.set(kDuplexOption, ChoiceOfDuplexing(*duplexing));
-    for (const JobOption& option : sources.commandLine)
+    for (const JobOption& option : WithPageSize(sources.commandLine, printer))
         own.remove(option.name);
     for (const auto& [keyword, choice] : settings.ppdDict())
         own.remove(keyword);

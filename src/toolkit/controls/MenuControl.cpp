@@ -101,24 +101,42 @@ bool MenuControl::chooseItem(const MenuPath& path)
     return alive && chooseFromOpenMenu(path);
 }
 
-std::vector<MenuItem> MenuControl::shownNotOffered() const
+void MenuControl::findNotOffered(const std::vector<MenuItem>& items, MenuPath path, std::vector<MenuPath>& found) const
 {
-    std::vector<MenuItem> shown;
-    int position = 0;
-    for (const MenuItem& item : menu_.items) {
-        if (isMarked(++position, item) && item.notOffered)
-            shown.push_back(item);
+    const bool isTop = path.empty();
+    path.push_back(0);
+    for (const MenuItem& item : items) {
+        ++path.back();
+        if (item.notOffered && (isTop ? isMarked(path.back(), item) : item.checked))
+            found.push_back(path);
+        findNotOffered(item.submenu, path, found);
     }
-    return shown;
+}
+
+std::vector<MenuPath> MenuControl::shownNotOffered() const
+{
+    std::vector<MenuPath> found;
+    findNotOffered(menu_.items, {}, found);
+    return found;
+}
+
+MenuPath MenuControl::insteadOf(const MenuPath& shown) const
+{
+    const MenuItem* item = itemAt(shown);
+    MenuPath instead = shown;
+    instead.back() = item ? item->instead : 0;
+    return instead;
 }
 
 void MenuControl::chooseInstead()
 {
     const QPointer<MenuControl> alive = this;
-    for (const MenuItem& shown : shownNotOffered()) {
-        const MenuItem* instead = alive ? itemAt({shown.instead}) : nullptr;
-        if (instead)
-            sendChosen({shown.instead}, MenuItem(*instead));
+    for (const MenuPath& shown : shownNotOffered()) {
+        if (!alive)
+            return;
+        const MenuPath path = insteadOf(shown);
+        if (const MenuItem* instead = itemAt(path))
+            sendChosen(path, MenuItem(*instead));
     }
 }
 

@@ -29,9 +29,10 @@ public:
     bool chooseItem(const MenuPath& path);
     bool chooseItem(int position, int submenuPosition = 0);
 
-    // What the control shows and does not offer, and the way to what takes its place, as if the user had chosen it,
-    // also while the control is hidden with its panel.
-    std::vector<MenuItem> shownNotOffered() const;
+    // The ways to what the control shows and does not offer, and to what takes its place in the same menu; choosing
+    // that as the user would, also while the control is hidden with its panel.
+    std::vector<MenuPath> shownNotOffered() const;
+    MenuPath insteadOf(const MenuPath& shown) const;
     void chooseInstead();
 
     // Null when the path leads to no item or through a disabled submenu.
@@ -51,6 +52,7 @@ protected:
 
 private:
     void addActions(QMenu& shown, const std::vector<MenuItem>& items, const MenuPath& owner);
+    void findNotOffered(const std::vector<MenuItem>& items, MenuPath path, std::vector<MenuPath>& found) const;
     void forgetMouse();
     bool chooseFromOpenMenu(const MenuPath& path);
 

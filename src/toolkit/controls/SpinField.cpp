@@ -159,6 +159,19 @@ SInt32 SpinField::nearestStep(SInt32 number) const
     return std::clamp(number, limits.least, limits.most);
 }
 
+QString SpinField::nearestText() const
+{
+    return prefix() + QDoubleSpinBox::textFromValue(toShown(nearestStep(number()))) + suffix();
+}
+
+void SpinField::takeNearest()
+{
+    const SInt32 before = number();
+    setNumber(nearestStep(before));
+    lastNumber_ = before;
+    sendHit();
+}
+
 // From beyond the limits the first step is to the nearest of them.
 void SpinField::stepBy(int steps)
 {

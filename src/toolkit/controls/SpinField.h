@@ -31,6 +31,11 @@ public:
     SInt32 number() const;
     void setNumber(SInt32 number); // sends nothing; kUnset, where it may not be empty, is brought within the limits
 
+    bool isBeyondLimits() const { return foreign_.has_value(); }
+    // The number at the limit, as text; and taking it, as if the user had stepped there.
+    QString nearestText() const;
+    void takeNearest();
+
     QString emptyText() const;
     void setEmptyText(const QString& text); // an empty one: never empty
 

@@ -3,6 +3,7 @@
 #include "platform/plugins/Sentence.h"
 #include "toolkit/controls/Controls.h"
 #include "toolkit/controls/PopupButton.h"
+#include "toolkit/controls/SpinField.h"
 #include "toolkit/controls/SummaryTextView.h"
 
 #include <QPointer>
@@ -65,9 +66,30 @@ QStringList FactsOf(const SummaryTextView& view)
 QStringList NotOfferedFacts(const MenuControl& menu)
 {
     QStringList facts;
-    for (const MenuItem& item : menu.shownNotOffered())
-        facts << WithCaution(item.title);
+    for (const MenuPath& path : menu.shownNotOffered()) {
+        if (const MenuItem* item = menu.itemAt(path))
+            facts << WithCaution(item->title);
+    }
     return facts;
+}
+
+void AddNotOffered(const MenuControl& menu, std::vector<NotOffered>& found)
+{
+    for (const MenuPath& path : menu.shownNotOffered()) {
+        const MenuItem* item = menu.itemAt(path);
+        const MenuItem* instead = menu.itemAt(menu.insteadOf(path));
+        if (item)
+            found.push_back({ControlName(menu), item->title, instead ? instead->title : QString()});
+    }
+}
+
+// A number that a field shows beyond its limits.
+QStringList FieldFacts(const QWidget& control)
+{
+    const auto* field = qobject_cast<const SpinField*>(&control);
+    if (!field || !field->isBeyondLimits())
+        return {};
+    return {WithCaution(ControlName(*field) + u' ' + field->text())};
 }
 
 } // namespace
@@ -109,11 +131,11 @@ QStringList SummaryFacts(const QString& summary)
 std::vector<NotOffered> FindNotOffered(const QWidget& window)
 {
     std::vector<NotOffered> found;
-    for (const MenuControl* control : window.findChildren<MenuControl*>()) {
-        for (const MenuItem& item : control->shownNotOffered()) {
-            const MenuItem* instead = control->itemAt({item.instead});
-            found.push_back({ControlName(*control), item.title, instead ? instead->title : QString()});
-        }
+    for (const MenuControl* control : window.findChildren<MenuControl*>())
+        AddNotOffered(*control, found);
+    for (const SpinField* field : window.findChildren<SpinField*>()) {
+        if (field->isBeyondLimits())
+            found.push_back({ControlName(*field), field->text(), field->nearestText()});
     }
     return found;
 }
@@ -123,6 +145,10 @@ void ReplaceNotOffered(QWidget& window)
     for (const QPointer<MenuControl> control : window.findChildren<MenuControl*>()) {
         if (control)
             control->chooseInstead();
+    }
+    for (const QPointer<SpinField> field : window.findChildren<SpinField*>()) {
+        if (field && field->isBeyondLimits())
+            field->takeNearest();
     }
 }
 
@@ -135,7 +161,7 @@ QStringList WindowSummary(const QWidget& window)
         const auto* menu = qobject_cast<const MenuControl*>(control);
         const QStringList notOffered = menu ? NotOfferedFacts(*menu) : QStringList(); // told in any case
         if (!place.isValid())
-            unplaced += notOffered;
+            unplaced += notOffered + FieldFacts(*control);
         if (!place.isValid() || (IsHiddenItself(*control) && notOffered.isEmpty()))
             continue;
         if (const QVariant phrases = control->property(kPhrases); phrases.isValid())

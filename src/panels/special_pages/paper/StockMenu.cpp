@@ -76,6 +76,8 @@ void ShowStock(const _StockMenuCommandEventHandlerData& data)
         UpdateSummaryTextView(data.summaryView, text);
     if (data.button && data.summaryView)
         data.button->setAccessibleDescription(text);
+    if (data.button)
+        data.button->changeItems([&data](Menu& menu) { AddNotOffered(menu, *data.bundle, data.context, data.stock); });
 }
 
 void EnableStockMenuCommand(const _StockMenuCommandEventHandlerData& data, FourCharCode command, bool enabled)

@@ -1,5 +1,6 @@
 #include "panels/special_pages/paper/StockMenuRules.h"
 
+#include "panels/special_pages/paper/StockSummary.h"
 #include "platform/plugins/Bundle.h"
 #include "printer/InstallableOptions.h"
 
@@ -122,6 +123,39 @@ void EnableStockCommand(Menu& menu, FourCharCode command, bool enabled)
 void MarkStock(Menu& menu, const Stock* stock)
 {
     MarkItems(menu.items, stock);
+}
+
+namespace {
+
+std::optional<PPDKeyword> OptionOfSubmenu(const std::vector<MenuItem>& items)
+{
+    switch (items.empty() ? kNoCommand : items.front().command) {
+    case kStockSizeCommand:
+        return PPDKeyword("PageSize");
+    case kStockColorCommand:
+        return PPDKeyword("MediaColor");
+    case kStockTypeCommand:
+        return PPDKeyword("MediaType");
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+void AddNotOffered(Menu& menu, const Bundle& bundle, JobContext context, const Stock* stock)
+{
+    for (MenuItem& title : menu.items) {
+        std::erase_if(title.submenu, [](const MenuItem& item) { return item.notOffered; });
+        const std::optional<PPDKeyword> option = OptionOfSubmenu(title.submenu);
+        if (!option || !stock)
+            continue;
+        const Menu offered{.items = title.submenu};
+        if (auto item = StockItemNotOffered(bundle, context, *stock, *option, offered)) {
+            item->checked = true;
+            title.submenu.push_back(std::move(*item));
+        }
+    }
 }
 
 void ForgetStockName(Stock& stock)

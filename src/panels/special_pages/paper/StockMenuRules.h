@@ -31,6 +31,9 @@ void PopulateStockMenu(Menu& menu, const Bundle& bundle, JobContext context);
 void EnableStockCommand(Menu& menu, FourCharCode command, bool enabled);
 // Marks what the stock has now of what the menu offers, without a stock nothing. Items of an owner's stay as they are.
 void MarkStock(Menu& menu, const Stock* stock);
+// Adds to the submenus of a whole paper menu what the stock has and the printer does not offer, in the place of what
+// was added so before.
+void AddNotOffered(Menu& menu, const Bundle& bundle, JobContext context, const Stock* stock);
 
 // Does to the stock what a command does that asks no more of the user: every one but advanced and a custom size. False,
 // and nothing done, for any other command.

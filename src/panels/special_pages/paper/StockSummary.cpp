@@ -7,6 +7,8 @@
 
 #include <QStringList>
 
+#include <string_view>
+
 using namespace Qt::StringLiterals;
 
 namespace kesta {
@@ -90,13 +92,21 @@ private:
 
 // Of a printer that has the option and not this choice. A choice that has no number is known of the job alone; a number
 // that is no choice has no text.
-Text OrNotOffered(const Text& text, const Bundle& bundle, JobContext context, PPDKeyword option, SInt32 value)
+std::optional<MenuItem> ItemWithoutText(const Bundle& bundle, JobContext context, PPDKeyword option, SInt32 value,
+                                        const Menu& menu)
 {
     const bool isUnmapped = value == kUnmappedChoice;
     const bool isChoice = isUnmapped ? context == JobContext::Job : PPDChoiceForTicketValue(option, value) != nullptr;
-    if (text || !isChoice || !PPDCopyDefaultChoice(PPDGetCurrent(), option.name()))
+    if (!isChoice || !PPDCopyDefaultChoice(PPDGetCurrent(), option.name()))
+        return std::nullopt;
+    return ItemForOther(bundle, {.option = option}, PPDGetCurrent(), menu, value, kUnset);
+}
+
+Text OrNotOffered(const Text& text, const Bundle& bundle, JobContext context, PPDKeyword option, SInt32 value)
+{
+    if (text)
         return text;
-    const auto item = ItemForOther(bundle, {.option = option}, PPDGetCurrent(), Menu(), value, kUnset);
+    const auto item = ItemWithoutText(bundle, context, option, value, Menu());
     return !item ? Text() : item->notOffered ? WithCaution(item->title) : item->title;
 }
 
@@ -117,6 +127,20 @@ void AddPaper(Parts& parts, const Bundle& bundle, JobContext context, const Stoc
 }
 
 } // namespace
+
+std::optional<MenuItem> StockItemNotOffered(const Bundle& bundle, JobContext context, const Stock& stock,
+                                            PPDKeyword option, const Menu& menu)
+{
+    if (stock.source() != kUnset || stock.customNameOnly())
+        return std::nullopt;
+    const std::string_view keyword = option.name();
+    const bool isSize = keyword == "PageSize", isColor = keyword == "MediaColor";
+    const Text text = isSize ? StockSizeText(stock) : isColor ? StockColorText(stock) : StockTypeText(bundle, stock);
+    const SInt32 value = isSize ? stock.size() : isColor ? stock.color() : stock.type();
+    const bool isTold = isSize ? context != JobContext::Job : !isColor || value != kStockColorText;
+    const auto item = text || !isTold ? std::nullopt : ItemWithoutText(bundle, context, option, value, menu);
+    return item && item->notOffered ? item : std::nullopt;
+}
 
 QString GenerateStockSummary(const Bundle& bundle, JobContext context, const Stock& stock, const QString& separator)
 {

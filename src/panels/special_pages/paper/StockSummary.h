@@ -1,6 +1,8 @@
 #pragma once
 
 #include "model/Stock.h"
+#include "printer/PPDUtilities.h"
+#include "toolkit/controls/Menu.h"
 
 namespace kesta {
 
@@ -10,6 +12,11 @@ struct Bundle;
 std::optional<QString> StockSizeText(const Stock& stock);
 std::optional<QString> StockColorText(const Stock& stock);
 std::optional<QString> StockTypeText(const Bundle& bundle, const Stock& stock);
+
+// For a menu of the option's choices: what the paper has of it, where this printer does not offer that. Nothing where
+// the summary does not tell of the option.
+std::optional<MenuItem> StockItemNotOffered(const Bundle& bundle, JobContext context, const Stock& stock,
+                                            PPDKeyword option, const Menu& menu);
 
 // The post-print inserter in words; where none is fitted, it says so.
 QString StockInserterText(const Bundle& bundle);
