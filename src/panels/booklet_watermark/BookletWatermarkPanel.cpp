@@ -111,6 +111,5 @@ constexpr PanelOperations<_BookletWatermarkContext> kOperations{
 
 KestaStatus GetBookletWatermarkPanelInterface(const PanelInterfaceHolder** holder)
 {
-    *holder = &kesta::PanelSlots<kesta::booklet_watermark::kOperations>::kHolder;
-    return kesta::noErr;
+    return kesta::GivePanel<kesta::booklet_watermark::kOperations>(holder);
 }
